@@ -1,0 +1,44 @@
+# Settings that every target shares, and the three kinds of target there are: a layer, a program, a test.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+option(AGGNORVO_WERROR "Treat warnings as errors" ON)
+add_library(aggnorvo_options INTERFACE)
+target_compile_options(aggnorvo_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+  $<$<BOOL:${AGGNORVO_WERROR}>:-Werror>)
+target_include_directories(aggnorvo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# layer(NAME [DEPENDENCY...]): every .cpp of the current folder as library NAME.
+function(layer name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE aggnorvo_options)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+endfunction()
+
+# program(NAME SOURCES file... LIBRARIES library...)
+function(program name)
+  cmake_parse_arguments(PARSE_ARGV 1 P "" "" "SOURCES;LIBRARIES")
+  add_executable(${name} ${P_SOURCES})
+  target_link_libraries(${name} PRIVATE ${P_LIBRARIES} aggnorvo_options)
+endfunction()
+
+# test_binary(NAME library...): every .cpp of the current folder as one GoogleTest binary.
+function(test_binary name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest GTest::gmock GTest::gtest_main aggnorvo_options)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name})
+endfunction()

@@ -1,0 +1,64 @@
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "apps/aggnorvo/commands.h"
+#include "apps/aggnorvo/options.h"
+#include "apps/command_line.h"
+#include "platform/paths.h"
+#include "platform/program.h"
+#include "runtime/error.h"
+
+namespace {
+
+const char* const description =
+    "Aggiorna il database di un'applicazione della suite Norvo. Senza comandi apre la finestra.\n";
+
+const char* const notes =
+    "\nStato di uscita: 0 aggiornamento terminato; 1 non riuscito, il database è com'era; 2 rifiutato prima "
+    "di\n"
+    "cominciare, nulla è stato scritto; 4 non riuscito, il database non è com'era; 64 uso errato.";
+
+/// Adds the commands, one at a time to be chosen, and returns the options that choose them.
+std::vector<CLI::Option*> addCommands(CLI::App& app,
+                                      const std::vector<std::unique_ptr<aggnorvo::Command>>& commands) {
+  std::vector<CLI::Option*> choices;
+  for (const auto& command : commands) {
+    CLI::Option* chosen = app.add_flag(command->name())->description(command->help())->group("Comandi");
+    for (CLI::Option* other : choices) chosen->excludes(other);
+    command->addOptions(app, chosen);
+    choices.push_back(chosen);
+  }
+  return choices;
+}
+
+/// The window is a program of its own, beside this one.
+int openWindow(int argc, char** argv) {
+  const std::string window = platform::executableFolder() + "\\aggnorvo-window";
+  try {
+    return platform::continueAs(window, {argv + 1, argv + argc});
+  } catch (const runtime::Error& error) {
+    std::cerr << "aggnorvo: " << platform::toSystemPath(window) << ": " << error.description() << "\n";
+    return console::Refused;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  platform::keepRunningOnWriteSignals();
+  CLI::App app(description, "aggnorvo");
+  apps::speakItalian(app);
+  app.footer(notes);
+  console::ProgramOptions program;
+  aggnorvo::addProgramOptions(app, program);
+  const auto commands = aggnorvo::commands();
+  const auto choices = addCommands(app, commands);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return apps::answer(app, error);
+  }
+  for (std::size_t command = 0; command < commands.size(); ++command)
+    if (choices[command]->count() > 0) return commands[command]->run(program);
+  return openWindow(argc, argv);
+}

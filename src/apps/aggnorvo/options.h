@@ -1,0 +1,14 @@
+#pragma once
+
+#include "console/program_options.h"
+
+namespace CLI {
+class App;
+}
+
+namespace aggnorvo {
+
+/// The options that both programs have.
+void addProgramOptions(CLI::App& app, console::ProgramOptions& options);
+
+}  // namespace aggnorvo

@@ -1,0 +1,30 @@
+#include <CLI/CLI.hpp>
+#include <QApplication>
+
+#include "apps/aggnorvo/options.h"
+#include "apps/command_line.h"
+#include "console/frmAggMain.h"
+#include "platform/paths.h"
+#include "platform/program.h"
+#include "platform/settings.h"
+#include "qt/qt_desktop.h"
+
+int main(int argc, char** argv) {
+  platform::keepRunningOnWriteSignals();
+  QApplication application(argc, argv);
+  CLI::App app("Apre la finestra dell'aggiornamento.\n", "aggnorvo-window");
+  apps::speakItalian(app);
+  console::ProgramOptions program;
+  aggnorvo::addProgramOptions(app, program);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return apps::answer(app, error);
+  }
+  const auto settings = console::openSettings(program);
+  qt::QtDesktop desktop;
+  controls::DesktopScope scope(desktop);
+  console::frmAggMain window({*settings, console::programFolder(program)});
+  window.show();
+  return desktop.run();
+}

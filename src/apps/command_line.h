@@ -1,0 +1,22 @@
+#pragma once
+
+namespace CLI {
+class App;
+class ParseError;
+}  // namespace CLI
+
+/// What the programs' command lines have in common.
+namespace apps {
+
+/// Exit status of a command line that can't be understood.
+inline constexpr int wrongUsage = 64;
+
+/// Italian headings and words for the help that the parser makes, with --help and --version. Call it before
+/// the options are added.
+void speakItalian(CLI::App& app);
+
+/// The answer to an interrupted parse: --help and --version on standard output give 0; anything else is told
+/// on standard error and gives wrongUsage.
+int answer(const CLI::App& app, const CLI::ParseError& error);
+
+}  // namespace apps

@@ -1,0 +1,130 @@
+#include "apps/jetsql/commands.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string_view>
+
+#include "apps/jetsql/design.h"
+#include "apps/jetsql/output.h"
+#include "jet/dao/database.h"
+#include "runtime/error.h"
+
+namespace jetsql {
+namespace {
+
+using jet::dao::Database;
+
+constexpr std::string_view blanks = " \t\r\n";
+
+std::string trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
+}
+
+/// Takes a name, in brackets where it holds blanks, off the front of `text`.
+std::string takeName(std::string& text) {
+  const bool bracketed = text.starts_with('[') && text.find(']') != std::string::npos;
+  const auto end = bracketed ? text.find(']') : text.find_first_of(blanks);
+  const std::string name = bracketed ? text.substr(1, end - 1) : text.substr(0, end);
+  text = end == std::string::npos ? "" : trimmed(std::string_view(text).substr(end + (bracketed ? 1 : 0)));
+  return name;
+}
+
+bool isSystemTable(const std::string& name) {
+  static constexpr std::string_view prefix = "msys";
+  return name.size() >= prefix.size() &&
+         std::equal(prefix.begin(), prefix.end(), name.begin(),
+                    [](char a, char b) { return a == std::tolower(static_cast<unsigned char>(b)); });
+}
+
+void refuseArguments(const std::string& arguments) {
+  if (!arguments.empty()) throw runtime::Error(5, "jetsql", "Argomento non previsto: " + arguments);
+}
+
+void listTables(Database& database, const std::string& arguments, Output& output) {
+  refuseArguments(arguments);
+  output.columns({"Name", "System"});
+  for (const auto& name : database.tableNames()) output.row({name, isSystemTable(name)});
+}
+
+void showDesign(Database& database, const std::string& arguments, Output& output) {
+  std::string rest = arguments;
+  const std::string chosen = takeName(rest);
+  refuseArguments(rest);
+  std::string text;
+  if (!chosen.empty()) {
+    text = designStatements(*database.TableDefs(chosen));
+  } else {
+    for (const auto& name : database.tableNames()) {
+      if (!isSystemTable(name)) text += designStatements(*database.TableDefs(name));
+    }
+  }
+  output.text(text);
+}
+
+void listQueries(Database& database, const std::string& arguments, Output& output) {
+  refuseArguments(arguments);
+  output.columns({"Name"});
+  for (const auto& name : database.queryNames()) output.row({name});
+}
+
+void listRelations(Database& database, const std::string& arguments, Output& output) {
+  refuseArguments(arguments);
+  output.columns({"Name", "Table", "ForeignTable", "Attributes", "Fields"});
+  for (const auto& relation : database.Relations()) {
+    std::string fields;
+    for (const auto& pair : relation.Fields) {
+      fields += (fields.empty() ? "" : ", ") + pair.field + " = " + pair.foreignField;
+    }
+    output.row({relation.Name, relation.Table, relation.ForeignTable, relation.Attributes, fields});
+  }
+}
+
+void storeQuery(Database& database, const std::string& arguments, Output&) {
+  std::string sql = arguments;
+  const std::string name = takeName(sql);
+  if (name.empty() || sql.empty())
+    throw runtime::Error(5, "jetsql", ".query vuole un nome e un'istruzione SQL");
+  database.CreateQueryDef(name, sql)->Close();
+}
+
+constexpr Command table[] = {
+    {".tables", "", "elenca le tabelle, anche quelle di sistema", listTables},
+    {".schema", "[TABELLA]", "mostra le istruzioni che creano la tabella, o tutte", showDesign},
+    {".queries", "", "elenca le query memorizzate", listQueries},
+    {".relations", "", "elenca le relazioni", listRelations},
+    {".query", "NOME SQL", "memorizza una query; un nome con spazi va tra parentesi quadre", storeQuery},
+};
+
+}  // namespace
+
+std::span<const Command> commands() {
+  return table;
+}
+
+const Command& commandOf(const std::string& line) {
+  const std::string_view name = std::string_view(line).substr(0, line.find_first_of(blanks));
+  for (const auto& command : commands()) {
+    if (command.name == name) return command;
+  }
+  throw runtime::Error(5, "jetsql", "Comando sconosciuto: " + std::string(name));
+}
+
+void runCommand(Database& database, const std::string& line, Output& output) {
+  const Command& command = commandOf(line);
+  command.run(database, trimmed(std::string_view(line).substr(std::string_view(command.name).size())),
+              output);
+}
+
+std::string commandsHelp() {
+  std::string text = "Comandi:\n";
+  for (const auto& command : commands()) {
+    std::string usage = std::string("  ") + command.name + " " + command.arguments;
+    usage.resize(std::max<std::size_t>(usage.size() + 1, 30), ' ');
+    text += usage + command.help + "\n";
+  }
+  return text;
+}
+
+}  // namespace jetsql

@@ -1,0 +1,49 @@
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "apps/command_line.h"
+#include "apps/jetsql/commands.h"
+#include "apps/jetsql/session.h"
+#include "platform/program.h"
+
+namespace {
+
+const char* const description = "Esegue istruzioni SQL di Jet su un database .mdb e ne mostra le righe.\n";
+
+const char* const notes =
+    "Senza istruzioni tra gli argomenti legge lo standard input: testo UTF-8, ogni istruzione chiusa da un\n"
+    "punto e virgola a fine riga; una riga che comincia con -- è un commento. Al primo errore si ferma e "
+    "nulla\n"
+    "di ciò che ha fatto viene salvato. Senza --readonly il database è aperto in modo esclusivo.\n"
+    "Stato di uscita: 0 tutto eseguito, 1 errore, 64 uso errato.";
+
+void declare(CLI::App& app, jetsql::Request& request) {
+  app.add_option("FILE.mdb", request.file, "Il database")->required()->type_name("");
+  app.add_option("SQL", request.statements, "Istruzioni o comandi, uno per argomento")->type_name("");
+  const auto create = app.add_flag("--create", request.create, "Crea il database, nel formato Jet 4");
+  app.add_flag("--readonly", request.readOnly, "Apre il database in sola lettura")->excludes(create);
+  app.add_flag("--json", request.json, "Mostra ogni riga come oggetto JSON");
+  app.add_option(
+         "--param", request.answers,
+         "Risponde al parametro NOME; il valore è scritto come in SQL: 12, 'testo', #2026-11-16#, NULL")
+      ->type_name("NOME=VALORE")
+      ->allow_extra_args(false);
+  app.footer("\n" + jetsql::commandsHelp() + "\n" + notes);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  platform::keepRunningOnWriteSignals();
+  std::ios::sync_with_stdio(false);
+  CLI::App app(description, "jetsql");
+  apps::speakItalian(app);
+  jetsql::Request request;
+  declare(app, request);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return apps::answer(app, error);
+  }
+  return jetsql::runSession(request, std::cin, std::cout, std::cerr);
+}

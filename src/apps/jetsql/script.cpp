@@ -1,0 +1,97 @@
+#include "apps/jetsql/script.h"
+
+#include <algorithm>
+#include <cctype>
+#include <istream>
+#include <string_view>
+
+#include "jet/file/text.h"
+#include "runtime/error.h"
+
+namespace jetsql {
+namespace {
+
+constexpr std::string_view blanks = " \t\r";
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// Follows quotes and brackets over the lines of one statement.
+class Quotes {
+ public:
+  void read(std::string_view line) {
+    for (const char c : line) {
+      if (open_ == 0 && (c == '\'' || c == '"' || c == '[')) {
+        open_ = c == '[' ? ']' : c;
+      } else if (c == open_) {
+        open_ = 0;
+      }
+    }
+  }
+  bool open() const { return open_ != 0; }
+
+ private:
+  char open_ = 0;  // the character that will close it
+};
+
+/// The conversion puts U+FFFD for what is no UTF-8.
+bool isUtf8(const std::string& line) {
+  return line.find("\xEF\xBF\xBD") != std::string::npos ||
+         jet::file::toUtf16(line).find(u'\xFFFD') == std::u16string::npos;
+}
+
+bool beginsWithWord(std::string_view text, std::string_view word) {
+  if (text.size() <= word.size() || !std::isspace(static_cast<unsigned char>(text[word.size()])))
+    return false;
+  return std::equal(word.begin(), word.end(), text.begin(),
+                    [](char a, char b) { return a == std::toupper(static_cast<unsigned char>(b)); });
+}
+
+}  // namespace
+
+bool Script::readLine(std::string& line) {
+  if (!std::getline(stream_, line)) return false;
+  if (++line_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+  if (!isUtf8(line)) {
+    throw runtime::Error(5, "jetsql", "La riga " + std::to_string(line_) + " non è un testo UTF-8");
+  }
+  return true;
+}
+
+std::optional<ScriptPiece> Script::next() {
+  ScriptPiece piece;
+  Quotes quotes;
+  bool declares = false;  // its PARAMETERS clause is not yet closed
+  std::string line;
+  while (readLine(line)) {
+    const auto content = trimmed(line);
+    if (piece.line == 0) {
+      if (content.empty() || content.starts_with("--")) continue;
+      piece.line = line_;
+      if (content.front() == '.') {
+        piece.text = content;
+        return piece;
+      }
+      declares = beginsWithWord(content, "PARAMETERS");
+    } else {
+      piece.text += '\n';
+    }
+    piece.text += line;
+    quotes.read(line);
+    if (quotes.open() || !content.ends_with(';')) {
+      // A clause that closes within the line leaves the next closing semicolon to the statement.
+      if (declares && content.find(';') != std::string_view::npos) declares = false;
+      continue;
+    }
+    const bool clauseOnly = declares && std::count(content.begin(), content.end(), ';') == 1;
+    if (!clauseOnly) return piece;
+    declares = false;
+  }
+  if (piece.line == 0) return std::nullopt;
+  return piece;
+}
+
+}  // namespace jetsql

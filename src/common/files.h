@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace common {
+
+/// True if the file can be opened for input; any failure is false.
+bool EsisteFile(const std::string& percorso);
+
+/// A path as an operator or a setting writes it, in the form that the suite keeps: one with the slashes of
+/// the system gets backslashes and becomes absolute.
+std::string PercorsoInterno(const std::string& percorso);
+
+}  // namespace common

@@ -1,0 +1,141 @@
+#include "console/batch.h"
+
+#include <algorithm>
+#include <memory>
+#include <ostream>
+
+#include "common/globale.h"
+#include "common/text.h"
+#include "console/frmAggMain.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/settings.h"
+
+namespace console {
+namespace {
+
+/// The main window on a desktop without an operator, loaded for as long as this lives.
+class BatchWindow {
+ public:
+  BatchWindow(const ProgramOptions& options, controls::BatchDesktop::Answer answer, std::ostream& err)
+      : settings_(openSettings(options)),
+        desktop_(err, answer),
+        scope_(desktop_),
+        form({*settings_, programFolder(options)}) {
+    common::NomeApplicazione.clear();
+    form.load();
+    if (!form.DbRiferimento)
+      err << "Il database di riferimento non può essere aperto: "
+          << platform::toSystemPath(form.PercorsoRiferimento) << std::endl;
+  }
+  ~BatchWindow() { form.unload(); }
+
+ private:
+  std::unique_ptr<platform::Settings> settings_;
+  controls::BatchDesktop desktop_;
+  controls::DesktopScope scope_;
+
+ public:
+  frmAggMain form;
+};
+
+/// The application as table Norvi writes it.
+std::optional<std::string> knownApplication(const frmAggMain& form, const std::string& name) {
+  const auto norvi = form.DbRiferimento->OpenRecordset("Norvi", jet::dao::dbOpenTable, jet::dao::dbReadOnly);
+  for (; !norvi->atEnd(); norvi->MoveNext()) {
+    const runtime::Variant norvo = norvi->value("norvo");
+    if (!norvo.isNull() && common::StessoTesto(norvo.toText(), name)) return norvo.toText();
+  }
+  return std::nullopt;
+}
+
+/// Makes the operator's choice in the window. Returns why it can't be made; empty if it is made.
+std::string choose(frmAggMain& form, const BatchOptions& options) {
+  std::string name;
+  if (options.app) {
+    const auto known = knownApplication(form, *options.app);
+    if (!known) return "Applicazione sconosciuta: " + *options.app;
+    name = *known;
+  }
+  if (options.database) {
+    form.txtAltroDB.setText(platform::fromSystemPath(*options.database));
+    common::NomeApplicazione = name;
+    return {};
+  }
+  if (options.app) {
+    const auto installed =
+        std::find_if(form.ColNomi.begin(), form.ColNomi.end(),
+                     [&](const std::string& row) { return common::StessoTesto(row, name); });
+    if (installed == form.ColNomi.end())
+      return "Applicazione non installata, il suo database non è registrato o non esiste: " + name;
+    form.lstDatabase.setListIndex(static_cast<int>(installed - form.ColNomi.begin()) + 1);
+  }
+  return form.lstDatabase.listIndex() < 1 ? form.lstDatabase.list(0) : std::string();
+}
+
+/// Why the run did not begin, where no box has said it.
+void explainRefusal(const Corsa& run, std::ostream& err) {
+  if (run.esito == Esito::NonScelta)
+    err << "Database inesistente o non leggibile: " << platform::toSystemPath(run.database) << std::endl;
+  if (run.esito == Esito::SenzaNome)
+    err << "Nome dell'applicazione non indicato: aggiornamento non eseguito." << std::endl;
+}
+
+bool isAsItWas(const Corsa& run) {
+  if (!run.databaseAperto) return true;
+  try {
+    return platform::sameContent(run.database, run.backup);
+  } catch (const runtime::Error&) {
+    return false;
+  }
+}
+
+/// Copies what the summary grows by to `out`, with the line ends of a stream.
+void streamSummary(controls::TextBox& summary, std::ostream& out) {
+  summary.appended.connect([&out](std::string_view text) {
+    for (const char letter : text)
+      if (letter != '\r') out << letter;
+    out.flush();
+  });
+}
+
+}  // namespace
+
+int exitStatus(const Corsa& run) {
+  if (run.esito <= Esito::ApertoAltrove) return Refused;
+  if (run.esito == Esito::Completata && !run.erroreInChiusura && !run.erroreTrattenuto) return Done;
+  return isAsItWas(run) ? FailedUnchanged : FailedChanged;
+}
+
+int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) {
+  BatchWindow window(options, options.answer, err);
+  frmAggMain& form = window.form;
+  if (!form.DbRiferimento) return Refused;
+  if (const std::string refusal = choose(form, options); !refusal.empty()) {
+    err << refusal << std::endl;
+    return Refused;
+  }
+  streamSummary(form.txtRiepilogo, out);
+  try {
+    form.cmdAggiorna_Click();
+  } catch (const std::exception& failure) {
+    err << "Errore imprevisto: " << failure.what() << std::endl;
+    return form.UltimaCorsa.databaseAperto ? FailedChanged : FailedUnchanged;
+  }
+  const std::string& summary = form.txtRiepilogo.text();
+  if (!summary.empty() && summary.back() != '\n') out << std::endl;
+  explainRefusal(form.UltimaCorsa, err);
+  return exitStatus(form.UltimaCorsa);
+}
+
+int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err) {
+  BatchWindow window(options, controls::BatchDesktop::Answer::Default, err);
+  const frmAggMain& form = window.form;
+  if (!form.DbRiferimento) return Refused;
+  for (std::size_t row = 0; row < form.ColNomi.size(); ++row)
+    out << form.ColNomi[row] << '\t' << platform::toSystemPath(form.ColPercorsi[row]) << '\n';
+  out.flush();
+  return Done;
+}
+
+}  // namespace console

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "console/program_options.h"
+#include "controls/batch_desktop.h"
+
+/// The update without a window: the same form that the operator uses, driven from the command line.
+namespace console {
+
+struct Corsa;
+
+/// Exit statuses of the programs.
+enum ExitStatus : int {
+  Done = 0,
+  FailedUnchanged = 1,  // the target is as it was
+  Refused = 2,          // before it began; nothing written
+  FailedChanged = 4,    // the target is not as it was, or nobody can tell
+  WrongUsage = 64,
+};
+
+struct BatchOptions : ProgramOptions {
+  std::optional<std::string> app;       // a name of table Norvi, without regard to case
+  std::optional<std::string> database;  // as the system writes it
+  controls::BatchDesktop::Answer answer = controls::BatchDesktop::Answer::Default;
+};
+
+/// The exit status that a run earns: after any failure the target is compared with the backup, byte by byte.
+int exitStatus(const Corsa& run);
+
+/// Updates the database of `app`, or `database`, or the application that the patch was built for. The summary
+/// goes to `out` as it grows, with LF line ends; boxes, questions and refusals to `err`. Returns an
+/// ExitStatus.
+int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);
+
+/// Writes the applications that the window would list, one a line: name, TAB, path as the system writes it.
+/// Returns Done, or Refused without a reference database.
+int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err);
+
+}  // namespace console

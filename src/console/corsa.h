@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace console {
+
+/// How a run of the update ended.
+enum class Esito {
+  NonScelta,      // no database chosen, or its file isn't there: nothing was done
+  Vietata,        // the marker file forbids it: nothing was done
+  SenzaNome,      // no application was named: nothing was done
+  ApertoAltrove,  // the database is open elsewhere and the operator gave up: nothing was done
+  Fallita,        // an error, answered by the rollback
+  NonRimossa,     // saved; the compacted file of an earlier run is in the way
+  NonCompattata,  // saved, but not compacted
+  Ripristinata,   // the record counts differ, and the backup was copied back
+  Completata,     // saved, compacted and checked
+};
+
+/// The tables whose records are counted before and after a run, in this order.
+inline constexpr std::array<const char*, 6> TabelleControllo = {"ragioniere",    "praticante", "associati",
+                                                                "simpatizzante", "enti",       "gruppi"};
+
+/// True for the errors by which a database says that it is made otherwise than expected: a table (3078) or a
+/// field (3061) that it doesn't have, a field of another type (3464). A run goes on from them as told; any
+/// other error in the same place is a fault of the file or its disk.
+bool diDisegno(int numero);
+
+/// One run of the update: the paths and values that belong to it alone, and how it ended.
+struct Corsa {
+  Corsa() = default;
+  /// Forms the paths beside the target at `percorso`; `ora` is the start as "yyyymmddhhnnss".
+  Corsa(const std::string& percorso, const std::string& ora);
+
+  std::string database;         // the target
+  std::string backup;           // its copy of before the run
+  std::string compattato;       // its compacted copy
+  bool usaTransazione = false;  // set when the target is open, unless its parameter says otherwise
+  std::array<std::int32_t, TabelleControllo.size()> conteggi{};  // -1: could not be counted
+
+  Esito esito = Esito::NonScelta;
+  bool databaseAperto = false;    // the target was opened for writing
+  bool erroreTrattenuto = false;  // a step with a trap of its own met an error that is no matter of design
+  bool erroreInChiusura = false;  // an error was passed over after the commit
+};
+
+}  // namespace console

@@ -1,0 +1,57 @@
+// The clean-up of the list of municipalities before a run.
+#include "common/text.h"
+#include "console/frmAggMain.h"
+
+namespace console {
+namespace {
+
+/// The value of a row as it goes into an SQL text; a Null counts as empty.
+std::string inSql(jet::dao::Recordset& righe, const char* campo) {
+  const runtime::Variant valore = righe.value(campo);
+  return valore.isNull() ? std::string() : common::SostituisciTutto(valore.toText(), "'", "''");
+}
+
+/// Deletes the earliest of the rows like the current one of `gruppi`; false if there is only one.
+bool eliminaPrimo(jet::dao::Database& db, jet::dao::Recordset& gruppi) {
+  const auto comuni =
+      db.OpenRecordset("SELECT * FROM italia_comuni WHERE ISTAT = '" + inSql(gruppi, "ISTAT") +
+                           "' AND Comune = '" + inSql(gruppi, "Comune") + "' AND PROVINCIA = '" +
+                           inSql(gruppi, "PROVINCIA") + "' ORDER BY DataFine",
+                       jet::dao::dbOpenDynaset);
+  const bool doppio = comuni->RecordCount() > 1;
+  if (doppio) comuni->Delete();
+  comuni->Close();
+  return doppio;
+}
+
+}  // namespace
+
+void frmAggMain::EliminaComuniDuplicati(bool& esito) {
+  esito = false;
+  try {
+    const auto gruppi = DbDestinazione->OpenRecordset(
+        "SELECT ISTAT, Comune, PROVINCIA, COUNT(*) AS Conta FROM italia_comuni GROUP BY ISTAT, Comune, "
+        "PROVINCIA "
+        "HAVING COUNT(*) > 1",
+        jet::dao::dbOpenSnapshot);
+    if (!gruppi->atEnd()) ScriviRiepilogo("Tabella italia_comuni: eliminazione comuni duplicati ....", true);
+    while (!gruppi->atEnd()) {
+      bool eliminati = false;
+      for (; !gruppi->atEnd(); gruppi->MoveNext())
+        if (eliminaPrimo(*DbDestinazione, *gruppi)) eliminati = true;
+      // Rows with a Null are a group, but no row equals a Null: without this they would be asked for for
+      // ever.
+      if (!eliminati) break;
+      gruppi->Requery();
+      if (gruppi->atEnd()) ScriviRiepilogo("fatto", false);
+    }
+    gruppi->Close();
+    esito = true;
+  } catch (const runtime::Error& errore) {
+    if (!diDisegno(errore.number())) UltimaCorsa.erroreTrattenuto = true;
+    ScriviRiepilogo("- errore " + std::to_string(errore.number()) + "-", true);
+    ScriviRiepilogo(std::string(errore.description()), true);
+  }
+}
+
+}  // namespace console

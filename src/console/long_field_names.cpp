@@ -1,0 +1,60 @@
+// Names of fields that later versions of the suite have shortened.
+#include <array>
+#include <optional>
+
+#include "common/records.h"
+#include "common/text.h"
+#include "console/frmAggMain.h"
+
+namespace console {
+namespace {
+
+struct NomeLungo {
+  const char* nome;
+  const char* nuovo;
+};
+
+constexpr std::array NomiLunghi = {
+    NomeLungo{"ds_regione_certificatore_energetico", "ds_reg_cert_energetico"},
+    NomeLungo{"ds_regione_certificatore_acustico", "ds_reg_cert_acustico"},
+    NomeLungo{"ds_regione_certificatore_energetico2", "ds_reg_cert_energetico2"},
+    NomeLungo{"CompagniaAssicurazioneProfessionale", "CompagniaAssicurazione"},
+};
+
+struct CampoLungo {
+  jet::dao::Field campo;
+  std::string nuovo;
+};
+
+/// The table's first field with a long name.
+std::optional<CampoLungo> primoCampoLungo(jet::dao::TableDef& tabella) {
+  for (std::size_t campo = 0; campo < tabella.fieldCount(); ++campo) {
+    const std::string nome = tabella.Fields(campo).Name();
+    for (const NomeLungo& voce : NomiLunghi)
+      if (common::StessoTesto(nome, voce.nome)) return CampoLungo{tabella.Fields(campo), voce.nuovo};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+void frmAggMain::RinominaCampiLunghi(const std::string& tabella, bool& esito) {
+  esito = false;
+  try {
+    const auto definizione = DbDestinazione->TableDefs(tabella);
+    while (auto lungo = primoCampoLungo(*definizione)) {
+      const std::string nome = lungo->campo.Name();
+      ScriviRiepilogo("Tabella " + tabella + " - campo " + nome + " in modifica", true);
+      if (common::EsisteCampo(tabella, lungo->nuovo, DbDestinazione)) {
+        definizione->deleteField(nome);
+      } else {
+        lungo->campo.setName(lungo->nuovo);
+      }
+    }
+    esito = true;
+  } catch (const runtime::Error&) {
+    // Only the failure counts: the run stops at it without a number.
+  }
+}
+
+}  // namespace console

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "controls/desktop.h"
+
+namespace controls {
+
+/// A desktop without an operator: boxes and questions become lines of a stream, answered from the command
+/// line.
+class BatchDesktop : public Desktop {
+ public:
+  /// The answer to the questions; Default: the default button of each.
+  enum class Answer { Default, Yes, No, Cancel };
+
+  /// `out` receives the boxes and outlives this. `application` answers an input box; without it the default
+  /// text does, or nothing if the answer is No or Cancel.
+  explicit BatchDesktop(std::ostream& out, Answer answer = Answer::Default,
+                        std::optional<std::string> application = std::nullopt);
+
+  /// Called by doEvents(), for example to write out what the summary has grown by.
+  void setEventsHook(std::function<void()> hook) { hook_ = std::move(hook); }
+  /// True once the product has asked to end the program.
+  bool ended() const { return ended_; }
+
+  /// Always given up: there is nobody to choose.
+  bool showOpen(CommonDialog& dialog) override;
+  void doEvents() override;
+  void setMousePointer(MousePointer) override {}
+  int screenWidth() const override { return 0; }
+  int screenHeight() const override { return 0; }
+  void loadForm(Form&) override {}
+  /// A modal window is unloaded at once, as nobody could leave it.
+  void showForm(Form& form, bool modal) override;
+  void unloadForm(Form&) override {}
+  void endProgram() override { ended_ = true; }
+
+ protected:
+  MessageAnswer showBox(const std::string& text, int style, const std::string& title) override;
+  std::string showInput(const std::string& prompt, const std::string& title,
+                        const std::string& text) override;
+
+ private:
+  MessageAnswer answerTo(int style) const;
+  void write(std::string_view kind, const std::string& title, const std::string& text);
+
+  std::ostream& out_;
+  Answer answer_;
+  std::optional<std::string> application_;
+  std::function<void()> hook_;
+  bool ended_ = false;
+};
+
+}  // namespace controls

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "controls/control.h"
+
+namespace controls {
+
+/// The dialog that asks for a file. Its properties are set before showOpen() and fileName() read after it.
+class CommonDialog : public Control {
+ public:
+  using Control::Control;
+
+  /// Bits of flags().
+  enum Flag : int { HideReadOnly = 4, FileMustExist = 4096 };
+  /// Error raised for a cancelled dialog if cancelError() is set.
+  static constexpr int Cancelled = 32755;
+
+  /// Descriptions and patterns in turn: "Database Access (*.mdb)|*.mdb|Tutti|*.*".
+  const std::string& filter() const { return filter_; }
+  void setFilter(const std::string& filter) { assign(filter_, filter); }
+  int flags() const { return flags_; }
+  void setFlags(int flags) { assign(flags_, flags); }
+  const std::string& dialogTitle() const { return dialogTitle_; }
+  void setDialogTitle(const std::string& title) { assign(dialogTitle_, title); }
+  /// Full path with backslashes; a cancelled dialog leaves it as it was.
+  const std::string& fileName() const { return fileName_; }
+  void setFileName(const std::string& path) { assign(fileName_, path); }
+  bool cancelError() const { return cancelError_; }
+  void setCancelError(bool on) { assign(cancelError_, on); }
+
+  /// Asks the current desktop for an existing file. True if one was chosen; error 32755 for a cancelled
+  /// dialog if cancelError() is set.
+  bool showOpen();
+
+ private:
+  std::string filter_;
+  std::string dialogTitle_;
+  std::string fileName_;
+  int flags_ = 0;
+  bool cancelError_ = false;
+};
+
+}  // namespace controls

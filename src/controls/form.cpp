@@ -1,0 +1,66 @@
+#include "controls/form.h"
+
+#include <algorithm>
+
+#include "controls/desktop.h"
+
+namespace controls {
+
+Form::~Form() {
+  if (loaded_ && hasDesktop()) desktop().unloadForm(*this);
+}
+
+Control* Form::find(std::string_view name) const {
+  const auto found =
+      std::ranges::find_if(controlList_, [&](Control* control) { return control->name() == name; });
+  return found == controlList_.end() ? nullptr : *found;
+}
+
+runtime::Error Form::missing(std::string_view controlName) const {
+  return {runtime::InvalidCall, name(), "Controllo mancante: " + std::string(controlName)};
+}
+
+void Form::load() {
+  if (loaded_) return;
+  loaded_ = true;
+  desktop().loadForm(*this);
+  loading.raise();
+}
+
+void Form::show(bool modal) {
+  load();
+  if (loaded_) desktop().showForm(*this, modal);
+}
+
+bool Form::unload() {
+  if (!loaded_) return true;
+  if (busy()) {
+    unloadWaits_ = true;
+    return false;
+  }
+  bool refused = false;
+  queryUnload.raise(refused);
+  if (refused) return false;
+  loaded_ = false;
+  unloading.raise();
+  desktop().unloadForm(*this);
+  return true;
+}
+
+void Form::whileBusy(const std::function<void()>& work) {
+  struct Count {
+    int& busy;
+    explicit Count(int& count) : busy(count) { ++busy; }
+    ~Count() { --busy; }
+  };
+  {
+    Count count(busy_);
+    work();
+  }
+  if (unloadWaits_ && !busy()) {
+    unloadWaits_ = false;
+    unload();
+  }
+}
+
+}  // namespace controls

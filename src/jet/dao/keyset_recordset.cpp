@@ -1,0 +1,174 @@
+#include <algorithm>
+
+#include "jet/dao/positioned_recordset.h"
+#include "jet/dao/values.h"
+#include "jet/image/row_codec.h"
+
+namespace jet::dao {
+
+namespace {
+
+constexpr char Source[] = "DAO.Recordset";
+
+}  // namespace
+
+bool hasKeyset(const sql::RowStatement& plan) {
+  return plan.rowKeys == 1 && std::all_of(plan.columns.begin(), plan.columns.end(), [](const sql::ResultColumn& column) {
+           return !column.sourceColumn.empty();
+         });
+}
+
+KeysetRecordset::KeysetRecordset(std::shared_ptr<Session> session, sql::RowStatement plan, Answers answers,
+                                 bool readOnly)
+    : PositionedRecordset(session, resultFields(plan, session->runner())),
+      plan_(std::move(plan)),
+      answers_(std::move(answers)),
+      readOnly_(readOnly || session->readOnly()) {
+  const auto& table = session_->image().definition(page());
+  for (const auto& result : plan_.columns)
+    columns_.push_back(table.columns[*table.find(result.sourceColumn)].number);
+  fill();
+}
+
+void KeysetRecordset::fill() {
+  auto& runner = session_->runner();
+  auto rows = runner.prepare(plan_, answers_);
+  const int keyColumn = static_cast<int>(plan_.columns.size());
+  keys_.clear();
+  while (rows.statement.step()) keys_.push_back(rows.statement.integer(keyColumn));
+
+  std::string sql = "SELECT ";
+  for (const auto number : columns_) sql += image::columnName(number) + ",";
+  sql.back() = ' ';
+  fetch_ = runner.image().connection().prepare(sql + "FROM " + image::tableName(page()) + " WHERE rowid = ?1");
+  restart();
+}
+
+void KeysetRecordset::moved() {
+  fetched_ = false;
+  fetch_.reset();
+  mode_ = Mode::Browse;
+}
+
+void KeysetRecordset::fetch() const {
+  requireOpen();
+  if (gone_) throw runtime::Error(3167, Source, "Il record è stato eliminato");
+  if (!onRecord()) noCurrentRecord();
+  if (fetched_) return;
+  fetch_.reset();
+  fetch_.bind(1, keys_[static_cast<std::size_t>(position_)]);
+  if (!fetch_.step()) throw runtime::Error(3167, Source, "Il record è stato eliminato");
+  fetched_ = true;
+}
+
+const file::Column& KeysetRecordset::column(std::size_t field) const {
+  const auto& table = session_->image().definition(page());
+  return table.columns[*table.findNumber(columns_[field])];
+}
+
+runtime::Variant KeysetRecordset::fieldValue(std::size_t index) const {
+  if (mode_ != Mode::Browse && edits_[index]) return *edits_[index];
+  if (mode_ == Mode::Add) return runtime::Variant(runtime::Null{});
+  fetch();
+  return fromImage(fetch_, static_cast<int>(index), fields_[index].type);
+}
+
+void KeysetRecordset::setFieldValue(std::size_t index, const runtime::Variant& value) {
+  requireOpen();
+  if (mode_ == Mode::Browse)
+    throw runtime::Error(3020, Source, "Update o CancelUpdate senza AddNew o Edit");
+  edits_[index] = value;
+}
+
+void KeysetRecordset::requireChangeable() const {
+  requireOpen();
+  if (readOnly_) refuseChange();
+}
+
+void KeysetRecordset::Edit() {
+  requireChangeable();
+  fetch();
+  edits_.assign(fields_.size(), std::nullopt);
+  mode_ = Mode::Edit;
+}
+
+void KeysetRecordset::AddNew() {
+  requireChangeable();
+  edits_.assign(fields_.size(), std::nullopt);
+  mode_ = Mode::Add;
+}
+
+void KeysetRecordset::CancelUpdate() {
+  requireOpen();
+  if (mode_ == Mode::Browse) throw runtime::Error(3020, Source, "Update o CancelUpdate senza AddNew o Edit");
+  mode_ = Mode::Browse;
+}
+
+void KeysetRecordset::Update() {
+  requireChangeable();
+  if (mode_ == Mode::Browse) throw runtime::Error(3020, Source, "Update o CancelUpdate senza AddNew o Edit");
+  auto& image = session_->image();
+  const auto& table = image.definition(page());
+  std::vector<std::size_t> given;
+  for (std::size_t i = 0; i < edits_.size(); ++i)
+    if (edits_[i]) given.push_back(i);
+  std::string sql;
+  if (mode_ == Mode::Edit) {
+    if (given.empty()) {
+      mode_ = Mode::Browse;
+      return;
+    }
+    for (const auto field : given)
+      sql += (sql.empty() ? "UPDATE " + image::tableName(page()) + " SET " : std::string(", ")) +
+             image::columnName(columns_[field]) + " = ?" + std::to_string(field + 1);
+    sql += " WHERE rowid = " + std::to_string(keys_[static_cast<std::size_t>(position_)]);
+  } else {
+    // A Boolean that is not given is false, as it can't be null.
+    std::string names, values;
+    for (const auto& each : table.columns) {
+      const auto field = std::find(columns_.begin(), columns_.end(), each.number) - columns_.begin();
+      const bool known = static_cast<std::size_t>(field) < columns_.size() && edits_[static_cast<std::size_t>(field)];
+      if (!known && each.type != file::ColumnType::Boolean) continue;
+      names += (names.empty() ? "" : ", ") + image::columnName(each.number);
+      values += (values.empty() ? "" : ", ") + (known ? "?" + std::to_string(field + 1) : std::string("0"));
+    }
+    sql = "INSERT INTO " + image::tableName(page()) +
+          (names.empty() ? " DEFAULT VALUES" : "(" + names + ") VALUES (" + values + ")");
+  }
+  image.prepareToChange(page(), {});
+  auto statement = image.connection().prepare(sql);
+  for (const auto field : given)
+    bindField(statement, static_cast<int>(field + 1), *edits_[field], column(field), table.name);
+  statement.run();
+  image.markChanged(page());
+  if (mode_ == Mode::Add) keys_.push_back(sqlite3_last_insert_rowid(image.connection().handle()));
+  mode_ = Mode::Browse;
+  fetched_ = false;
+}
+
+void KeysetRecordset::Delete() {
+  requireChangeable();
+  fetch();
+  auto& image = session_->image();
+  fetch_.reset();
+  image.prepareToChange(page(), {});
+  auto statement = image.connection().prepare("DELETE FROM " + image::tableName(page()) + " WHERE rowid = ?1");
+  statement.bind(1, keys_[static_cast<std::size_t>(position_)]);
+  statement.run();
+  image.markChanged(page());
+  keys_.erase(keys_.begin() + position_);
+  fetched_ = false;
+  gone_ = true;
+}
+
+void KeysetRecordset::Requery() {
+  requireOpen();
+  fill();
+}
+
+void KeysetRecordset::Close() {
+  fetch_ = {};
+  open_ = false;
+}
+
+}  // namespace jet::dao

@@ -1,0 +1,214 @@
+#include "jet/file/text.h"
+
+#include <algorithm>
+
+#include "jet/file/bytes.h"
+#include "jet/file/errors.h"
+#include "platform/code_page.h"
+
+namespace jet::file {
+
+namespace {
+
+using Bytes = std::span<const std::byte>;
+
+constexpr std::byte Zero{0};
+constexpr char32_t Replacement = 0xFFFD;
+constexpr char16_t Mark = 0xFEFF;  // stored FF FE, what compressed text begins with
+
+bool isHigh(char32_t unit) {
+  return unit >= 0xD800 && unit < 0xDC00;
+}
+bool isLow(char32_t unit) {
+  return unit >= 0xDC00 && unit < 0xE000;
+}
+
+/// Joins surrogates on their way to UTF-8, across a change of mode too.
+class Utf16Decoder {
+ public:
+  explicit Utf16Decoder(std::string& out) : out_(out) {}
+
+  void put(char16_t unit) {
+    if (high_ != 0) {
+      const char32_t high = high_;
+      high_ = 0;
+      if (isLow(unit)) return appendUtf8(0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00), out_);
+      appendUtf8(Replacement, out_);
+    }
+    if (unit < 0x80)
+      out_.push_back(static_cast<char>(unit));
+    else if (isHigh(unit))
+      high_ = unit;
+    else
+      appendUtf8(isLow(unit) ? Replacement : unit, out_);
+  }
+  void end() {
+    if (high_ != 0) appendUtf8(Replacement, out_);
+  }
+
+ private:
+  std::string& out_;
+  char16_t high_ = 0;
+};
+
+/// Length of the run of ASCII without NUL in front: what most text is, and the same in every form of one
+/// byte.
+std::size_t asciiRun(Bytes bytes) {
+  const auto isOther = [](std::byte byte) { return byte == Zero || byte >= std::byte{0x80}; };
+  return static_cast<std::size_t>(std::ranges::find_if(bytes, isOther) - bytes.begin());
+}
+
+void appendAscii(Bytes ascii, std::string& out) {
+  out.append(reinterpret_cast<const char*>(ascii.data()), ascii.size());
+}
+
+bool isCompressed(Bytes field) {
+  return field.size() >= 2 && readU16(field.data()) == Mark;
+}
+
+void appendPlain(Bytes field, std::string& out) {
+  if (field.size() % 2 != 0)
+    throw damagedFile("testo di " + std::to_string(field.size()) + " byte, un numero dispari");
+  out.reserve(out.size() + field.size() / 2);
+  Utf16Decoder decoder(out);
+  for (std::size_t i = 0; i < field.size(); i += 2) decoder.put(readU16(&field[i]));
+  decoder.end();
+}
+
+// One byte a character and two bytes a character take turns; a zero byte changes over.
+void appendCompressed(Bytes packed, std::string& out) {
+  const std::size_t ascii = asciiRun(packed);
+  appendAscii(packed.first(ascii), out);
+  Utf16Decoder decoder(out);
+  bool wide = false;
+  for (std::size_t i = ascii; i < packed.size();) {
+    if (packed[i] == Zero) {
+      wide = !wide;
+      ++i;
+    } else if (!wide) {
+      decoder.put(std::to_integer<char16_t>(packed[i++]));
+    } else {
+      if (i + 1 == packed.size()) throw damagedFile("testo compresso interrotto a metà di un carattere");
+      decoder.put(readU16(&packed[i]));
+      i += 2;
+    }
+  }
+  decoder.end();
+}
+
+void appendCodePage(Bytes field, std::uint16_t codePage, std::string& out) {
+  const std::size_t ascii = asciiRun(field);
+  appendAscii(field.first(ascii), out);
+  for (const std::byte byte : field.subspan(ascii)) {
+    const auto value = std::to_integer<unsigned char>(byte);
+    if (value < 0x80) {
+      out.push_back(static_cast<char>(value));
+    } else if (codePage == 1252) {
+      appendUtf8(platform::codePage1252Character(value), out);
+    } else {
+      throw damagedFile("testo nella tabella codici " + std::to_string(codePage) + ", che non è gestita");
+    }
+  }
+}
+
+/// One code point of UTF-8 at `at`, which moves behind it.
+char32_t nextCharacter(std::string_view utf8, std::size_t& at) {
+  const auto lead = static_cast<unsigned char>(utf8[at++]);
+  if (lead < 0x80) return lead;
+  const int more = lead >= 0xF0 && lead < 0xF5   ? 3
+                   : lead >= 0xE0 && lead < 0xF0 ? 2
+                   : lead >= 0xC2 && lead < 0xE0 ? 1
+                                                 : 0;
+  if (more == 0) return Replacement;
+  char32_t value = lead & (0x3Fu >> more);
+  for (int i = 0; i < more; ++i) {
+    if (at == utf8.size() || (utf8[at] & 0xC0) != 0x80) return Replacement;
+    value = value << 6 | (static_cast<unsigned char>(utf8[at++]) & 0x3Fu);
+  }
+  constexpr char32_t Least[] = {0, 0x80, 0x800, 0x10000};
+  const bool wrong = value < Least[more] || isHigh(value) || isLow(value) || value > 0x10FFFF;
+  return wrong ? Replacement : value;
+}
+
+void putUnit(char16_t unit, std::vector<std::byte>& out) {
+  out.push_back(static_cast<std::byte>(unit & 0xFF));
+  out.push_back(static_cast<std::byte>(unit >> 8));
+}
+
+}  // namespace
+
+void appendText(const Format& format, Bytes field, std::string& out, std::uint16_t codePage) {
+  if (format.wideText && isCompressed(field))
+    appendCompressed(field.subspan(2), out);
+  else if (format.wideText)
+    appendPlain(field, out);
+  else
+    appendCodePage(field, codePage, out);
+}
+
+std::string nameText(const Format& format, Bytes name, std::uint16_t codePage) {
+  std::string out;
+  if (format.wideText)
+    appendPlain(name, out);
+  else
+    appendCodePage(name, codePage, out);
+  return out;
+}
+
+void encodeText(std::string_view utf8, bool compress, std::vector<std::byte>& out) {
+  const std::u16string text = toUtf16(utf8);
+  const bool narrow = std::ranges::all_of(text, [](char16_t unit) { return unit >= 1 && unit <= 0xFF; });
+  if (compress && narrow && text.size() >= 3) {
+    putUnit(Mark, out);
+    for (const char16_t unit : text) out.push_back(static_cast<std::byte>(unit));
+    return;
+  }
+  if (!text.empty() && text.front() == Mark) {
+    // In two-byte mode a zero low byte would change modes, so such a character can't follow.
+    if (std::ranges::any_of(text, [](char16_t unit) { return (unit & 0xFF) == 0; }))
+      throw jetError(InvalidArgument, "Il testo comincia con U+FEFF e non si può scrivere");
+    putUnit(Mark, out);
+    out.push_back(Zero);
+  }
+  for (const char16_t unit : text) putUnit(unit, out);
+}
+
+std::size_t utf16Length(std::string_view utf8) {
+  std::size_t length = 0;
+  for (std::size_t at = 0; at < utf8.size();) length += nextCharacter(utf8, at) >= 0x10000 ? 2 : 1;
+  return length;
+}
+
+std::u16string toUtf16(std::string_view utf8) {
+  std::u16string out;
+  out.reserve(utf8.size());
+  for (std::size_t at = 0; at < utf8.size();) {
+    const char32_t value = nextCharacter(utf8, at);
+    if (value >= 0x10000) {
+      out.push_back(static_cast<char16_t>(0xD800 + ((value - 0x10000) >> 10)));
+      out.push_back(static_cast<char16_t>(0xDC00 + ((value - 0x10000) & 0x3FF)));
+    } else {
+      out.push_back(static_cast<char16_t>(value));
+    }
+  }
+  return out;
+}
+
+void appendUtf8(char32_t character, std::string& out) {
+  const auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
+  if (character < 0x80) return put(character);
+  if (character < 0x800) {
+    put(0xC0 | character >> 6);
+  } else {
+    if (character < 0x10000) {
+      put(0xE0 | character >> 12);
+    } else {
+      put(0xF0 | character >> 18);
+      put(0x80 | (character >> 12 & 0x3F));
+    }
+    put(0x80 | (character >> 6 & 0x3F));
+  }
+  put(0x80 | (character & 0x3F));
+}
+
+}  // namespace jet::file

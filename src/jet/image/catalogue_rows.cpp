@@ -1,0 +1,144 @@
+#include "jet/image/catalogue_rows.h"
+
+#include <array>
+#include <vector>
+
+#include "jet/file/format.h"
+#include "platform/clock.h"
+
+namespace jet::image {
+
+namespace {
+
+using Bytes = std::vector<std::byte>;
+
+// Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c4 DateCreate, c5 DateUpdate, c6 Owner, c7 Flags,
+// c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2 ACM, c3 FInheritable. Of MSysRelationships (t5): c4 szObject,
+// c5 szColumn, c6 szReferencedObject, c7 szReferencedColumn.
+constexpr char InsertObject[] =
+    "INSERT INTO t2 (c0, c1, c2, c3, c4, c5, c6, c7) VALUES (?1, ?2, ?3, ?4, ?5, ?5, ?6, ?7)";
+constexpr char InsertPermission[] = "INSERT INTO t3 (c0, c1, c2, c3) VALUES (?1, ?2, ?3, 0)";
+constexpr char InheritedPermissions[] = "SELECT c1, c2 FROM t3 WHERE c0 = ?1 AND c3 <> 0 ORDER BY rowid";
+constexpr char OwnerOfDatabase[] = "SELECT c6 FROM t2 WHERE c0 = ?1";
+
+// The creator's id, 02 04, and the user Admin's, 03 01, are kept under one cipher of two bytes.
+constexpr std::array CreatorFromAdmin = {std::byte{0x03 ^ 0x02}, std::byte{0x01 ^ 0x04}};
+
+std::int64_t signedId(std::uint32_t id) { return static_cast<std::int32_t>(id); }
+
+Bytes blob(const Statement& statement, int column) {
+  const auto* data = static_cast<const std::byte*>(sqlite3_column_blob(statement.handle(), column));
+  return Bytes(data, data + sqlite3_column_bytes(statement.handle(), column));
+}
+
+void bindBlob(Statement& statement, int parameter, const Bytes& value) {
+  sqlite3_bind_blob64(statement.handle(), parameter, value.data(), value.size(), SQLITE_TRANSIENT);
+}
+
+/// The user Admin's id as this file keeps it: the owner of the database object.
+Bytes adminId(const Connection& connection) {
+  auto query = connection.prepare(OwnerOfDatabase);
+  query.bind(1, signedId(file::DatabaseObject));
+  return query.step() ? blob(query, 0) : Bytes{};
+}
+
+Bytes creatorId(const Bytes& admin) {
+  if (admin.size() != CreatorFromAdmin.size()) return {};
+  return {admin[0] ^ CreatorFromAdmin[0], admin[1] ^ CreatorFromAdmin[1]};
+}
+
+struct Permission {
+  Bytes id;
+  std::int64_t mask;
+};
+
+/// What an object in `container` gets: the inheritable rows, the creator's going to the owner where Admin has none.
+std::vector<Permission> inherited(const Connection& connection, std::uint32_t container, const Bytes& admin) {
+  std::vector<Permission> result;
+  const Bytes creator = creatorId(admin);
+  std::optional<std::int64_t> creatorMask;
+  bool adminHasOwn = false;
+  auto rows = connection.prepare(InheritedPermissions);
+  rows.bind(1, signedId(container));
+  while (rows.step()) {
+    Bytes id = blob(rows, 0);
+    if (id == creator) {
+      creatorMask = rows.integer(1);
+      continue;
+    }
+    adminHasOwn |= id == admin;
+    result.push_back({std::move(id), rows.integer(1)});
+  }
+  if (creatorMask && !adminHasOwn) result.insert(result.begin(), {admin, *creatorMask});
+  return result;
+}
+
+}  // namespace
+
+void insertObject(const Connection& connection, const file::CatalogueObject& object) {
+  const Bytes admin = adminId(connection);
+  auto insert = connection.prepare(InsertObject);
+  insert.bind(1, signedId(object.id));
+  insert.bind(2, signedId(object.parent));
+  insert.bind(3, std::string_view(object.name));
+  insert.bind(4, static_cast<std::int64_t>(object.type));
+  sqlite3_bind_double(insert.handle(), 5, platform::clock().now().days);
+  bindBlob(insert, 6, admin);
+  insert.bind(7, signedId(object.flags));
+  insert.run();
+
+  auto permit = connection.prepare(InsertPermission);
+  for (const auto& permission : inherited(connection, object.parent, admin)) {
+    permit.bind(1, signedId(object.id));
+    bindBlob(permit, 2, permission.id);
+    permit.bind(3, permission.mask);
+    permit.run();
+  }
+}
+
+void deleteObject(const Connection& connection, std::uint32_t id) {
+  for (const char* sql : {"DELETE FROM t2 WHERE c0 = ?1", "DELETE FROM t3 WHERE c0 = ?1"}) {
+    auto remove = connection.prepare(sql);
+    remove.bind(1, signedId(id));
+    remove.run();
+  }
+}
+
+void touchObject(const Connection& connection, std::uint32_t id) {
+  auto update = connection.prepare("UPDATE t2 SET c5 = ?2 WHERE c0 = ?1");
+  update.bind(1, signedId(id));
+  sqlite3_bind_double(update.handle(), 2, platform::clock().now().days);
+  update.run();
+}
+
+file::PropertyBlock readProperties(const Connection& connection, const file::Format& format, std::uint32_t id) {
+  auto query = connection.prepare("SELECT c14 FROM t2 WHERE c0 = ?1");
+  query.bind(1, signedId(id));
+  if (!query.step() || query.null(0)) return {};
+  const Bytes block = blob(query, 0);
+  return block.empty() ? file::PropertyBlock() : file::PropertyBlock(format, block);
+}
+
+void writeProperties(const Connection& connection, std::uint32_t id, const file::PropertyBlock& properties) {
+  auto update = connection.prepare("UPDATE t2 SET c14 = ?2 WHERE c0 = ?1");
+  update.bind(1, signedId(id));
+  if (properties.empty())
+    update.bindNull(2);
+  else
+    bindBlob(update, 2, properties.encode());
+  update.run();
+}
+
+void renameInRelations(const Connection& connection, const std::string& table, std::string_view column,
+                       const std::string& newName) {
+  for (const char* sql : {"UPDATE t5 SET c5 = ?3 WHERE c4 = ?1 AND c5 = ?2",
+                          "UPDATE t5 SET c7 = ?3 WHERE c6 = ?1 AND c7 = ?2"}) {
+    auto update = connection.prepare(sql);
+    update.bind(1, std::string_view(table));
+    update.bind(2, column);
+    update.bind(3, std::string_view(newName));
+    update.run();
+  }
+}
+
+}  // namespace jet::image

@@ -1,0 +1,150 @@
+#include "jet/image/design.h"
+
+#include <algorithm>
+
+#include "jet/file/text.h"
+#include "runtime/error.h"
+
+namespace jet::image {
+
+namespace {
+
+using file::Column;
+using file::ColumnType;
+using file::LogicalIndex;
+using file::RealIndex;
+
+constexpr std::size_t MaxColumns = 255, MaxIndexes = 32, MaxIndexColumns = 10, MaxNameLength = 64;
+constexpr std::uint16_t DefaultTextSize = 255;
+
+[[noreturn]] void fail(int number, std::string description) {
+  throw runtime::Error(number, "DAO.TableDef", std::move(description));
+}
+
+/// Bytes that the definition gives as a column's length.
+std::uint16_t definitionLength(ColumnType type, std::uint16_t size) {
+  switch (type) {
+    case ColumnType::Boolean: case ColumnType::Byte: return 1;
+    case ColumnType::Integer: return 2;
+    case ColumnType::Long: case ColumnType::Single: return 4;
+    case ColumnType::Currency: case ColumnType::Double: case ColumnType::Date: return 8;
+    case ColumnType::Guid: return 16;
+    case ColumnType::Numeric: return 17;
+    case ColumnType::Text: return static_cast<std::uint16_t>(2 * (size == 0 ? DefaultTextSize : size));
+    case ColumnType::Binary: return size == 0 ? 510 : size;
+    default: return 0;
+  }
+}
+
+bool isVariable(ColumnType type) {
+  return type == ColumnType::Text || type == ColumnType::Binary || file::isLongValue(type);
+}
+
+bool hasRelation(const file::TableDefinition& table, std::size_t real) {
+  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(), [&](const LogicalIndex& index) {
+    return index.real == real && index.kind == LogicalIndex::Kind::Relation;
+  });
+}
+
+}  // namespace
+
+Column newColumn(std::string name, ColumnType type, std::uint16_t size) {
+  Column column;
+  column.name = std::move(name);
+  column.type = type;
+  column.length = definitionLength(type, size);
+  column.flags = static_cast<std::uint8_t>(Column::Updatable | (isVariable(type) ? 0 : Column::Fixed));
+  if (type == ColumnType::Text) column.extraFlags = Column::Compressed;
+  return column;
+}
+
+void addColumn(file::TableDefinition& table, Column column) {
+  checkName(column.name);
+  if (table.find(column.name)) fail(3191, "Campo definito più di una volta: " + column.name);
+  if (table.maxColumns >= MaxColumns) fail(3190, "Troppi campi nella tabella " + table.name);
+  column.number = table.maxColumns++;
+  column.position = column.number;
+  for (const auto& other : table.columns)
+    column.position = std::max<std::uint16_t>(column.position, static_cast<std::uint16_t>(other.position + 1));
+  column.slot = table.variableColumns;
+  if (!column.fixed())
+    ++table.variableColumns;
+  else if (column.type != ColumnType::Boolean)
+    column.fixedOffset = table.fixedLength();
+  table.columns.push_back(std::move(column));
+}
+
+void addIndex(file::TableDefinition& table, const IndexDesign& design) {
+  checkName(design.name);
+  if (table.realIndexes.size() >= MaxIndexes) fail(3626, "Troppi indici nella tabella " + table.name);
+  if (design.columns.empty() || design.columns.size() > MaxIndexColumns)
+    fail(3290, "Numero di campi non valido nell'indice " + design.name);
+  for (const auto& part : design.columns) {
+    const auto& column = table.columns[*table.findNumber(part.column)];
+    if (column.type == ColumnType::Ole || column.type == ColumnType::Raw)
+      fail(3290, "Il campo " + column.name + " non può stare in un indice");
+  }
+  std::uint32_t number = 0;
+  for (const auto& index : table.logicalIndexes) {
+    if (file::sameName(index.name, design.name)) fail(3284, "Indice già presente: " + design.name);
+    if (design.primary && index.kind == LogicalIndex::Kind::Primary)
+      fail(3283, "Chiave primaria già presente nella tabella " + table.name);
+    number = std::max(number, index.number + 1);
+  }
+  RealIndex real;
+  real.columns = design.columns;
+  real.flags = static_cast<std::uint8_t>(RealIndex::Jet4Mark | (design.unique || design.primary ? RealIndex::Unique : 0) |
+                                         (design.required || design.primary ? RealIndex::Required : 0) |
+                                         (design.ignoreNulls ? RealIndex::IgnoreNulls : 0));
+  LogicalIndex logical;
+  logical.name = design.name;
+  logical.number = number;
+  logical.real = static_cast<std::uint32_t>(table.realIndexes.size());
+  logical.kind = design.primary ? LogicalIndex::Kind::Primary : LogicalIndex::Kind::Ordinary;
+  table.realIndexes.push_back(std::move(real));
+  table.logicalIndexes.push_back(std::move(logical));
+}
+
+void removeIndex(file::TableDefinition& table, std::string_view name) {
+  const auto found = std::find_if(table.logicalIndexes.begin(), table.logicalIndexes.end(),
+                                  [&](const LogicalIndex& index) { return file::sameName(index.name, name); });
+  if (found == table.logicalIndexes.end()) fail(3372, "Indice inesistente: " + std::string(name));
+  const auto real = found->real;
+  if (hasRelation(table, real)) fail(3281, "L'indice " + found->name + " è usato da una relazione");
+  table.logicalIndexes.erase(found);
+  const auto stillNamed = [&](const LogicalIndex& index) { return index.real == real; };
+  if (std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(), stillNamed)) return;
+  table.realIndexes.erase(table.realIndexes.begin() + real);
+  for (auto& index : table.logicalIndexes)
+    if (index.real > real) --index.real;
+}
+
+std::string indexNameOf(const file::TableDefinition& table, std::size_t real) {
+  for (const auto& index : table.logicalIndexes)
+    if (index.real == real) return index.name;
+  return {};
+}
+
+bool isIndexed(const file::TableDefinition& table, std::uint16_t columnNumber) {
+  return std::any_of(table.realIndexes.begin(), table.realIndexes.end(), [&](const RealIndex& index) {
+    return std::any_of(index.columns.begin(), index.columns.end(),
+                       [&](const file::IndexColumn& part) { return part.column == columnNumber; });
+  });
+}
+
+bool isRelated(const file::TableDefinition& table) {
+  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(), [](const LogicalIndex& index) {
+    return index.kind == LogicalIndex::Kind::Relation;
+  });
+}
+
+void checkName(std::string_view name) {
+  constexpr std::string_view Forbidden = ".!`[]";
+  const bool bad = name.empty() || name.front() == ' ' || file::utf16Length(name) > MaxNameLength ||
+                   std::any_of(name.begin(), name.end(), [&](char c) {
+                     return static_cast<unsigned char>(c) < 0x20 || Forbidden.find(c) != std::string_view::npos;
+                   });
+  if (bad) fail(3125, "Nome non valido: " + std::string(name));
+}
+
+}  // namespace jet::image

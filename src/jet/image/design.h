@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "jet/file/definition.h"
+
+/// Building a table's definition column by column, index by index.
+namespace jet::image {
+
+/// A column of `type` as a new table gets it. `size`: characters of a Text, bytes of a Binary.
+file::Column newColumn(std::string name, file::ColumnType type, std::uint16_t size = 0);
+
+/// Appends a column; its number, slot, offset and position follow from the table.
+/// Error 3191 if the table has the name, 3190 beyond 255 columns.
+void addColumn(file::TableDefinition& table, file::Column column);
+
+struct IndexDesign {
+  std::string name;
+  std::vector<file::IndexColumn> columns;
+  bool unique = false, primary = false, required = false, ignoreNulls = false;
+};
+
+/// Appends a real index with its name. Error 3284 if the table has the name, 3283 for a second primary key,
+/// 3626 beyond 32 indexes, 3290 for a column that can't be indexed or more than ten.
+void addIndex(file::TableDefinition& table, const IndexDesign& design);
+/// Error 3372 if there is none, 3281 while a relation uses it.
+void removeIndex(file::TableDefinition& table, std::string_view name);
+
+/// A name of real index `real`, for messages.
+std::string indexNameOf(const file::TableDefinition& table, std::size_t real);
+/// True if a real index has the column.
+bool isIndexed(const file::TableDefinition& table, std::uint16_t columnNumber);
+/// True if a relation stands on one of the table's indexes.
+bool isRelated(const file::TableDefinition& table);
+/// Error 3125 for a name that is empty, longer than 64 characters, or holds . ! ` [ ] or a control character.
+void checkName(std::string_view name);
+
+}  // namespace jet::image

@@ -1,0 +1,107 @@
+#include <algorithm>
+
+#include "jet/sql/binder/binder.h"
+#include "jet/sql/syntax_error.h"
+
+namespace jet::sql {
+
+using bound::Select;
+
+Select Binder::select(const tree::Select& tree) {
+  Select result;
+  result.distinct = tree.distinct;
+  result.top = tree.top;
+  result.from = from(tree.from);
+  result.where = clause(tree.where);
+  groupBy(tree, result);
+  for (const tree::SelectItem& item : tree.items) {
+    if (item.alias.empty()) continue;
+    aliases_.push_back({item.alias, &std::get<tree::Expression>(item.value), false});
+  }
+  aggregatesAllowed_ = true;
+  items(tree, result);
+  result.having = clause(tree.having);
+  result.grouped = aggregateSeen_ || !tree.groupBy.empty() || tree.having;
+  aggregatesAllowed_ = result.grouped;
+  if (result.grouped && !ungrouped_.empty()) {
+    throw SyntaxError(NotAggregated, ungrouped_.front().name, ungrouped_.front().position);
+  }
+  return result;
+}
+
+void Binder::groupBy(const tree::Select& tree, Select& result) {
+  for (const tree::Expression& key : tree.groupBy) {
+    result.groupBy.push_back(expression(key));
+    context_.noteCompared(result.groupBy.back());
+  }
+  // Only now: a key is no part of another one. Bound once more, since a tree belongs to one place.
+  for (const tree::Expression& key : tree.groupBy) {
+    bound::Expression copy = expression(key);
+    groupKeys_.push_back(std::move(copy));
+  }
+  ungrouped_.clear();
+}
+
+void Binder::items(const tree::Select& tree, Select& result) {
+  for (const tree::SelectItem& treeItem : tree.items) {
+    if (const auto* all = std::get_if<tree::Star>(&treeItem.value)) {
+      star(*all, treeItem.place.position, result);
+    } else {
+      item(treeItem, result);
+    }
+  }
+  nameItems(tree, result);
+}
+
+void Binder::star(const tree::Star& star, std::size_t position, Select& result) {
+  if (scope_.sources().empty()) throw SyntaxError(SelectSyntax, "*", position);
+  if (!star.table.empty() && !scope_.find(star.table)) throw SyntaxError(UnknownTable, star.table, position);
+  for (const VisibleSource& source : scope_.sources()) {
+    if (!star.table.empty() && &source != scope_.find(star.table)) continue;
+    for (const VisibleColumn& column : source.columns) {
+      context_.countNode(position);
+      bound::Expression value{column.value.type, std::get<bound::Column>(column.value.node)};
+      if (std::ranges::find(groupKeys_, value) == groupKeys_.end()) ungrouped_.push_back({column.name, position});
+      result.items.push_back(
+          {std::move(value), column.name, column.sourceTable, column.sourceColumn, source.source});
+    }
+  }
+}
+
+void Binder::item(const tree::SelectItem& tree, Select& result) {
+  const auto& value = std::get<tree::Expression>(tree.value);
+  for (Alias& alias : aliases_) alias.open = alias.value == &value;
+  bound::Item item{expression(value), tree.alias, "", "", {}};
+  for (Alias& alias : aliases_) alias.open = false;
+  const auto* name = std::get_if<tree::Name>(&value.node);
+  const auto found = name ? scope_.find(*name, value.place.position) : std::nullopt;
+  if (found) {
+    if (item.name.empty()) item.name = found->column->name;
+    item.sourceTable = found->column->sourceTable;
+    item.sourceColumn = found->column->sourceColumn;
+    item.source = found->source->source;
+  }
+  result.items.push_back(std::move(item));
+}
+
+/// What has no name is called by its position; columns of one name are told apart by their tables' names.
+void Binder::nameItems(const tree::Select& tree, Select& result) {
+  constexpr std::size_t firstNumber = 1000;
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < result.items.size(); ++i) {
+    const bound::Item& item = result.items[i];
+    std::string name = item.name.empty() ? "Expr" + std::to_string(firstNumber + i) : item.name;
+    const auto same = [&](const bound::Item& other) { return &other != &item && file::sameName(other.name, name); };
+    const bool aliased =
+        std::ranges::any_of(tree.items, [&](const auto& treeItem) { return treeItem.alias == name; });
+    if (item.source && !aliased && std::ranges::any_of(result.items, same)) {
+      for (const VisibleSource& source : scope_.sources()) {
+        if (source.source == *item.source) name = source.name + "." + name;
+      }
+    }
+    names.push_back(std::move(name));
+  }
+  for (std::size_t i = 0; i < names.size(); ++i) result.items[i].name = std::move(names[i]);
+}
+
+}  // namespace jet::sql

@@ -1,0 +1,69 @@
+#include "jet/sql/compile.h"
+
+#include "jet/sql/binder/binder.h"
+#include "jet/sql/parser/parser.h"
+#include "jet/sql/translation/translator.h"
+
+namespace jet::sql {
+
+namespace {
+
+/// Binds and translates the body of one statement.
+class Compilation {
+ public:
+  Compilation(const Schema& schema, const Options& options) : context_(schema), options_(options) {}
+
+  Statement run(const tree::Statement& statement) {
+    for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
+    return std::visit([&](const auto& body) { return compileBody(body); }, statement.body);
+  }
+
+ private:
+  Statement compileBody(const tree::Query& tree) {
+    const bound::Query query = bindQuery(context_, nullptr, tree);
+    RowStatement result = finish(RowStatement::Kind::Select, translator_.query(query, options_.withRowKeys));
+    for (const bound::Item& item : query.parts.front().items) {
+      ResultColumn column{item.name, item.value.type, item.sourceTable, item.sourceColumn, {}};
+      if (item.source) column.table = context_.tableOf(*item.source);
+      result.columns.push_back(std::move(column));
+    }
+    result.rowKeys = translator_.rowKeys();
+    return result;
+  }
+
+  Statement compileBody(const tree::Update& tree) {
+    const bound::Update update = Binder(context_, nullptr).update(tree);
+    return finish(RowStatement::Kind::Update, translator_.update(update));
+  }
+
+  Statement compileBody(const tree::Delete& tree) {
+    const bound::Delete deletion = Binder(context_, nullptr).deletion(tree);
+    return finish(RowStatement::Kind::Delete, translator_.deletion(deletion));
+  }
+
+  Statement compileBody(const tree::Insert& tree) {
+    const bound::Insert insert = Binder(context_, nullptr).insert(tree);
+    return finish(RowStatement::Kind::Insert, translator_.insert(insert));
+  }
+
+  template <class Definition>
+  Statement compileBody(const Definition& tree) {
+    return bindDefinition(tree);
+  }
+
+  RowStatement finish(RowStatement::Kind kind, std::string sql) const {
+    return {kind, std::move(sql), context_.parameters(), {}, context_.tables(), 0};
+  }
+
+  Context context_;
+  Options options_;
+  Translator translator_;
+};
+
+}  // namespace
+
+Statement compile(std::string_view text, const Schema& schema, const Options& options) {
+  return Compilation(schema, options).run(parse(text));
+}
+
+}  // namespace jet::sql

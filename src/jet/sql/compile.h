@@ -1,0 +1,107 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "jet/file/definition.h"
+#include "jet/sql/type.h"
+
+/// From Jet SQL to what the image executes: lexer -> parser -> syntax tree -> binder -> bound tree -> translation.
+namespace jet::sql {
+
+/// What the binder asks of the open database.
+class Schema {
+ public:
+  virtual ~Schema() = default;
+  /// The table's definition, or nullptr; names compare as file::sameName does.
+  virtual const file::TableDefinition* findTable(std::string_view name) const = 0;
+  /// The text of a stored query that can stand where a table stands; asked where no table has the name.
+  virtual std::optional<std::string> findQuery(std::string_view) const { return std::nullopt; }
+};
+
+/// A parameter of a statement, declared by PARAMETERS or found as an unknown name; in order of appearance.
+struct Parameter {
+  std::string name;
+  Type type;  // Type::Variant where not declared
+};
+
+struct ResultColumn {
+  std::string name;
+  Type type;
+  std::string sourceTable, sourceColumn;  // empty for an expression
+  std::optional<std::size_t> table;       // entry of RowStatement::tables that it shows a column of
+};
+
+/// A table that a query reads or changes, with what of it is used.
+struct TouchedTable {
+  std::uint32_t page = 0;                // TableDefinition::page
+  std::string alias;                     // as the statement calls it
+  std::vector<std::uint16_t> compared;   // Column::number of columns in conditions, joins, grouping or sorting
+  bool changed = false;                  // target of UPDATE, INSERT, DELETE
+};
+
+/// SELECT, UPDATE, INSERT or DELETE as SQLite SQL over the image: table `t<page>`, columns `c<number>`,
+/// parameter i of `parameters` is ?<i+1>.
+struct RowStatement {
+  enum class Kind { Select, Update, Insert, Delete };
+  Kind kind = Kind::Select;
+  std::string sql;
+  std::vector<Parameter> parameters;
+  std::vector<ResultColumn> columns;   // Select
+  std::vector<TouchedTable> tables;
+  /// Select with `withRowKeys`, where each result row stands for one row of each table: the result has, behind
+  /// `columns`, the rowid of each of the first `rowKeys` entries of `tables`, which are the tables of FROM in order
+  /// (the others belong to sub-queries); Null where an outer join found no row. Zero otherwise: grouping, DISTINCT,
+  /// UNION, a query in FROM.
+  std::size_t rowKeys = 0;
+};
+
+struct CreateIndex {
+  struct Part {
+    std::string column;
+    bool ascending = true;
+  };
+  std::string table, name;
+  std::vector<Part> columns;
+  bool unique = false, primary = false, disallowNull = false, ignoreNull = false;
+};
+
+/// CREATE TABLE; page numbers, slots and offsets are the image's business.
+struct CreateTable {
+  struct NewColumn {
+    std::string name;
+    file::ColumnType type = file::ColumnType::Text;
+    std::uint16_t size = 0;  // Text: characters (255 if not told), Binary: bytes
+    std::uint8_t precision = 18, scale = 0;  // Numeric
+    bool autoNumber = false;
+    bool notNull = false;
+  };
+  std::string table;
+  std::vector<NewColumn> columns;
+  std::vector<CreateIndex> indexes;  // of its constraints
+};
+
+struct DropTable {
+  std::string table;
+};
+struct DropIndex {
+  std::string table, name;
+};
+
+using Statement = std::variant<RowStatement, CreateTable, CreateIndex, DropTable, DropIndex>;
+
+struct Options {
+  bool withRowKeys = false;
+};
+
+/// Parses, binds and translates one statement (a closing semicolon is allowed). Every error of the statement's text
+/// is a SyntaxError with its place: 3075 and its kin for syntax, 3078 unknown table, 3464 types that can't be
+/// compared and so on. 3061 is the caller's when a parameter stays unanswered.
+Statement compile(std::string_view text, const Schema& schema, const Options& options = {});
+
+}  // namespace jet::sql

@@ -1,0 +1,119 @@
+#include "jet/sql/decimal.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "runtime/error.h"
+#include "runtime/numbers.h"
+
+namespace jet::sql {
+
+namespace {
+
+using runtime::Decimal;
+__extension__ using Wide = unsigned __int128;
+
+constexpr int mostDigits = 28;
+
+Wide powerOfTen(int exponent) {
+  Wide power = 1;
+  while (exponent-- > 0) power *= 10;
+  return power;
+}
+
+/// Zeros behind the last digit go, then the number must fit.
+Decimal checked(Decimal number) {
+  while (number.scale > 0 && number.magnitude % 10 == 0) number.magnitude /= 10, --number.scale;
+  if (number.magnitude >= powerOfTen(mostDigits) || number.scale > mostDigits) {
+    throw runtime::languageError(runtime::Overflow);
+  }
+  if (number.magnitude == 0) number.negative = false;
+  return number;
+}
+
+/// The magnitude with `scale` digits behind the point.
+Wide rescaled(const Decimal& number, int scale) {
+  const int zeros = scale - number.scale;
+  if (number.magnitude > powerOfTen(38 - zeros)) throw runtime::languageError(runtime::Overflow);
+  return number.magnitude * powerOfTen(zeros);
+}
+
+Decimal fromDouble(double value) {
+  constexpr int doubleDigits = 15;
+  const double magnitude = std::abs(value);
+  if (!(magnitude < 1e28)) throw runtime::languageError(runtime::Overflow);
+  const int wholeDigits = magnitude >= 1 ? static_cast<int>(std::log10(magnitude)) + 1 : 1;
+  char digits[64];
+  std::snprintf(digits, sizeof digits, "%.*f", std::max(0, doubleDigits - wholeDigits), value);
+  return parseDecimal(digits);
+}
+
+}  // namespace
+
+Decimal toDecimal(const runtime::Variant& value) {
+  if (const auto* number = std::get_if<Decimal>(&value.value())) return *number;
+  if (const auto* money = std::get_if<runtime::Currency>(&value.value())) {
+    const std::int64_t amount = money->tenThousandths;
+    const auto magnitude = static_cast<std::uint64_t>(amount < 0 ? -amount : amount);
+    return checked({amount < 0, 4, magnitude});
+  }
+  if (value.isText()) {
+    const auto plain = runtime::plainNumber(value.toText());
+    if (!plain) throw runtime::languageError(runtime::TypeMismatch);
+    const bool exponent = plain->find_first_of("eE") != std::string::npos;
+    return exponent ? fromDouble(runtime::plainToDouble(*plain)) : parseDecimal(*plain);
+  }
+  return fromDouble(value.toDouble());
+}
+
+Decimal parseDecimal(std::string_view digits) {
+  Decimal number;
+  if (digits.starts_with('-')) number.negative = true, digits.remove_prefix(1);
+  bool point = false, any = false;
+  for (char c : digits) {
+    const bool digit = c >= '0' && c <= '9';
+    if (!digit && (c != '.' || point)) throw runtime::languageError(runtime::TypeMismatch);
+    if (number.magnitude >= powerOfTen(37)) throw runtime::languageError(runtime::Overflow);
+    if (digit) {
+      number.magnitude = number.magnitude * 10 + static_cast<unsigned>(c - '0');
+      number.scale = static_cast<std::uint8_t>(number.scale + point);
+    }
+    any |= digit;
+    point |= !digit;
+  }
+  if (!any) throw runtime::languageError(runtime::TypeMismatch);
+  return checked(number);
+}
+
+int compareDecimals(std::string_view a, std::string_view b) {
+  const Decimal left = parseDecimal(a), right = parseDecimal(b);
+  if (left.negative != right.negative) return left.negative ? -1 : 1;
+  const Wide leftWhole = left.magnitude / powerOfTen(left.scale), rightWhole = right.magnitude / powerOfTen(right.scale);
+  int order = leftWhole < rightWhole ? -1 : leftWhole > rightWhole;
+  if (order == 0) {
+    const int scale = std::max(left.scale, right.scale);
+    const Wide leftPart = left.magnitude % powerOfTen(left.scale) * powerOfTen(scale - left.scale);
+    const Wide rightPart = right.magnitude % powerOfTen(right.scale) * powerOfTen(scale - right.scale);
+    order = leftPart < rightPart ? -1 : leftPart > rightPart;
+  }
+  return left.negative ? -order : order;
+}
+
+Decimal addDecimals(const Decimal& a, const Decimal& b) {
+  const int scale = std::max(a.scale, b.scale);
+  const Wide left = rescaled(a, scale), right = rescaled(b, scale);
+  Decimal sum{a.negative, static_cast<std::uint8_t>(scale), left + right};
+  if (a.negative != b.negative) {
+    sum.magnitude = left > right ? left - right : right - left;
+    sum.negative = left > right ? a.negative : b.negative;
+  }
+  return checked(sum);
+}
+
+Decimal multiplyDecimals(const Decimal& a, const Decimal& b) {
+  if (a.magnitude != 0 && b.magnitude > powerOfTen(38) / a.magnitude) throw runtime::languageError(runtime::Overflow);
+  return checked({a.negative != b.negative, static_cast<std::uint8_t>(a.scale + b.scale), a.magnitude * b.magnitude});
+}
+
+}  // namespace jet::sql

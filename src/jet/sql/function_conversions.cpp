@@ -1,0 +1,113 @@
+#include <algorithm>
+#include <array>
+
+#include "jet/file/text.h"
+#include "jet/image/decimal.h"
+#include "jet/sql/decimal.h"
+#include "jet/sql/function_support.h"
+#include "jet/sql/syntax_error.h"
+
+namespace jet::sql {
+
+namespace {
+
+using runtime::Variant;
+
+constexpr char source[] = "DAO.Field";
+
+struct Pair {
+  Type from, to;
+};
+
+/// What registrations point at.
+const std::array<Pair, typeCount * typeCount>& pairs() {
+  static const auto all = [] {
+    std::array<Pair, typeCount * typeCount> list{};
+    for (unsigned i = 0; i < list.size(); ++i) {
+      list[i] = {static_cast<Type>(i / typeCount), static_cast<Type>(i % typeCount)};
+    }
+    return list;
+  }();
+  return all;
+}
+
+/// A conversion that fails is error `mismatch` and names the types.
+template <class Convert>
+void guard(sqlite3_context* context, const Pair& pair, int mismatch, Convert convert) {
+  try {
+    convert();
+  } catch (const runtime::Error& error) {
+    if (error.number() != runtime::TypeMismatch) return returnError(context, error);
+    returnError(context, {mismatch, source,
+                          std::string("Conversione non riuscita da ") + typeName(pair.from) + " a " +
+                              typeName(pair.to)});
+  } catch (const std::bad_alloc&) {
+    sqlite3_result_error_nomem(context);
+  }
+}
+
+/// jet_<from>_to_<to>(value)
+void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const auto& pair = *static_cast<const Pair*>(sqlite3_user_data(context));
+  if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return sqlite3_result_null(context);
+  guard(context, pair, TypesDiffer,
+        [&] { returnValue(context, readValue(arguments[0], pair.from), pair.to); });
+}
+
+void checkLength(const Variant& value, Type type, std::size_t limit) {
+  constexpr int fieldTooSmall = 3163;
+  const auto* bytes = std::get_if<runtime::Bytes>(&value.value());
+  const std::size_t length = bytes ? bytes->size() : isText(type) ? file::utf16Length(value.toText()) : 0;
+  if (length > limit) {
+    throw runtime::Error(fieldTooSmall, source,
+                         "Il campo è troppo piccolo per i dati: " + std::to_string(length) + " invece di " +
+                             std::to_string(limit));
+  }
+}
+
+/// Rounded to the column's scale; error 6 where its digits do not hold the number.
+void storeDecimal(sqlite3_context* context, sqlite3_value* value, Type from, int precision, int scale) {
+  const std::string digits = image::decimalText(toDecimal(readValue(value, from)));
+  const runtime::Decimal number = image::parseDecimal(digits, static_cast<std::uint8_t>(scale));
+  const std::string text = image::decimalText(number);
+  const auto count = std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; });
+  if (count - (text.starts_with("0.") || text.starts_with("-0.")) > precision) {
+    throw runtime::languageError(runtime::Overflow);
+  }
+  returnText(context, text);
+}
+
+/// jet_<from>_into_<to>(value[, size | precision, scale]): what a column keeps of an assigned value.
+void store(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  constexpr int conversionFailed = 3421;
+  const auto& pair = *static_cast<const Pair*>(sqlite3_user_data(context));
+  if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
+    return pair.to == Type::Boolean ? sqlite3_result_int(context, 0) : sqlite3_result_null(context);
+  }
+  guard(context, pair, conversionFailed, [&] {
+    if (pair.to == Type::Decimal && count == 3) {
+      return storeDecimal(context, arguments[0], pair.from, sqlite3_value_int(arguments[1]),
+                          sqlite3_value_int(arguments[2]));
+    }
+    Variant value = readValue(arguments[0], pair.from);
+    if (isText(pair.to) && value.kind() == Variant::Kind::Boolean) value = value.toBoolean() ? "-1" : "0";
+    if (count == 2) checkLength(value, pair.to, static_cast<std::size_t>(sqlite3_value_int(arguments[1])));
+    returnValue(context, value, pair.to);
+  });
+}
+
+}  // namespace
+
+void registerConversions(sqlite3* connection) {
+  constexpr int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
+  for (const Pair& pair : pairs()) {
+    void* data = const_cast<Pair*>(&pair);
+    const std::string from = std::string("jet_") + typeName(pair.from), to = typeName(pair.to);
+    sqlite3_create_function_v2(connection, (from + "_to_" + to).c_str(), 1, flags, data, convert, nullptr, nullptr,
+                               nullptr);
+    sqlite3_create_function_v2(connection, (from + "_into_" + to).c_str(), -1, flags, data, store, nullptr, nullptr,
+                               nullptr);
+  }
+}
+
+}  // namespace jet::sql

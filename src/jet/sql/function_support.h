@@ -1,0 +1,70 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <string>
+#include <string_view>
+
+#include "jet/sql/type.h"
+#include "runtime/error.h"
+#include "runtime/variant.h"
+
+/// What the SQLite functions of this folder have in common.
+namespace jet::sql {
+
+/// Value of static type `type` as the image keeps it. A Guid is its text.
+runtime::Variant readValue(sqlite3_value* value, Type type);
+/// `value` as `type`, in the image's form, as the result. Error 6 or 13 where it can't be that.
+void returnValue(sqlite3_context* context, const runtime::Variant& value, Type type);
+
+/// UTF-8 of a value, valid as long as the value.
+std::string_view textOf(sqlite3_value* value);
+void returnText(sqlite3_context* context, std::string_view text);
+/// A Long of SQLite's 64 bits; error 6 outside.
+void returnLong(sqlite3_context* context, std::int64_t value);
+
+/// Makes `error` the result; errorFromSqlite reads it again.
+void returnError(sqlite3_context* context, const runtime::Error& error);
+
+using FunctionBody = void (*)(sqlite3_context*, int count, sqlite3_value** arguments);
+
+/// Runs `body`, whose runtime::Error becomes the function's. Null where an argument is Null.
+template <FunctionBody body>
+void nullIfAnyIsNull(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  for (int i = 0; i < count; ++i) {
+    if (sqlite3_value_type(arguments[i]) == SQLITE_NULL) return sqlite3_result_null(context);
+  }
+  try {
+    body(context, count, arguments);
+  } catch (const runtime::Error& error) {
+    returnError(context, error);
+  } catch (const std::bad_alloc&) {
+    sqlite3_result_error_nomem(context);
+  }
+}
+
+/// A function as data, for one registration loop. `arguments` is -1 for any number.
+struct SqliteFunction {
+  const char* name;
+  int arguments;
+  FunctionBody call;
+  bool deterministic = true;
+};
+
+/// Registers each of `functions`.
+template <std::size_t Count>
+void registerAll(sqlite3* connection, const SqliteFunction (&functions)[Count]) {
+  for (const SqliteFunction& function : functions) {
+    const int flags = SQLITE_UTF8 | (function.deterministic ? SQLITE_DETERMINISTIC : 0);
+    sqlite3_create_function_v2(connection, function.name, function.arguments, flags, nullptr, function.call, nullptr,
+                               nullptr, nullptr);
+  }
+}
+
+void registerConversions(sqlite3* connection);
+void registerArithmetic(sqlite3* connection);
+void registerTextFunctions(sqlite3* connection);
+void registerDateFunctions(sqlite3* connection);
+void registerAggregates(sqlite3* connection);
+
+}  // namespace jet::sql

@@ -1,0 +1,66 @@
+#include "jet/sql/parser/parser.h"
+
+namespace jet::sql {
+
+using namespace tree;
+
+std::vector<Source> Parser::from() {
+  std::vector<Source> sources;
+  clause_ = FromSyntax;
+  do sources.push_back(source());
+  while (cursor_.acceptSymbol(","));
+  clause_ = FromSyntax;
+  return sources;
+}
+
+/// A table or a chain of joins, which bind to the left.
+Source Parser::source() {
+  struct Word {
+    std::string_view text;
+    JoinKind kind;
+  };
+  static constexpr Word words[] = {
+      {"INNER", JoinKind::Inner}, {"LEFT", JoinKind::Left}, {"RIGHT", JoinKind::Right}};
+  const Level level(*this);
+  Source source = singleSource();
+  for (const Word* word = words; word != std::end(words);) {
+    if (!cursor_.acceptWord(word->text)) {
+      ++word;
+      continue;
+    }
+    if (word->kind != JoinKind::Inner) cursor_.acceptWord("OUTER");
+    cursor_.expectWord("JOIN", FromSyntax);
+    const Place place{source.place.position, source.place.depth + 1};
+    checkDepth(place.depth, place.position);
+    source = Source{join(word->kind, std::move(source)), place};
+    word = words;
+  }
+  return source;
+}
+
+Join Parser::join(JoinKind kind, Source left) {
+  Source right = singleSource();
+  cursor_.expectWord("ON", FromSyntax);
+  return Join{kind, std::move(left), std::move(right), expression()};
+}
+
+Source Parser::singleSource() {
+  const Place place = cursor_.place();
+  if (!cursor_.acceptSymbol("(")) {
+    if (isReserved(cursor_.peek())) cursor_.fail(FromSyntax);
+    TableSource table{cursor_.expectName(FromSyntax), ""};
+    table.alias = cursor_.acceptAlias(false, FromSyntax);
+    return {std::move(table), place};
+  }
+  if (!cursor_.atWord("SELECT")) {
+    Source inner = source();
+    cursor_.expectSymbol(")", FromSyntax);
+    return inner;
+  }
+  Query inner = query();
+  cursor_.expectSymbol(")", FromSyntax);
+  std::string alias = cursor_.acceptAlias(false, FromSyntax);
+  return {QuerySource{std::move(inner), std::move(alias)}, place};
+}
+
+}  // namespace jet::sql

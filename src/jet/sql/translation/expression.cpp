@@ -1,0 +1,86 @@
+#include <cstdio>
+
+#include "jet/sql/translation/translator.h"
+
+namespace jet::sql {
+
+namespace {
+
+using bound::Expression;
+
+/// Nodes that SQLite answers with 1 or 0, where the image keeps -1 or 0.
+bool isCondition(const Expression& expression) {
+  return std::visit(
+      []<class Node>(const Node&) {
+        return std::is_same_v<Node, bound::Comparison> || std::is_same_v<Node, bound::Logic> ||
+               std::is_same_v<Node, bound::Not> || std::is_same_v<Node, bound::Like> ||
+               std::is_same_v<Node, bound::Between> || std::is_same_v<Node, bound::InList> ||
+               std::is_same_v<Node, bound::InQuery> || std::is_same_v<Node, bound::IsNull> ||
+               std::is_same_v<Node, bound::Exists>;
+      },
+      expression.node);
+}
+
+}  // namespace
+
+std::string within(Sql sql, Strength least) {
+  return sql.strength < least ? "(" + sql.text + ")" : std::move(sql.text);
+}
+
+std::string quoted(std::string_view text) {
+  std::string result = "'";
+  for (char c : text) {
+    if (c == '\'') result += c;
+    result += c;
+  }
+  return result + "'";
+}
+
+Sql booleanValue(Sql condition) { return {"-" + within(std::move(condition), Strength::Whole), Strength::Sign}; }
+
+Sql withCollation(Sql sql, Type type) {
+  const char* collation = isText(type) ? " COLLATE JET" : type == Type::Decimal ? " COLLATE JETDECIMAL" : nullptr;
+  if (!collation) return sql;
+  return {within(std::move(sql), Strength::Collation) + collation, Strength::Collation};
+}
+
+Sql Translator::condition(const Expression& expression) {
+  return std::visit([&](const auto& node) { return translate(node, expression.type); }, expression.node);
+}
+
+Sql Translator::value(const Expression& expression) {
+  return isCondition(expression) ? booleanValue(condition(expression)) : condition(expression);
+}
+
+Sql Translator::ordered(const Expression& expression) {
+  const auto* column = std::get_if<bound::Column>(&expression.node);
+  return column && column->collated ? value(expression) : withCollation(value(expression), expression.type);
+}
+
+std::string Translator::list(const std::vector<Expression>& expressions) {
+  std::string text;
+  for (const Expression& expression : expressions) text += (text.empty() ? "" : ", ") + value(expression).text;
+  return text;
+}
+
+Sql Translator::translate(const bound::Literal& node, Type) {
+  if (const auto* text = std::get_if<std::string>(&node.value)) return {quoted(*text)};
+  if (const auto* whole = std::get_if<std::int64_t>(&node.value)) {
+    return {std::to_string(*whole), *whole < 0 ? Strength::Sign : Strength::Whole};
+  }
+  const auto* real = std::get_if<double>(&node.value);
+  if (!real) return {"NULL"};
+  char digits[40];
+  std::snprintf(digits, sizeof digits, "%.17g", *real);
+  std::string text = digits;
+  if (text.find_first_of(".e") == std::string::npos) text += ".0";
+  return {std::move(text), *real < 0 ? Strength::Sign : Strength::Whole};
+}
+
+Sql Translator::translate(const bound::Column& node, Type) {
+  return {"a" + std::to_string(node.source) + "." + node.name};
+}
+
+Sql Translator::translate(const bound::Parameter& node, Type) { return {"?" + std::to_string(node.index + 1)}; }
+
+}  // namespace jet::sql

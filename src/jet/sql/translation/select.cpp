@@ -1,0 +1,32 @@
+#include "jet/sql/translation/translator.h"
+
+namespace jet::sql {
+
+/// SELECT to HAVING; `moreColumns` stand behind the items and their row keys, each after a comma.
+std::string Translator::select(const bound::Select& select, const From& from, Shape shape,
+                               const std::string& moreColumns) {
+  const std::string outerKey = std::exchange(firstKey_, from.tables.empty() ? "0" : rowid(from.tables.front()));
+  std::string text = select.distinct ? "SELECT DISTINCT " : "SELECT ";
+  for (std::size_t i = 0; i < select.items.size(); ++i) {
+    const bound::Expression& item = select.items[i].value;
+    const bool compared = select.distinct || shape.ordered;
+    text += (i ? ", " : "") + (compared ? ordered(item) : value(item)).text;
+    if (shape.named) text += " AS x" + std::to_string(i + 1);
+  }
+  if (shape.withRowKeys) {
+    for (const unsigned table : from.tables) {
+      text += ", " + rowid(table) + (shape.named ? " AS k" + std::to_string(table) : "");
+    }
+  }
+  text += moreColumns;
+  if (!from.text.empty()) text += " FROM " + from.text;
+  text += where(select.where);
+  for (std::size_t i = 0; i < select.groupBy.size(); ++i) {
+    text += (i ? ", " : " GROUP BY ") + ordered(select.groupBy[i]).text;
+  }
+  if (select.having) text += " HAVING " + condition(*select.having).text;
+  firstKey_ = outerKey;
+  return text;
+}
+
+}  // namespace jet::sql

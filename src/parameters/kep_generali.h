@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "jet/dao/database.h"
+#include "runtime/variant.h"
+
+/// The name and value table of every database of the suite. An error shows a warning box and is returned as a
+/// Long with its number, so callers ask for the kind of the result before its value.
+namespace parameters {
+
+/// Boolean: whether table KepGenerali has a row `nome`; or the Long of an error.
+runtime::Variant EsisteInKepGenerali(jet::dao::Database& db, const std::string& nome);
+
+/// The Valore of the row as stored, also Null; Empty if there is no row; or the Long of an error.
+runtime::Variant LeggiKepGenerali(jet::dao::Database& db, const std::string& nome);
+
+}  // namespace parameters

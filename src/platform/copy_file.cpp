@@ -1,0 +1,49 @@
+#include <vector>
+
+#include "platform/files.h"
+
+namespace platform {
+
+namespace {
+
+constexpr std::size_t blockSize = 1 << 20;
+
+void lockOrRefuse(File& file, LockMode mode) {
+  if (!file.tryLock(mode)) throw DiskError(DiskFault::Sharing, file.path());
+}
+
+/// The file that is to be replaced, held against everyone else; none if the name is free. When it is the
+/// source itself, the source's own lock stands in the way.
+File holdTarget(const std::string& path) {
+  File target;
+  if (inspectFile(path)) {
+    target = openFile(path, OpenMode::Update);
+    lockOrRefuse(target, LockMode::Exclusive);
+  }
+  return target;
+}
+
+void copyContent(const File& source, File& target) {
+  std::vector<std::byte> block(blockSize);
+  for (std::uint64_t offset = 0;; offset += blockSize) {
+    const std::size_t count = source.readAt(offset, block);
+    if (count > 0) target.writeAt(offset, std::span(block).first(count));
+    if (count < blockSize) return;
+  }
+}
+
+}  // namespace
+
+void copyFile(const std::string& from, const std::string& to) {
+  File source = openFile(from, OpenMode::Read);
+  lockOrRefuse(source, LockMode::Shared);
+  const std::optional<FileInfo> info = inspectFile(from);
+  if (!info || !source.isStillAt(from)) throw DiskError(DiskFault::Sharing, from);
+  const File oldTarget = holdTarget(to);
+  Replacement copy(to);
+  copyContent(source, copy.file());
+  setModified(copy.file().path(), info->modifiedUnixNanoseconds);
+  copy.publish();
+}
+
+}  // namespace platform

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "platform/disk.h"
+
+/// What each kind of system implements behind the door of disk.h: the calls themselves, without numbering.
+/// Every failure is a DiskError that names `path`.
+namespace platform::system {
+
+/// Descriptor or handle of an open file.
+using NativeFile = std::intptr_t;
+
+/// With OpenMode::Create the file is locked Exclusive before it is emptied.
+NativeFile open(const std::string& path, OpenMode mode);
+void close(NativeFile file) noexcept;
+std::size_t read(NativeFile file, const std::string& path, std::uint64_t offset, std::span<std::byte> out);
+void write(NativeFile file, const std::string& path, std::uint64_t offset, std::span<const std::byte> data);
+std::uint64_t size(NativeFile file, const std::string& path);
+void resize(NativeFile file, const std::string& path, std::uint64_t size);
+void flush(NativeFile file, const std::string& path);
+/// False if another opener stands in the way; a lock held before may then be lost.
+bool lock(NativeFile file, const std::string& path, LockMode mode);
+bool isAt(NativeFile file, const std::string& path);
+/// Gives `file` the permissions of the file at `model`, as far as the system lets it.
+void takePermissions(NativeFile file, const std::string& model) noexcept;
+
+void replace(const std::string& from, const std::string& to);
+void remove(const std::string& path);
+void flushFolder(const std::string& folder);
+std::optional<FileInfo> inspect(const std::string& path);
+void setModified(const std::string& path, std::int64_t unixNanoseconds);
+std::string followLinks(const std::string& path);
+std::uint64_t freeSpace(const std::string& folder);
+
+}  // namespace platform::system

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Paths inside the product: UTF-8 with backslashes. Only the system's edge sees the other form.
+namespace platform {
+
+/// `path` as the system wants it ("\srv\db\a.mdb" -> "/srv/db/a.mdb" on POSIX).
+std::string toSystemPath(std::string_view path);
+/// A path of the system (absolute or relative to the current folder) as the product keeps it: absolute,
+/// without
+/// "." and "..", without a closing backslash. A POSIX name that holds a backslash can't be expressed.
+std::string fromSystemPath(std::string_view path);
+/// Part before the last backslash, without it; empty if there is none.
+std::string folderOf(std::string_view path);
+/// Folder that holds the file: folderOf, or the root, or "." for a bare name.
+std::string containingFolder(std::string_view path);
+/// Folder in which the user's programs keep their settings.
+std::string userSettingsFolder();
+/// Folder of the running executable, without a closing backslash.
+std::string executableFolder();
+/// Name of the running executable without folder and ending. Both are those of the program's start, however
+/// the file is renamed later.
+std::string executableName();
+
+}  // namespace platform

@@ -1,0 +1,60 @@
+#include "platform/paths.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+namespace platform {
+
+namespace {
+
+std::string executable() {
+  static const std::string path = [] {
+    std::error_code failure;
+    return fromSystemPath(std::filesystem::read_symlink("/proc/self/exe", failure).string());
+  }();
+  return path;
+}
+
+/// Asked for before main, while the program still has the name it was started under.
+[[maybe_unused]] const std::string atStart = executable();
+
+std::string homeFolder() {
+  if (const char* home = std::getenv("HOME"); home && *home) return home;
+  const passwd* user = ::getpwuid(::getuid());
+  return user && user->pw_dir ? user->pw_dir : "/";
+}
+
+}  // namespace
+
+std::string toSystemPath(std::string_view path) {
+  std::string result(path);
+  std::replace(result.begin(), result.end(), '\\', '/');
+  return result;
+}
+
+std::string fromSystemPath(std::string_view path) {
+  std::string result = std::filesystem::absolute(path).lexically_normal().string();
+  if (result.size() > 1 && result.back() == '/') result.pop_back();
+  std::replace(result.begin(), result.end(), '/', '\\');
+  return result;
+}
+
+std::string userSettingsFolder() {
+  const char* folder = std::getenv("XDG_CONFIG_HOME");
+  if (folder && *folder == '/') return fromSystemPath(folder);
+  return fromSystemPath(homeFolder() + "/.config");
+}
+
+std::string executableFolder() {
+  return folderOf(executable());
+}
+
+std::string executableName() {
+  return std::filesystem::path(toSystemPath(executable())).stem().string();
+}
+
+}  // namespace platform

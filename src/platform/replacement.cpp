@@ -1,0 +1,30 @@
+#include "platform/files.h"
+#include "platform/paths.h"
+
+namespace platform {
+
+Replacement::Replacement(std::string path)
+    : path_(followLinks(path)), temporary_(path_ + ".tmp"), file_(openFile(temporary_, OpenMode::Create)) {
+  file_.takePermissionsOf(path_);
+}
+
+Replacement::~Replacement() {
+  if (renamed_ || !file_) return;
+  try {
+    removeFile(temporary_);  // while it is still locked, so that no other process has taken up the name
+  } catch (const runtime::Error&) {
+    // An unpublished file that stays behind harms nobody.
+  }
+}
+
+File Replacement::publish(std::optional<LockMode> lock) {
+  file_.flush();
+  if (lock && !file_.tryLock(*lock)) throw DiskError(DiskFault::Sharing, temporary_);
+  replaceFile(temporary_, path_);
+  renamed_ = true;
+  file_.setPath(path_);
+  flushFolder(containingFolder(path_));
+  return std::move(file_);
+}
+
+}  // namespace platform

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace qt {
+
+inline QString toQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline std::string fromQt(const QString& text) {
+  return text.toStdString();
+}
+
+/// A caption without the mark of its letter, as a reader of the screen should say it.
+QString withoutMnemonic(const QString& caption);
+
+}  // namespace qt

@@ -1,0 +1,35 @@
+#include "runtime/error.h"
+
+namespace runtime {
+
+namespace {
+
+struct Description {
+  ErrorNumber number;
+  const char* text;
+};
+
+constexpr Description descriptions[] = {
+    {InvalidCall, "Argomento non ammesso"},
+    {Overflow, "Valore troppo grande o troppo piccolo per il suo tipo"},
+    {DivisionByZero, "Divisione per zero"},
+    {TypeMismatch, "Valore di tipo diverso da quello richiesto"},
+    {FileNotFound, "File inesistente"},
+    {DeviceIoError, "Errore di lettura o scrittura"},
+    {FileAlreadyExists, "File già esistente"},
+    {DiskFull, "Spazio su disco esaurito"},
+    {PermissionDenied, "File in uso"},
+    {PathFileAccess, "Accesso al file negato"},
+    {PathNotFound, "Cartella inesistente"},
+    {InvalidUseOfNull, "Valore Null non ammesso"},
+};
+
+}  // namespace
+
+Error languageError(ErrorNumber number) {
+  for (const Description& description : descriptions)
+    if (description.number == number) return Error(number, "AggNorvo", description.text);
+  return Error(number, "AggNorvo", "Errore " + std::to_string(number));
+}
+
+}  // namespace runtime

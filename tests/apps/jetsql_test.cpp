@@ -1,0 +1,209 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "support/command.h"
+#include "support/temp_folder.h"
+
+namespace {
+
+using support::CommandResult;
+using support::shellWord;
+using testing::EndsWith;
+using testing::HasSubstr;
+
+class Jetsql : public testing::Test {
+ protected:
+  CommandResult run(const std::string& arguments, const std::string& script = {}) {
+    return support::runCommand(JETSQL " " + arguments, script);
+  }
+  CommandResult statement(const std::string& sql, const std::string& options = "") {
+    return run(options + " " + shellWord(file_) + " " + shellWord(sql));
+  }
+  /// A database with these statements run in it.
+  void make(const std::string& script) {
+    const auto result = run("--create " + shellWord(file_), script);
+    ASSERT_EQ(result.status, 0) << result.errors;
+  }
+  std::string mdbExport(const std::string& table) {
+    return support::runCommand("mdb-export -D '%Y-%m-%d %H:%M:%S' " + shellWord(file_) + " " +
+                               shellWord(table))
+        .output;
+  }
+  std::string content() const {
+    std::ostringstream text;
+    text << std::ifstream(file_, std::ios::binary).rdbuf();
+    return text.str();
+  }
+
+  support::TempFolder folder_;
+  std::string file_ = folder_.systemPath("prova è.mdb");
+};
+
+TEST_F(Jetsql, ScriptFromStandardInputIsReadBackByAnIndependentReader) {
+  make(
+      "-- un commento; con punto e virgola;\n"
+      "CREATE TABLE [Quote annue] (Id LONG CONSTRAINT PrimaryKey PRIMARY KEY,\n"
+      "  Nome TEXT(40), Importo CURRENCY, Pagata YESNO, Quando DATETIME, [Note] MEMO);\n"
+      "\n"
+      "INSERT INTO [Quote annue] VALUES (1, 'D''Agostino Niccolò', 154.94, TRUE, #11/16/2006 17:16:00#, 'a;\n"
+      "b');\n"
+      "INSERT INTO [Quote annue] VALUES (2, NULL, NULL, FALSE, NULL, NULL);\n");
+  EXPECT_EQ(mdbExport("Quote annue"),
+            "Id,Nome,Importo,Pagata,Quando,Note\n"
+            "1,\"D'Agostino Niccolò\",154.9400,1,\"2006-11-16 17:16:00\",\"a;\nb\"\n"
+            "2,,,0,,\n");
+}
+
+TEST_F(Jetsql, RowsArePrintedInTheMachinesForm) {
+  make(
+      "CREATE TABLE T (Id LONG, Testo MEMO, Importo CURRENCY, Vero YESNO, Quando DATETIME, Numero DOUBLE);\n"
+      "INSERT INTO T VALUES (1, 'a\tb\\', 1.5, TRUE, #2/1/2006#, 0.1);\n"
+      "INSERT INTO T VALUES (2, NULL, NULL, FALSE, NULL, NULL);\n");
+  EXPECT_EQ(statement("SELECT * FROM T ORDER BY Id").output,
+            "Id\tTesto\tImporto\tVero\tQuando\tNumero\n"
+            "1\ta\\tb\\\\\t1.5\t-1\t2006-02-01 00:00:00\t0.1\n"
+            "2\t\t\t0\t\t\n");
+  EXPECT_EQ(statement("SELECT * FROM T ORDER BY Id", "--json").output,
+            "{\"Id\":1,\"Testo\":\"a\\tb\\\\\",\"Importo\":1.5,\"Vero\":true,"
+            "\"Quando\":\"2006-02-01 00:00:00\",\"Numero\":0.1}\n"
+            "{\"Id\":2,\"Testo\":null,\"Importo\":null,\"Vero\":false,\"Quando\":null,\"Numero\":null}\n");
+}
+
+TEST_F(Jetsql, MoneyTooLongForADoubleKeepsItsDigitsInJson) {
+  make("CREATE TABLE T (Importo CURRENCY);\nINSERT INTO T VALUES (922337203685477.5807);\n");
+  EXPECT_EQ(statement("SELECT * FROM T", "--json").output, "{\"Importo\":\"922337203685477.5807\"}\n");
+}
+
+TEST_F(Jetsql, ParametersAreAnsweredByLiterals) {
+  make(
+      "CREATE TABLE T (Nome TEXT(20), Quando DATETIME);\n"
+      "INSERT INTO T VALUES ('L''Aquila', #3/4/2006#);\n"
+      "INSERT INTO T VALUES ('Forlì', #3/5/2006#);\n");
+  const struct {
+    const char *answer, *sql, *rows;
+  } cases[] = {
+      {"parNome='L''Aquila'", "PARAMETERS parNome Text; SELECT Nome FROM T WHERE Nome = parNome",
+       "Nome\nL'Aquila\n"},
+      {"parNome=\"Forlì\"", "SELECT Nome FROM T WHERE Nome = parNome", "Nome\nForlì\n"},
+      {"d=#2006-03-04#", "PARAMETERS d DateTime; SELECT Nome FROM T WHERE Quando > d", "Nome\nForlì\n"},
+      {"n=NULL", "SELECT Nome FROM T WHERE Nome = [n]", "Nome\n"},
+      {"n=-1", "SELECT Nome FROM T WHERE [n] < 0 AND Nome = 'Forlì'", "Nome\nForlì\n"},
+  };
+  for (const auto& test : cases) {
+    const auto result = statement(test.sql, "--param " + shellWord(test.answer));
+    EXPECT_EQ(result.output, test.rows) << test.answer << ": " << result.errors;
+  }
+  EXPECT_THAT(statement("SELECT Nome FROM T WHERE Nome = parNome").errors, HasSubstr("errore 3061"));
+  for (const char* wrong : {"parNome", "=1", "parNome=1 FROM T", "parNome=", "altro=1"}) {
+    const auto result = statement("SELECT Nome FROM T WHERE Nome = parNome", "--param " + shellWord(wrong));
+    EXPECT_EQ(result.status, 1) << wrong;
+  }
+}
+
+TEST_F(Jetsql, ASyntaxErrorIsShownWithItsPlace) {
+  make("CREATE TABLE T (Città TEXT(20));\n");
+  const auto result = run(shellWord(file_), "DELETE FROM T;\nSELECT Città\nFROM T WHERE Città = = 'è';\n");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.errors, HasSubstr("jetsql: riga 2: errore 30"));
+  EXPECT_THAT(result.errors, EndsWith("  FROM T WHERE Città = = 'è';\n"
+                                      "                       ^\n"));
+}
+
+TEST_F(Jetsql, NothingIsSavedAfterAnError) {
+  make("CREATE TABLE T (Id LONG CONSTRAINT PrimaryKey PRIMARY KEY);\nINSERT INTO T VALUES (1);\n");
+  const std::string before = content();
+  const struct {
+    const char *arguments, *script;
+  } cases[] = {
+      {"", "INSERT INTO T VALUES (2);\nINSERT INTO T VALUES (1);\nINSERT INTO T VALUES (3);\n"},
+      {"", "CREATE TABLE U (Id LONG);\nINSERT INTO Nessuna VALUES (1);\n"},
+      {"", "INSERT INTO T VALUES (2);\nINSERT INTO T VALUES (\n"},
+      {"", "INSERT INTO T VALUES (2);\n.nessuno\n"},
+      {"", "INSERT INTO T VALUES (2);\nINSERT INTO T VALUES (3); -- \xE8\n"},
+      {"'INSERT INTO T VALUES (2)' 'DELETE FROM Nessuna'", ""},
+      {"--param x=1 'INSERT INTO T VALUES (2)'", ""},
+  };
+  for (const auto& test : cases) {
+    const auto result = run(shellWord(file_) + " " + test.arguments, test.script);
+    EXPECT_EQ(result.status, 1) << test.script;
+    EXPECT_NE(result.errors, "") << test.script;
+    EXPECT_EQ(content(), before) << test.script;
+  }
+  EXPECT_EQ(statement("SELECT * FROM T").output, "Id\n1\n");
+}
+
+TEST_F(Jetsql, RowsThatCannotBeWrittenAreAnError) {
+  make("CREATE TABLE T (Id LONG);\nINSERT INTO T VALUES (1);\n");
+  const std::string before = content();
+  const auto result = run(shellWord(file_) + " 'INSERT INTO T VALUES (2)' 'SELECT * FROM T' >/dev/full");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.errors, HasSubstr("errore 57"));
+  EXPECT_EQ(content(), before);
+}
+
+TEST_F(Jetsql, AFailedCreationLeavesNoFileAndAnExistingFileIsKept) {
+  EXPECT_EQ(run("--create " + shellWord(file_), "CREATE TABLE T (Id NIENTE);\n").status, 1);
+  EXPECT_FALSE(std::filesystem::exists(file_));
+
+  make("CREATE TABLE T (Id LONG);\n");
+  const std::string before = content();
+  const auto result = run("--create " + shellWord(file_), "CREATE TABLE U (Id LONG);\n");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.errors, HasSubstr("errore 3204"));
+  EXPECT_EQ(content(), before);
+}
+
+TEST_F(Jetsql, ReadOnlyNeverWrites) {
+  make("CREATE TABLE T (Id LONG);\nINSERT INTO T VALUES (1);\n");
+  const std::string before = content();
+  const auto written = std::filesystem::last_write_time(file_);
+  EXPECT_EQ(statement("SELECT Id FROM T", "--readonly").output, "Id\n1\n");
+  EXPECT_EQ(statement("DELETE FROM T", "--readonly").status, 1);
+  EXPECT_EQ(content(), before);
+  EXPECT_EQ(std::filesystem::last_write_time(file_), written);
+}
+
+TEST_F(Jetsql, ADesignThatIsPrintedCanBeRunAgain) {
+  make(
+      "CREATE TABLE T (Id COUNTER CONSTRAINT PrimaryKey PRIMARY KEY, [Il nome] TEXT(30), Prezzo CURRENCY,\n"
+      "  Foto LONGBINARY, Quando DATETIME, Breve SHORT, Piccolo BYTE, Note MEMO);\n"
+      "CREATE UNIQUE INDEX Nome ON T ([Il nome] DESC, Quando);\n"
+      "CREATE INDEX Quando ON T (Quando) WITH IGNORE NULL;\n");
+  const auto design = statement(".schema T");
+  ASSERT_EQ(design.status, 0) << design.errors;
+  EXPECT_THAT(design.output, HasSubstr("CREATE UNIQUE INDEX [Nome] ON [T] ([Il nome] DESC, [Quando]);"));
+  const auto tables = statement(".tables");
+  EXPECT_THAT(tables.output, HasSubstr("T\t0\n"));
+  EXPECT_THAT(tables.output, HasSubstr("MSysObjects\t-1\n"));
+
+  file_ = folder_.systemPath("copia.mdb");
+  make(design.output);
+  EXPECT_EQ(statement(".schema").output, design.output);
+}
+
+TEST_F(Jetsql, WrongUsageIsToldApart) {
+  const struct {
+    const char* arguments;
+    int status;
+    const char* expected;
+  } cases[] = {
+      {"", 64, "manca un argomento"},
+      {"--nessuna x.mdb", 64, "--nessuna"},
+      {"--create --readonly x.mdb", 64, "incompatibili"},
+      {"--help", 0, ".relations"},
+      {"--version", 0, "jetsql "},
+      {"/nessuna/cartella/x.mdb 'SELECT 1'", 1, "errore"},
+  };
+  for (const auto& test : cases) {
+    const auto result = run(test.arguments);
+    EXPECT_EQ(result.status, test.status) << test.arguments;
+    EXPECT_THAT(result.status == 0 ? result.output : result.errors, HasSubstr(test.expected))
+        << test.arguments;
+  }
+}
+
+}  // namespace

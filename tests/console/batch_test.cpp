@@ -1,0 +1,143 @@
+// The update from the command line: what it refuses, what it prints, its exit status.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "office.h"
+#include "platform/files.h"
+#include "support/command.h"
+
+namespace {
+
+using office::Office;
+using support::runCommand;
+using support::shellWord;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+struct Printed {
+  int status;
+  std::string out, err;
+};
+
+Printed batch(const console::BatchOptions& options) {
+  std::ostringstream out, err;
+  const int status = console::runBatch(options, out, err);
+  return {status, out.str(), err.str()};
+}
+
+std::string command(const Office& office, const std::string& arguments) {
+  return AGGNORVO " " + arguments + " --program-dir " + shellWord(platform::toSystemPath(office.program)) +
+         " --settings " + shellWord(platform::toSystemPath(office.settings));
+}
+
+TEST(Batch, StreamsTheSummaryAndKeepsBoxesApart) {
+  Office office;
+  const auto result = runCommand(command(office, "--batch --app COLLGEOMETRI"));
+  EXPECT_EQ(result.status, 0) << result.errors;
+  EXPECT_EQ(result.errors, "");
+  EXPECT_THAT(result.output,
+              HasSubstr("\nDatabase:" + office.target + "\nCopia di sicurezza in corso...fatto.\n"));
+  EXPECT_TRUE(result.output.ends_with("\nAggiornamento del database terminato,\npuoi uscire.\n"));
+  EXPECT_EQ(result.output.find('\r'), std::string::npos);
+}
+
+TEST(Batch, RefusesWhatItCanNotBegin) {
+  Office office;
+  auto options = [&](auto change) {
+    auto changed = office.batch();
+    change(changed);
+    return changed;
+  };
+  const struct {
+    console::BatchOptions options;
+    std::string err;
+  } cases[] = {
+      {options([](auto& o) { o.app = "ordsarti"; }), "Applicazione sconosciuta: ordsarti\n"},
+      {options([](auto& o) { o.app = "ordmedici", o.database.reset(); }), "Applicazione non installata"},
+      {options([](auto& o) { o.app.reset(), o.database.reset(); }), "Specificare l'applicazione:\n"},
+      {options([](auto& o) { o.database = "/manca/del/tutto.mdb"; }),
+       "Database inesistente o non leggibile: /manca"},
+      {options([&](auto& o) { o.database = platform::toSystemPath(office.data); }), "Database inesistente"},
+      {options([](auto& o) { o.app.reset(); }), "Nome dell'applicazione non indicato"},  // the answer is no
+      {options([](auto& o) { o.programDir = "/manca"; }), "Database mancante"},
+  };
+  for (const auto& test : cases) {
+    const auto result = batch(test.options);
+    EXPECT_EQ(result.status, console::Refused);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.err, HasSubstr(test.err));
+    EXPECT_THAT(office.dataFiles(), ElementsAre("studio.mdb"));
+  }
+}
+
+TEST(Batch, LeavesAFileThatIsNoUsableDatabaseAsItIs) {
+  Office office;
+  const std::string good = platform::readWholeFile(office.target);
+  std::string old = good;
+  old[0x14] = 0;  // the version of Jet 3
+  const struct {
+    const char* name;
+    std::string content;
+  } cases[] = {{"no database", std::string(8192, 'x')},
+               {"text", "Gentile collega,"},
+               {"empty", ""},
+               {"half a page", good.substr(0, 2000)},
+               {"truncated", good.substr(0, good.size() / 2)},
+               {"Jet 3", old}};
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.name);
+    platform::writeWholeFile(office.target, test.content);
+    const auto result = batch(office.batch());
+    EXPECT_EQ(result.status, console::FailedUnchanged);
+    EXPECT_THAT(result.out, testing::ContainsRegex("\nErrore: [0-9]+\n[^\n]+\n\nAggiornamento annullato!\n"));
+    EXPECT_EQ(platform::readWholeFile(office.target), test.content);
+  }
+}
+
+TEST(Batch, TakesPathsWithQuotesAndAccents) {
+  Office office("l'unità \"è\" [già] 100%");
+  const auto result = batch(office.batch());
+  EXPECT_EQ(result.status, console::Done) << result.out << result.err;
+  EXPECT_THAT(office.dataFiles(), ElementsAre("Backup20261116171600.mdb", "studio.mdb"));
+}
+
+TEST(Program, ListsWhatTheWindowWouldOffer) {
+  Office office;
+  office.writeSettings(Office::registered("PROTOCOLLO", platform::toSystemPath(office.target)));
+  const auto list = runCommand(command(office, "--list"));
+  EXPECT_EQ(list.status, 0);
+  EXPECT_EQ(list.output, "PROTOCOLLO\t" + platform::toSystemPath(office.target) + "\n");
+  platform::removeFile(office.program + "\\AggNorvo.mdb");
+  const auto none = runCommand(command(office, "--list"));
+  EXPECT_EQ(none.status, 2);
+  EXPECT_THAT(none.errors, HasSubstr("Database mancante"));
+}
+
+TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
+  const struct {
+    const char* arguments;
+    int status;
+    const char* output;
+    const char* errors;
+  } cases[] = {{"--help", 0, "Opzioni di --batch", ""},
+               {"--version", 0, "aggnorvo 1.", ""},
+               {"--batch --list", 64, "", "opzioni incompatibili"},
+               {"--batch --bach", 64, "", "argomento non previsto: --bach"},
+               {"--batch --app", 64, "", "numero di valori errato"},
+               {"--batch --answer forse", 64, "", "valore non valido"},
+               {"--list --app ordmedici", 64, "", "manca un'opzione"},
+               {"studio.mdb", 64, "", "argomento non previsto: studio.mdb"}};
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.arguments);
+    const auto result = runCommand(std::string(AGGNORVO " ") + test.arguments);
+    EXPECT_EQ(result.status, test.status);
+    EXPECT_THAT(result.output, HasSubstr(test.output));
+    EXPECT_THAT(result.errors, HasSubstr(test.errors));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,511 @@
+// The run, judged by what lies on the disk afterwards, by the flag and by the summary.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <functional>
+#include <sstream>
+
+#include "common/globale.h"
+#include "office.h"
+#include "platform/files.h"
+#include "platform/program.h"
+#include "support/child_process.h"
+#include "support/disk_faults.h"
+
+namespace {
+
+using console::Esito;
+using office::contentOf;
+using office::Office;
+using office::Window;
+using platform::DiskCall;
+using platform::DiskError;
+using platform::DiskFault;
+using platform::DiskOperation;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+
+/// Does something before each call on the disk.
+class OnDisk : public platform::DiskObserver {
+ public:
+  explicit OnDisk(std::function<void(const DiskCall&)> action) : action_(std::move(action)), scope_(*this) {}
+  void before(const DiskCall& call) override { action_(call); }
+
+ private:
+  std::function<void(const DiskCall&)> action_;
+  support::ObservedDisk scope_;
+};
+
+bool names(const DiskCall& call, const std::string& part) {
+  return call.path.find(part) != std::string::npos;
+}
+
+std::vector<std::string> with(std::vector<std::string> statements, std::initializer_list<const char*> more) {
+  statements.insert(statements.end(), more.begin(), more.end());
+  return statements;
+}
+
+const char* const NoTransaction = "INSERT INTO KepGenerali (Nome, Valore) VALUES ('UsaTransazione', '0')";
+/// Asks for a table that isn't there: an error behind the first renaming.
+const char* const MissingWebTable = "INSERT INTO KepGenerali (Nome, Valore) VALUES ('DataWeb', '1')";
+const char* const Duplicate = "INSERT INTO italia_comuni VALUES ('066049', 'L''Aquila', 'AQ', #12/31/2010#)";
+const char* const ShortName = "ds_reg_cert_energetico";
+const char* const LongName = "ds_regione_certificatore_energetico";
+
+TEST(Run, ThatEndsNormallyLeavesTheUpdatedFileItsBackupAndItsSummary) {
+  Office office;
+  office.makeTarget(
+      with(office::oldInstallation(),
+           {Duplicate, "INSERT INTO italia_comuni VALUES ('066049', 'L''Aquila', 'AQ', NULL)"}));
+  const std::string before = platform::readWholeFile(office.target);
+  Window window(office);
+  window.update();
+
+  const std::string expected =
+      "Aggiornamento in data 16/11/2026 17:16:00\r\nDatabase:" + office.target +
+      "\r\nCopia di sicurezza in corso...fatto."
+      "\r\nTabella italia_comuni: eliminazione comuni duplicati ....fatto"
+      "\r\nTabella ragioniere - campo ds_regione_certificatore_energetico in modifica"
+      "\r\nCompattazione del database " +
+      office.target +
+      "...\r\nCompattazione eseguita.\r\n\r\nAggiornamento del database terminato,"
+      "\r\npuoi uscire.\r\n";
+  EXPECT_EQ(window.summary(), expected);
+  EXPECT_EQ(platform::readWholeFile(office.log), expected + "\r\n");
+  EXPECT_TRUE(window.form.AggiornamentoEseguito);
+  EXPECT_EQ(console::exitStatus(window.form.UltimaCorsa), console::Done);
+  EXPECT_THAT(office.dataFiles(), ElementsAre("Backup20261116171600.mdb", "studio.mdb"));
+  EXPECT_EQ(platform::readWholeFile(office.backup), before);
+  // A Null sorts before every date: the row without an end goes first, then the earliest.
+  EXPECT_EQ(office::ask(office.target, "SELECT DataFine FROM italia_comuni"), "31/12/2010");
+  EXPECT_EQ(office::ask(office.target, std::string("SELECT ") + ShortName + " FROM ragioniere WHERE id = 2"),
+            "Forlì-Cesena");
+  EXPECT_THAT(window.desktop.pointers,
+              ElementsAre(controls::MousePointer::Hourglass, controls::MousePointer::Default));
+}
+
+enum class Target { Old, Renamed, Other };
+
+struct End {
+  const char* name;
+  std::vector<std::string> statements;
+  std::string application;
+  /// Prepares the office; what it returns lives as long as the run.
+  std::function<std::shared_ptr<void>(Office&, Window&)> prepare;
+  Esito esito;
+  int status;
+  bool flag;
+  Target target;
+  std::vector<const char*> summary;
+  std::vector<const char*> boxes = {};
+};
+
+std::shared_ptr<void> nothing(Office&, Window&) {
+  return nullptr;
+}
+
+/// Changes the target in the pause between the commit and the compaction.
+auto meanwhile(const char* statement) {
+  return [statement](Office& office, Window& window) -> std::shared_ptr<void> {
+    window.desktop.setEventsHook([&office, &window, statement, done = false]() mutable {
+      if (done || window.summary().find("Compattazione") == std::string::npos) return;
+      done = true;
+      const auto db = jet::dao::DBEngine::OpenDatabase(office.target);
+      db->Execute(statement);
+      db->Close();
+    });
+    return nullptr;
+  };
+}
+
+/// Fails the calls that `which` picks.
+auto failing(DiskFault fault, std::function<bool(const DiskCall&, const std::string& summary)> which) {
+  return [=](Office&, Window& window) -> std::shared_ptr<void> {
+    return std::make_shared<OnDisk>([=, &window](const DiskCall& call) {
+      if (which(call, window.summary())) throw DiskError(fault, call.path);
+    });
+  };
+}
+
+const std::vector<const char*> Interrupted = {
+    "ATTENZIONE! Aggiornamento interrotto, contattare subito assistenza software!"};
+
+const std::vector<End>& ends() {
+  const auto plain = office::oldInstallation();
+  static const std::vector<End> all = {
+      {"failed renaming",
+       {"CREATE TABLE KepGenerali (Nome TEXT(50), Valore TEXT(255))"},
+       "ordmedici",
+       nothing,
+       Esito::Fallita,
+       1,
+       false,
+       Target::Old,
+       {"\r\nErrore: 0\r\n\r\n\r\nAggiornamento annullato!\r\n"}},
+      {"error in the transaction",
+       with(plain, {MissingWebTable}),
+       "collgeometri",
+       nothing,
+       Esito::Fallita,
+       1,
+       false,
+       Target::Old,
+       {"Errore: 0\r\n", "Aggiornamento annullato!"}},
+      {"duplicates go before the transaction",
+       with(plain, {MissingWebTable, Duplicate}),
+       "collgeometri",
+       nothing,
+       Esito::Fallita,
+       4,
+       false,
+       Target::Other,
+       {"duplicati ....fatto", "Aggiornamento annullato!"}},
+      {"error without transaction",
+       with(plain, {MissingWebTable, NoTransaction}),
+       "collgeometri",
+       nothing,
+       Esito::Fallita,
+       4,
+       false,
+       Target::Renamed,
+       {"Errore: 0\r\n", "Aggiornamento annullato!"}},
+      {"protocol without members",
+       {"CREATE TABLE enti (id LONG)"},
+       "Protocollo",
+       nothing,
+       Esito::Completata,
+       0,
+       true,
+       Target::Other,
+       {"Errore nel calcolo records della tabella ragioniere!\r\n", "puoi uscire."},
+       {"Errore: 3078\r\n"}},
+      {"null duplicates",
+       with(plain, {"INSERT INTO italia_comuni VALUES (NULL, 'Narni', 'TR', NULL)",
+                    "INSERT INTO italia_comuni VALUES (NULL, 'Narni', 'TR', NULL)"}),
+       "collgeometri",
+       nothing,
+       Esito::Completata,
+       0,
+       true,
+       Target::Renamed,
+       {"duplicati ....\r\nTabella rag"}},
+      {"file in use while backing up",
+       plain,
+       "collgeometri",
+       failing(DiskFault::Sharing,
+               [](const DiskCall& call, const std::string&) { return names(call, "Backup"); }),
+       Esito::Fallita,
+       1,
+       false,
+       Target::Old,
+       {"corso...\r\nErrore: 70\r\n",
+        "\r\n\r\nIl database è aperto da un altro programma.\r\n\r\nAggiornamento"}},
+      {"commit without space",
+       plain,
+       "collgeometri",
+       failing(DiskFault::NoSpace,
+               [](const DiskCall& call, const std::string&) {
+                 return call.operation == DiskOperation::Write && names(call, "studio.mdb.tmp");
+               }),
+       Esito::Fallita,
+       1,
+       false,
+       Target::Old,
+       {"in modifica\r\nErrore: ", "Aggiornamento annullato!"}},
+      {"compacted file in the way",
+       plain,
+       "collgeometri",
+       [](Office& office, Window& window) {
+         platform::writeWholeFile(office.file("Newstudio.mdb"), "avanzo");
+         return failing(DiskFault::AccessDenied, [](const DiskCall& call, const std::string&) {
+           return call.operation == DiskOperation::Remove && names(call, "Newstudio.mdb");
+         })(office, window);
+       },
+       Esito::NonRimossa,
+       4,
+       false,
+       Target::Renamed,
+       {"in modifica\r\nErrore: 75\r\n"},
+       Interrupted},
+      {"compaction that can't write",
+       plain,
+       "collgeometri",
+       [](Office& office, Window&) -> std::shared_ptr<void> {
+         std::filesystem::create_directory(platform::toSystemPath(office.file("Newstudio.mdb")));
+         return nullptr;
+       },
+       Esito::NonCompattata,
+       4,
+       true,
+       Target::Renamed,
+       {"studio.mdb...\r\nErrore: 3204\r\n",
+        "\r\n\r\nAggiornamento del database terminato,\r\npuoi uscire.\r\n"}},
+      {"leftover of an earlier compaction",
+       plain,
+       "collgeometri",
+       [](Office& office, Window&) -> std::shared_ptr<void> {
+         platform::writeWholeFile(office.file("Newstudio.mdb"), "avanzo");
+         return nullptr;
+       },
+       Esito::Completata,
+       0,
+       true,
+       Target::Renamed,
+       {"Compattazione eseguita."}},
+      {"compacted file that can't be copied",
+       plain,
+       "collgeometri",
+       failing(DiskFault::Io,
+               [](const DiskCall& call, const std::string& summary) {
+                 return call.operation == DiskOperation::Write && names(call, "studio.mdb.tmp") &&
+                        !names(call, "Newstudio") && summary.find("Compattazione") != std::string::npos;
+               }),
+       Esito::Completata,
+       4,
+       true,
+       Target::Renamed,
+       {"Compattazione eseguita.", "puoi uscire."}},
+      {"record missing",
+       plain,
+       "collgeometri",
+       meanwhile("DELETE FROM gruppi WHERE id = 2"),
+       Esito::Ripristinata,
+       1,
+       false,
+       Target::Old,
+       {"\r\n\r\nTabella gruppi: mancano  1 records!\r\n\r\nRipristino database di backup ",
+        "Backup20261116171600.mdb... fatto!\r\nAggiornamento interrotto, contattare subito assistenza "
+        "tecnica!"},
+       Interrupted},
+      {"record too many",
+       plain,
+       "collgeometri",
+       meanwhile("INSERT INTO enti VALUES (8)"),
+       Esito::Ripristinata,
+       1,
+       false,
+       Target::Old,
+       {"Tabella enti: mancano -1 records!"},
+       Interrupted},
+      {"restore at the second try",
+       plain,
+       "collgeometri",
+       [](Office& office, Window& window) {
+         meanwhile("DELETE FROM gruppi")(office, window);
+         return failing(DiskFault::Io, [](const DiskCall& call, const std::string& summary) {
+           return names(call, "studio.mdb.tmp") && summary.ends_with("... ");
+         })(office, window);
+       },
+       Esito::Ripristinata,
+       1,
+       false,
+       Target::Old,
+       {"... non riuscito!!!!\r\nAggiornamento interrotto"},
+       Interrupted},
+      {"summary that can't be saved",
+       plain,
+       "collgeometri",
+       failing(DiskFault::AccessDenied,
+               [](const DiskCall& call, const std::string&) { return names(call, ".log"); }),
+       Esito::Completata,
+       0,
+       true,
+       Target::Renamed,
+       {"puoi uscire."},
+       {"Non è possibile salvare il file log"}},
+  };
+  return all;
+}
+
+TEST(Run, EndsInEveryWayAsItShould) {
+  for (const End& end : ends()) {
+    SCOPED_TRACE(end.name);
+    Office office;
+    office.makeTarget(end.statements);
+    const std::string before = platform::readWholeFile(office.target);
+    Window window(office);
+    const auto prepared = end.prepare(office, window);
+    window.update(end.application);
+    EXPECT_EQ(console::exitStatus(window.form.UltimaCorsa), end.status);
+    EXPECT_EQ(window.form.UltimaCorsa.esito, end.esito);
+    EXPECT_EQ(window.form.AggiornamentoEseguito, end.flag);
+    for (const char* part : end.summary) EXPECT_THAT(window.summary(), HasSubstr(part));
+    ASSERT_EQ(window.desktop.boxes.size(), end.boxes.size());
+    for (std::size_t box = 0; box < end.boxes.size(); ++box)
+      EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(end.boxes[box]));
+    window.desktop.setEventsHook({});
+    window.form.unload();
+    EXPECT_EQ(platform::readWholeFile(office.target) == before, end.target == Target::Old);
+    EXPECT_EQ(contentOf(office.target).find(ShortName) != std::string::npos, end.target == Target::Renamed);
+    const std::string kept = office.file("ErrUnioncol20261116171600.mdb");
+    EXPECT_EQ(platform::fileExists(kept), end.esito == Esito::Ripristinata);
+  }
+}
+
+TEST(Run, BeginsOnADatabaseThatIsOpenElsewhereOnlyWhenItIsFree) {
+  struct {
+    controls::MessageAnswer answer;
+    bool updated;
+  } const cases[] = {{controls::vbNo, false}, {controls::vbCancel, false}, {controls::vbYes, true}};
+  for (const auto& [answer, updated] : cases) {
+    SCOPED_TRACE(answer);
+    Office office;
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    support::Child other([&] {
+      const auto db = jet::dao::DBEngine::OpenDatabase(office.target);
+      if (::write(ready[1], "x", 1) != 1) return 1;
+      ::pause();
+      return 0;
+    });
+    char sign = 0;
+    ASSERT_EQ(::read(ready[0], &sign, 1), 1);
+    Window window(office);
+    window.desktop.expectBox("Il database è aperto da un altro programma. Si desidera riprovare", answer);
+    const float asked = office.clock.seconds;
+    window.desktop.setEventsHook([&] {
+      if (office.clock.seconds > asked + 2) other.kill(), other.wait();
+    });
+    window.update();
+    EXPECT_EQ(window.desktop.boxes.at(0).style, 67);
+    EXPECT_EQ(window.desktop.boxes.at(0).title, "Attenzione database aperto!");
+    EXPECT_EQ(window.desktop.boxes.size(), 1u);
+    EXPECT_EQ(office.clock.seconds >= asked + 4.5, updated);
+    EXPECT_EQ(window.form.AggiornamentoEseguito, updated);
+    EXPECT_EQ(platform::fileExists(office.backup), updated);
+    EXPECT_EQ(window.summary().empty(), !updated);
+    ::close(ready[0]), ::close(ready[1]);
+  }
+}
+
+TEST(Run, IsForbiddenByTheMarkerAboveADbFolder) {
+  struct {
+    const char* folder;
+    const char* marker;
+    bool path;
+    bool forbidden;
+  } const cases[] = {{"studio\\DB", "studio\\NoAggNorvo.txt", false, true},
+                     {"studio\\dbase\\anno", "studio\\NoAggNorvo.txt", false, true},
+                     {"studio\\DB", "studio\\DB\\NoAggNorvo.txt", false, false},
+                     {"studio\\dati", "studio\\NoAggNorvo.txt", false, false},
+                     {"studio\\DB", "studio\\NoAggNorvo.txt", true, false}};
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.folder);
+    Office office(test.folder);
+    platform::writeWholeFile(office.folder.path(test.marker), "");
+    Window window(office);
+    if (test.path) window.form.Path(office.program);
+    window.update();
+    EXPECT_EQ(window.desktop.ended, test.forbidden);
+    EXPECT_EQ(platform::fileExists(office.backup), !test.forbidden);
+    ASSERT_EQ(window.desktop.boxes.size(), test.forbidden ? 1u : 0u);
+    for (const auto& box : window.desktop.boxes) EXPECT_THAT(box.text, EndsWith("'Controllo Aggiornamenti'"));
+  }
+}
+
+TEST(Run, AsksForTheApplicationOfAnUnknownDatabase) {
+  struct {
+    const char* patch;
+    std::optional<std::string> answer;
+    const char* offered;
+    const char* applied;
+  } const cases[] = {{"", std::nullopt, "collgeometri", "collgeometri"},
+                     {"Norvo-Prg=ordmedici", std::nullopt, "ordmedici", "ordmedici"},
+                     {"", "PROTOCOLLO", "collgeometri", "PROTOCOLLO"},
+                     {"", "", "collgeometri", ""}};
+  for (const auto& test : cases) {
+    Office office;
+    office.writePatchList(test.patch);
+    Window window(office);
+    window.desktop.expectInput(test.answer);
+    window.update("");
+    ASSERT_EQ(window.desktop.inputs.size(), 1u);
+    EXPECT_EQ(window.desktop.inputs[0].title, "Nome applicazione");
+    EXPECT_EQ(window.desktop.inputs[0].text, test.offered);
+    EXPECT_EQ(common::NomeApplicazione, test.applied);
+    EXPECT_EQ(window.form.AggiornamentoEseguito, *test.applied != '\0');
+    EXPECT_EQ(platform::fileExists(office.backup), *test.applied != '\0');
+  }
+}
+
+TEST(Run, IsNotStartedTwiceAndKeepsItsTargetAndItsWindow) {
+  Office office;
+  Window window(office);
+  int clicks = 0;
+  window.desktop.setEventsHook([&] {
+    if (!window.form.busy() || clicks++ > 20) return;
+    window.form.cmdAggiorna_Click();
+    window.form.txtAltroDB_OLEDragDrop({true, {office.file("altro.mdb")}});
+    window.form.unload();
+  });
+  window.update();
+  EXPECT_GT(clicks, 5);
+  EXPECT_THAT(window.summary(), EndsWith("puoi uscire.\r\n"));
+  EXPECT_THAT(window.summary(), Not(HasSubstr("altro.mdb")));
+  EXPECT_FALSE(window.form.loaded()) << "the wish to leave is granted after the run";
+}
+
+TEST(Run, SurvivesADiskThatFillsUp) {
+  struct {
+    const char* name;
+    const char* file;
+    int status;
+    const char* summary;
+    bool old;
+  } const cases[] = {{"backing up", "Backup", 1, "corso...\nErrore: 61", true},
+                     {"saving", "studio.mdb.tmp", 1, "in modifica\nErrore: ", true},
+                     {"compacting", "Newstudio.mdb", 4, "studio.mdb...\nErrore: ", false}};
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.name);
+    Office office;
+    const std::string before = platform::readWholeFile(office.target);
+    const int status = support::runInChild([&] {
+      platform::keepRunningOnWriteSignals();
+      OnDisk limit([&](const DiskCall& call) {
+        if (!names(call, test.file)) return;
+        const rlimit small{20000, 20000};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+      });
+      std::ostringstream out, err;
+      const int result = console::runBatch(office.batch(), out, err);
+      EXPECT_THAT(out.str(), HasSubstr(test.summary));
+      return testing::Test::HasFailure() ? 98 : result;
+    });
+    EXPECT_EQ(status, test.status);
+    EXPECT_TRUE(platform::fileExists(office.log));
+    if (test.old) {
+      EXPECT_EQ(platform::readWholeFile(office.target), before);
+    } else {
+      EXPECT_THAT(contentOf(office.target), HasSubstr(ShortName));
+    }
+    EXPECT_FALSE(platform::fileExists(office.file("Newstudio.mdb")));
+    std::ostringstream out, err;
+    EXPECT_EQ(console::runBatch(office.batch(), out, err), console::Done) << out.str() << err.str();
+  }
+}
+
+TEST(Run, StandsAReadOnlyProgramFolder) {
+  Office office;
+  for (const std::string& path : {office.data, office.target})
+    if (::chown(platform::toSystemPath(path).c_str(), 65534, 65534) != 0)
+      GTEST_SKIP() << "only root can give files";
+  ::chmod(platform::toSystemPath(office.program).c_str(), 0555);
+  const int status = support::runInChild([&] {
+    if (::setgid(65534) != 0 || ::setuid(65534) != 0) return 97;
+    std::ostringstream out, err;
+    const int result = console::runBatch(office.batch(), out, err);
+    EXPECT_EQ(err.str(), "[messaggio] Salvataggio riepilogo: Non è possibile salvare il file log\n");
+    return testing::Test::HasFailure() ? 98 : result;
+  });
+  EXPECT_EQ(status, console::Done);
+  EXPECT_THAT(contentOf(office.target), HasSubstr(ShortName));
+  EXPECT_THAT(contentOf(office.backup), HasSubstr(LongName));
+}
+
+}  // namespace

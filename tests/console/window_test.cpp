@@ -1,0 +1,224 @@
+// The window from its start to the moment when the update can begin.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "common/globale.h"
+#include "office.h"
+#include "platform/files.h"
+
+namespace {
+
+using office::Office;
+using office::Window;
+using testing::ElementsAre;
+
+std::vector<std::string> rowsOf(const controls::ListBox& list) {
+  std::vector<std::string> rows;
+  for (int row = 0; row < list.listCount(); ++row) rows.push_back(list.list(row));
+  return rows;
+}
+
+const std::string Prompt = "Specificare l'applicazione:";
+
+TEST(StartUp, ListsWhatIsInstalledAndSelectsTheApplicationOfThePatch) {
+  const std::string switches = "[AggNorvo\\DU]\nDEBUG = kep\n";
+  struct {
+    const char* name;
+    std::vector<std::string> installed;
+    std::string patchList;
+    std::string more;
+    std::vector<std::string> rows;  // %: the path of the target
+    int selected;
+    bool hand;  // the choice by hand is offered
+  } const cases[] = {
+      {"nothing installed", {}, "", "", {Prompt}, -1, true},
+      {"path of a missing file", {"-ordmedici"}, "Norvo-Prg=ordmedici", "", {Prompt}, -1, true},
+      {"patch of another application",
+       {"ordmedici"},
+       "Norvo-Prg=collperind",
+       "",
+       {Prompt, "ORDMEDICI "},
+       -1,
+       false},
+      {"patch",
+       {"PROTOCOLLO", "collgeometri"},
+       "[x]\r\n norvo-prg = ordmedici \r\nNorvo-Prg =CollGeometri\r\n",
+       "",
+       {Prompt, "COLLGEOMETRI ", "PROTOCOLLO "},
+       1,
+       false},
+      {"debug",
+       {"ordmedici"},
+       "Norvo-Prg=ordmedici\nNorvo-Prg=",
+       switches,
+       {Prompt, "ORDMEDICI (%)"},
+       -1,
+       false},
+  };
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.name);
+    Office office;
+    std::string settings = test.more;
+    for (const std::string& name : test.installed)
+      settings += name.starts_with('-') ? Office::registered(name.substr(1), office.file("manca.mdb"))
+                                        : Office::registered(name, office.target);
+    office.writeSettings(settings);
+    if (!test.patchList.empty()) office.writePatchList(test.patchList);
+    Window window(office);
+    std::vector<std::string> rows = test.rows;
+    for (std::string& row : rows)
+      if (const auto place = row.find('%'); place != std::string::npos) row.replace(place, 1, office.target);
+    EXPECT_EQ(rowsOf(window.form.lstDatabase), rows);
+    EXPECT_EQ(window.form.lstDatabase.listIndex(), test.selected);
+    EXPECT_EQ(window.form.cmdAggiorna.enabled(), test.selected > 0);
+    EXPECT_EQ(window.form.mnuFileAggiorna.enabled(), test.selected > 0);
+    EXPECT_EQ(window.form.lstDatabase.enabled(), !test.hand);
+    EXPECT_EQ(window.form.txtAltroDB.visible(), test.hand);
+    EXPECT_EQ(window.form.cmdSelezionaDB.visible(), test.hand);
+    EXPECT_FALSE(window.form.chkAltroDatabase.visible());
+    EXPECT_FALSE(window.form.chkAggiornaDescrizioni.visible());
+  }
+}
+
+TEST(StartUp, SelectsTheLaterOfTwoRowsThatDifferInCase) {
+  Office office;
+  platform::removeFile(office.program + "\\AggNorvo.mdb");
+  office::makeDatabase(office.program + "\\AggNorvo.mdb",
+                       {"CREATE TABLE Norvi (norvo TEXT(30))", "INSERT INTO Norvi VALUES ('collgeometri')",
+                        "INSERT INTO Norvi VALUES ('CollGeometri')"});
+  office.writePatchList("Norvo-Prg=COLLGEOMETRI");
+  Window window(office);
+  EXPECT_EQ(window.form.lstDatabase.listIndex(), 2);
+}
+
+TEST(StartUp, WithoutAUsableReferenceDatabaseOffersNothing) {
+  for (const bool damaged : {false, true}) {
+    Office office;
+    platform::removeFile(office.program + "\\AggNorvo.mdb");
+    if (damaged) platform::writeWholeFile(office.program + "\\AggNorvo.mdb", "non è un database");
+    Window window(office);
+    EXPECT_TRUE(window.form.loaded());
+    EXPECT_EQ(window.desktop.boxes.size(), damaged ? 0u : 1u);
+    for (const auto& box : window.desktop.boxes) EXPECT_EQ(box.text, "Database mancante");
+    EXPECT_EQ(window.form.lstDatabase.listCount(), 0);
+    for (const controls::Control* control :
+         {static_cast<const controls::Control*>(&window.form.cmdAggiorna),
+          static_cast<const controls::Control*>(&window.form.lstDatabase),
+          static_cast<const controls::Control*>(&window.form.mnuFileAggiorna)})
+      EXPECT_FALSE(control->reachable()) << control->name();
+    window.form.lstDatabase_DblClick();
+    EXPECT_EQ(window.form.UltimaCorsa.esito, console::Esito::NonScelta);
+  }
+}
+
+TEST(Choice, ByHandIsOfferedBySettingAndKeepsItsText) {
+  Office office;
+  office.writeSettings("[AggNorvo\\DU]\nOTHERDB = KEP\nANALISIDB = " + office.target + "\n" +
+                       Office::registered("collgeometri", office.target));
+  const std::string other = office.file("altro.mdb");
+  platform::writeWholeFile(other, "x");
+  Window window(office);
+  auto& form = window.form;
+  EXPECT_TRUE(form.chkAltroDatabase.visible());
+  EXPECT_TRUE(form.chkAggiornaDescrizioni.visible());
+  form.chkAltroDatabase.toggle();
+  EXPECT_FALSE(form.lstDatabase.visible());
+  EXPECT_TRUE(form.txtAltroDB.visible());
+  EXPECT_FALSE(form.cmdAggiorna.enabled());
+  form.txtAltroDB.setText(other);
+  EXPECT_FALSE(form.cmdAggiorna.enabled()) << "typing enables nothing";
+  form.chkAltroDatabase.toggle();
+  form.lstDatabase.pick(1);
+  EXPECT_TRUE(form.cmdAggiorna.enabled());
+  form.LeggiDatabaseScelto();
+  EXPECT_EQ(form.PercorsoDatabase, other) << "the text counts before the list";
+  form.chkAltroDatabase.toggle();
+  EXPECT_TRUE(form.cmdAggiorna.enabled());
+  form.txtAltroDB.setText("  ");
+  form.LeggiDatabaseScelto();
+  EXPECT_EQ(form.PercorsoDatabase, office.target);
+  EXPECT_EQ(common::NomeApplicazione, "collgeometri");
+  form.lstDatabase.pick(0);
+  form.LeggiDatabaseScelto();
+  EXPECT_EQ(form.PercorsoDatabase, "");
+  EXPECT_EQ(common::NomeApplicazione, "");
+  EXPECT_FALSE(form.mnuFileAggiorna.enabled());
+}
+
+TEST(Choice, TakesADroppedDatabaseAndNothingElse) {
+  struct {
+    controls::DropData drop;
+    const char* text;
+    bool enabled;
+  } const cases[] = {{{true, {"\\a\\b.MDB", "\\a\\c.txt"}}, "\\a\\b.MDB", true},
+                     {{true, {"\\a\\c.txt", "\\a\\b.mdb"}}, "", false},
+                     {{true, {"db"}}, "", false},
+                     {{false, {"\\a\\b.mdb"}}, "prima", true}};
+  Office office;
+  for (const auto& test : cases) {
+    Window window(office);
+    window.form.txtAltroDB.setText("prima");
+    window.form.cmdAggiorna.setEnabled(true);
+    window.form.mnuFileAggiorna.setEnabled(false);
+    window.form.txtAltroDB.oleDragDrop.raise(test.drop);
+    EXPECT_EQ(window.form.txtAltroDB.text(), test.text);
+    EXPECT_EQ(window.form.cmdAggiorna.enabled(), test.enabled);
+    EXPECT_FALSE(window.form.mnuFileAggiorna.enabled());
+  }
+}
+
+TEST(Choice, TakesAnExistingFileOfTheDialog) {
+  Office office;
+  for (const char* name : {"", "manca.mdb", "studio.mdb"}) {
+    Window window(office);
+    window.form.cmdSelezionaDB.setVisible(true);
+    if (*name) {
+      window.desktop.expectOpen(office.file(name));
+    } else {
+      window.desktop.expectOpen(std::nullopt);
+    }
+    window.form.cmdSelezionaDB.press();
+    const bool taken = name == std::string("studio.mdb");
+    EXPECT_EQ(window.form.PercorsoDatabase, taken ? office.target : "");
+    EXPECT_EQ(window.form.txtAltroDB.text(), window.form.PercorsoDatabase);
+    EXPECT_EQ(window.form.cmdAggiorna.enabled(), taken);
+    EXPECT_EQ(window.form.cmdDlg.flags(), 4100);
+    EXPECT_EQ(window.form.cmdDlg.filter(), "Database Access (*.mdb)|*.mdb");
+  }
+}
+
+TEST(Exit, WarnsWhenNothingWasUpdated) {
+  Office office;
+  Window window(office);
+  window.form.mnuFileEsci.choose();
+  ASSERT_EQ(window.desktop.boxes.size(), 1u);
+  EXPECT_EQ(window.desktop.boxes[0].text,
+            "Non è stato eseguito nessun aggiornamento al database. Operazione annullata!");
+  EXPECT_FALSE(window.form.loaded());
+
+  Window second(office);
+  second.update();
+  second.form.cmdEsci.press();
+  EXPECT_TRUE(second.desktop.boxes.empty());
+  EXPECT_FALSE(second.form.loaded());
+}
+
+TEST(Summary, TakesPathsApart) {
+  using Form = console::frmAggMain;
+  EXPECT_EQ(Form::EstraiCartella("\\srv\\db\\a.mdb"), "\\srv\\db\\");
+  EXPECT_EQ(Form::EstraiNomeFile("\\srv\\db\\a.mdb"), "a.mdb");
+  EXPECT_EQ(Form::EstraiCartella("a.mdb"), "");
+  EXPECT_EQ(Form::EstraiNomeFile("a.mdb"), "a.mdb");
+  EXPECT_EQ(Form::EstraiCartella(runtime::Null{}), "");
+  EXPECT_EQ(Form::EstraiNomeFile(std::int32_t{5}), "");
+}
+
+TEST(Wait, GoesOverMidnight) {
+  Office office;
+  Window window(office);
+  office.clock.seconds = 86398;
+  window.form.WaitFor(5);
+  EXPECT_NEAR(office.clock.seconds, 2.5, 0.2) << "4.5 seconds round to the 4 that are even, 4.6 to 5";
+}
+
+}  // namespace

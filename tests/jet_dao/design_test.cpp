@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include "office.h"
+#include "platform/files.h"
+
+namespace jet::dao {
+namespace {
+
+using office::errorOf;
+
+const std::vector<std::string> EveryType = {
+    "CREATE TABLE Ogni (id COUNTER CONSTRAINT pk PRIMARY KEY, si BIT, b BYTE, i SHORT, l LONG, v CURRENCY, s SINGLE, "
+    "d DOUBLE, q DATETIME, t TEXT(30) NOT NULL, m MEMO, n DECIMAL(10, 3), bin BINARY(8), o LONGBINARY, g GUID)",
+    "CREATE UNIQUE INDEX perTesto ON Ogni (t DESC, l)",
+    "CREATE INDEX perNumero ON Ogni (n, v)",
+    "INSERT INTO Ogni (si, b, i, l, v, s, d, q, t, m, n) VALUES (TRUE, 255, -32768, 2147483647, 12.3456, 1.5, -0.1, "
+    "#2026-11-16 17:16:00#, 'Niccolò D''Agostino', 'perché', -12.345)",
+    "INSERT INTO Ogni (t, l) VALUES ('Ωmega', NULL)",
+    "INSERT INTO Ogni (t, l) VALUES ('', 0)",
+};
+
+TEST(Design, ATableOfEveryTypeComesBackInThreeReaders) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("ogni.mdb");
+  office::make(path, EveryType);
+  EXPECT_EQ(office::complaints(path), "");
+  const std::string first = "1|Vero|255|-32768|2147483647|12,3456|1,5|-0,1|16/11/2026 17:16:00|Niccolò D'Agostino|"
+                            "perché|-12,345|Null|Null|Null";
+  const std::string others = " 2|Falso|Null|Null|Null|Null|Null|Null|Null|Ωmega|Null|Null|Null|Null|Null"
+                             " 3|Falso|Null|Null|0|Null|Null|Null|Null||Null|Null|Null|Null|Null";
+  EXPECT_EQ(office::query(path, "SELECT * FROM Ogni ORDER BY id"), first + others);
+  const auto theirs = office::exported(path, "Ogni");
+  for (const char* field : {"1,1,255,-32768,2147483647,12.3456,1.5,-0.1,\"11/16/26 17:16:00\",\"Niccolò D'Agostino\",\"perché\",-12.345", "\"Ωmega\""})
+    EXPECT_NE(theirs.find(field), std::string::npos) << theirs;
+  DBEngine::CompactDatabase(path, folder.path("compatto.mdb"));
+  EXPECT_EQ(office::complaints(folder.path("compatto.mdb")), "");
+  EXPECT_EQ(office::exported(folder.path("compatto.mdb"), "Ogni"), theirs);
+}
+
+struct Refusal {
+  const char* sql;
+  int error;
+};
+
+TEST(Design, RefusedStatementsLeaveNothing) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("ogni.mdb");
+  office::make(path, EveryType);
+  const auto before = platform::readWholeFile(path);
+  const Refusal refusals[] = {
+      {"INSERT INTO Ogni (t, l) VALUES ('', 0)", 3022},
+      {"INSERT INTO Ogni (id, t) VALUES (1, 'x')", 3022},
+      {"UPDATE Ogni SET t = 'stesso', l = 1", 3022},
+      {"INSERT INTO Ogni (l) VALUES (1)", 3314},
+      {"UPDATE Ogni SET t = NULL", 3314},
+      {"UPDATE Ogni SET id = NULL", 3058},
+      {"UPDATE Ogni SET t = '0123456789012345678901234567890' WHERE id = 1", 3163},
+      {"CREATE TABLE ogni (a LONG)", 3010},
+      {"CREATE TABLE nuova (a LONG, A TEXT)", 3191},
+      {"CREATE TABLE [a.b] (a LONG)", 3125},
+      {"CREATE UNIQUE INDEX doppi ON Ogni (si)", 3022},
+      {"CREATE INDEX pk ON Ogni (l)", 3284},
+      {"CREATE INDEX nuovo ON Ogni (manca)", 3409},
+      {"CREATE INDEX nuovo ON Ogni (o)", 3290},
+      {"DROP TABLE manca", 3376},
+      {"DROP INDEX manca ON Ogni", 3372},
+      {"DROP TABLE MSysObjects", 3111},
+      {"SELECT * FROM Ogni", 3065},
+      {"UPDATE manca SET a = 1", 3078},
+      {"UPDATE Ogni SET l = manca", 3061},
+  };
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, true);
+  for (const auto& [sql, error] : refusals)
+    EXPECT_EQ(errorOf([&, text = sql] { db->Execute(text, dbFailOnError); }), error) << sql;
+  db->Close();
+  EXPECT_EQ(platform::readWholeFile(path), before);
+}
+
+TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("ogni.mdb");
+  office::make(path, EveryType);
+  {
+    Workspace workspace;
+    const auto db = workspace.OpenDatabase(path, true);
+    const auto table = db->TableDefs("OGNI");
+    auto field = table->Fields("t");
+    field.setName("Testo");
+    EXPECT_EQ(field.Name(), "Testo");
+    EXPECT_EQ(errorOf([&] { table->Fields("m").setName("testo"); }), 3191);
+    EXPECT_EQ(errorOf([&] { table->deleteField("l"); }), 3280);
+    EXPECT_EQ(errorOf([&] { table->deleteField("manca"); }), 3265);
+    db->Close();
+  }
+  EXPECT_EQ(office::complaints(path), "");
+  EXPECT_EQ(office::query(path, "SELECT Testo FROM Ogni WHERE Testo LIKE 'n*'"), "Niccolò D'Agostino");
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, true);
+  // The property Required went with the name.
+  EXPECT_EQ(errorOf([&] { db->Execute("UPDATE Ogni SET Testo = NULL"); }), 3314);
+  db->TableDefs("Ogni")->deleteField("m");
+  db->TableDefs("Ogni")->deleteField("si");
+  db->Close();
+  EXPECT_EQ(office::complaints(path), "");
+  EXPECT_EQ(office::query(path, "SELECT id, Testo, n FROM Ogni WHERE id = 1"), "1|Niccolò D'Agostino|-12,345");
+  EXPECT_EQ(office::exported(path, "Ogni").substr(0, 24), "id,b,i,l,v,s,d,q,Testo,n");
+}
+
+TEST(Design, DroppedTablesAndIndexesGiveTheirPagesBack) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("a.mdb");
+  office::make(path, EveryType);
+  for (int round = 0; round < 3; ++round) {
+    Workspace workspace;
+    const auto db = workspace.OpenDatabase(path, true);
+    db->Execute("DROP INDEX perNumero ON Ogni");
+    db->Execute("CREATE TABLE Altra (a LONG, b MEMO)");
+    db->Execute("INSERT INTO Altra SELECT l AS a, t AS b FROM Ogni");
+    db->Execute("CREATE INDEX perNumero ON Ogni (n, v)");
+    db->Close();
+    EXPECT_EQ(office::complaints(path), "");
+    const auto again = workspace.OpenDatabase(path, true);
+    again->Execute("DROP TABLE Altra");
+    again->Close();
+    EXPECT_EQ(office::complaints(path), "");
+  }
+  const auto size = platform::inspectFile(path)->size;
+  office::make(folder.path("b.mdb"), EveryType);
+  EXPECT_LE(size, platform::inspectFile(folder.path("b.mdb"))->size + 16 * 4096);
+}
+
+TEST(Design, CountersGoOnWhereTheyStood) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("a.mdb");
+  office::make(path, {"CREATE TABLE t (n COUNTER, a TEXT)", "INSERT INTO t (a) VALUES ('x')",
+                      "INSERT INTO t (n, a) VALUES (41, 'y')", "DELETE * FROM t WHERE n = 41"});
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, true);
+  const auto rows = db->OpenRecordset("t");
+  rows->AddNew();
+  rows->Fields("a").setValue("z");
+  rows->Update();
+  EXPECT_EQ(office::rows(*rows), "1|x 42|z");
+}
+
+TEST(Design, AStoredQueryIsSeenByASecondReader) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("a.mdb");
+  office::make(path, {"CREATE TABLE a (x LONG, y TEXT)", "CREATE TABLE b (x LONG, z TEXT)"});
+  {
+    Workspace workspace;
+    const auto db = workspace.OpenDatabase(path, true);
+    db->CreateQueryDef("somme", "SELECT a.y AS nome, Count(*) AS quanti FROM a INNER JOIN b ON a.x = b.x WHERE a.x > 1 "
+                                "GROUP BY a.y HAVING Count(*) > 2 ORDER BY a.y DESC");
+    EXPECT_EQ(errorOf([&] { db->CreateQueryDef("A", "SELECT * FROM b"); }), 3012);
+    EXPECT_EQ(errorOf([&] { db->CreateQueryDef("rotta", "SELECT FROM"); }), 3141);
+    db->Close();
+  }
+  EXPECT_EQ(office::complaints(path), "");
+  const auto theirs = support::runCommand("mdb-queries " + office::system(path) + " somme").output;
+  for (const char* piece : {"SELECT", "nome", "INNER JOIN", "GROUP BY", "HAVING", "ORDER BY", "DESC"})
+    EXPECT_NE(theirs.find(piece), std::string::npos) << theirs;
+}
+
+}  // namespace
+}  // namespace jet::dao

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "jet/dao/engine.h"
+#include "support/command.h"
+#include "support/temp_folder.h"
+
+/// Small databases for the tests of the data access objects, and second readers that look at what was written.
+namespace office {
+
+/// A new database at `path` in which `statements` have been carried out.
+inline void make(const std::string& path, const std::vector<std::string>& statements) {
+  jet::dao::Workspace workspace;
+  const auto db = workspace.CreateDatabase(path);
+  for (const auto& sql : statements) db->Execute(sql, jet::dao::dbFailOnError);
+  db->Close();
+}
+
+inline std::string text(const runtime::Variant& value) { return value.isNull() ? "Null" : value.toText(); }
+
+/// The rows of a recordset from where it stands, fields joined by '|', rows by blanks.
+inline std::string rows(jet::dao::Recordset& recordset) {
+  std::string result;
+  for (; !recordset.atEnd(); recordset.MoveNext()) {
+    if (!result.empty()) result += " ";
+    for (std::size_t i = 0; i < recordset.fieldCount(); ++i)
+      result += (i ? "|" : "") + text(recordset.Fields(i).Value());
+  }
+  return result;
+}
+
+/// The same for a query on a file that is opened for it alone.
+inline std::string query(const std::string& path, const std::string& sql) {
+  jet::dao::Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, false, true);
+  return rows(*db->OpenRecordset(sql, jet::dao::dbOpenSnapshot));
+}
+
+inline std::string system(const std::string& path) { return support::shellWord(platform::toSystemPath(path)); }
+
+/// A table as mdb-export writes it.
+inline std::string exported(const std::string& path, const std::string& table) {
+  return support::runCommand("mdb-export -b hex " + system(path) + " " + support::shellWord(table)).output;
+}
+
+/// Folder of the format's checker and of the corpus, or empty.
+inline std::string jetData() {
+  const char* folder = std::getenv("AGGNORVO_JET_DATA");
+  return folder ? folder : "";
+}
+
+/// Complaints of the checker about a file; empty where it is clean, or where the checker is not at hand.
+inline std::string complaints(const std::string& path, const std::string& options = "--strict") {
+  if (jetData().empty()) return {};
+  const auto result =
+      support::runCommand("python3 " + support::shellWord(jetData() + "/jet/jetcheck.py") + " " + options + " " + system(path));
+  return result.status == 0 ? std::string() : result.output + result.errors;
+}
+
+/// Number of the error that `work` ends in; 0 if it ends in none.
+template <typename Work>
+int errorOf(Work work) {
+  try {
+    work();
+  } catch (const runtime::Error& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+}  // namespace office

@@ -1,0 +1,229 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "support/child_process.h"
+#include "support/disk_faults.h"
+#include "support/temp_folder.h"
+
+namespace platform {
+namespace {
+
+using support::Faulty;
+using support::ObservedDisk;
+
+constexpr DiskFault allFaults[] = {
+    DiskFault::NotFound, DiskFault::PathNotFound, DiskFault::AccessDenied, DiskFault::Sharing,
+    DiskFault::NoSpace,  DiskFault::Exists,       DiskFault::IsFolder,     DiskFault::Io};
+
+/// A source of more than one block and a target that it is copied over.
+class CopyFile : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (std::size_t i = 0; i < (1 << 20) + 12345; ++i) fresh_ += static_cast<char>(i * 2654435761u >> 13);
+    writeWholeFile(source_, fresh_);
+    setModified(source_, date_);
+    putOldTarget();
+  }
+  void putOldTarget() { writeWholeFile(target_, old_); }
+  void expectOldTargetAndNothingElse() {
+    EXPECT_EQ(readWholeFile(target_), old_);
+    EXPECT_FALSE(fileExists(target_ + ".tmp"));
+  }
+  int errorOfCopy() {
+    try {
+      copyFile(source_, target_);
+      return 0;
+    } catch (const DiskError& error) {
+      return error.number();
+    }
+  }
+
+  support::TempFolder folder_;
+  const std::string source_ = folder_.path("nuovo.mdb"), target_ = folder_.path("archivio.mdb");
+  const std::string old_ = std::string(70000, 'o');
+  std::string fresh_;
+  static constexpr std::int64_t date_ = 1'234'567'890'123'456'789;
+};
+
+TEST_F(CopyFile, TakesContentAndDateAndKeepsTheTargetsPermissions) {
+  ASSERT_EQ(::chmod(folder_.systemPath("archivio.mdb").c_str(), 0664), 0);
+  copyFile(source_, target_);
+  EXPECT_TRUE(sameContent(source_, target_));
+  EXPECT_EQ(inspectFile(target_)->modifiedUnixNanoseconds, date_);
+  struct stat info;
+  ASSERT_EQ(::stat(folder_.systemPath("archivio.mdb").c_str(), &info), 0);
+  EXPECT_EQ(info.st_mode & 0777u, 0664u);
+  EXPECT_FALSE(fileExists(target_ + ".tmp"));
+  File free = openFile(target_, OpenMode::Update);
+  EXPECT_TRUE(free.tryLock(LockMode::Exclusive));
+}
+
+TEST_F(CopyFile, AnyFaultAtAnyCallLeavesTheOldFileOrTheNewOne) {
+  for (const Faulty duration : {Faulty::Once, Faulty::FromThenOn}) {
+    for (const DiskFault fault : allFaults) {
+      for (std::uint64_t n = 1;; ++n) {
+        putOldTarget();
+        support::FailNth observer(n, fault, duration);
+        int error = 0;
+        {
+          ObservedDisk scope(observer);
+          error = errorOfCopy();
+        }
+        const std::string content = readWholeFile(target_);
+        if (!observer.wasHit()) {
+          EXPECT_EQ(error, 0);
+          EXPECT_EQ(content, fresh_);
+          EXPECT_GT(n, 10u);
+          break;
+        }
+        EXPECT_EQ(error, DiskError(fault, "").number()) << "call " << n << " failed in silence";
+        const bool afterRename = observer.hit()->operation == DiskOperation::FlushFolder;
+        EXPECT_EQ(content == fresh_, afterRename) << "call " << n;
+        EXPECT_EQ(content == old_, !afterRename) << "call " << n;
+        if (duration == Faulty::Once) {
+          EXPECT_FALSE(fileExists(target_ + ".tmp")) << "call " << n;
+        }
+        ASSERT_EQ(readWholeFile(source_), fresh_);
+      }
+    }
+  }
+}
+
+TEST_F(CopyFile, KilledAtAnyCallItLeavesTheOldFileOrTheNewOneAndCanBeRepeated) {
+  int status = -SIGKILL;
+  for (std::uint64_t n = 1; status == -SIGKILL; ++n) {
+    putOldTarget();
+    status = support::runInChild([&] {
+      support::DieAtNth observer(n);
+      ObservedDisk scope(observer);
+      return errorOfCopy();
+    });
+    const std::string content = readWholeFile(target_);
+    EXPECT_TRUE(content == old_ || content == fresh_) << "call " << n;
+    copyFile(source_, target_);
+    ASSERT_EQ(readWholeFile(target_), fresh_) << "call " << n;
+  }
+  EXPECT_EQ(status, 0);
+}
+
+TEST_F(CopyFile, ADiskThatFillsUpLeavesTheOldFile) {
+  const int status = support::runInChild([&] {
+    const rlimit limit{1050000, 1050000};
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 1;
+    return errorOfCopy();
+  });
+  EXPECT_EQ(status, 61);
+  expectOldTargetAndNothingElse();
+}
+
+TEST_F(CopyFile, AFileThatIsHeldElsewhereIsRefused) {
+  {
+    File held = openFile(target_, OpenMode::Read);
+    ASSERT_TRUE(held.tryLock(LockMode::Shared));
+    EXPECT_EQ(errorOfCopy(), 70);
+  }
+  {
+    File held = openFile(source_, OpenMode::Read);
+    ASSERT_TRUE(held.tryLock(LockMode::Exclusive));
+    EXPECT_EQ(errorOfCopy(), 70);
+    ASSERT_TRUE(held.tryLock(LockMode::Shared));
+    EXPECT_EQ(errorOfCopy(), 0);
+  }
+  putOldTarget();
+  {
+    Replacement other(target_);  // another program saves the target right now
+    EXPECT_EQ(errorOfCopy(), 70);
+    EXPECT_TRUE(fileExists(target_ + ".tmp"));
+  }
+  expectOldTargetAndNothingElse();
+}
+
+TEST_F(CopyFile, OntoItselfOrWithoutSourceOrFolderIsRefused) {
+  ASSERT_EQ(::link(folder_.systemPath("nuovo.mdb").c_str(), folder_.systemPath("uguale.mdb").c_str()), 0);
+  ASSERT_EQ(::symlink("nuovo.mdb", folder_.systemPath("rinvio.mdb").c_str()), 0);
+  const struct {
+    std::string from, to;
+    int error;
+  } cases[] = {
+      {source_, source_, 70},
+      {source_, folder_.path("uguale.mdb"), 70},
+      {source_, folder_.path("rinvio.mdb"), 70},
+      {folder_.path("manca.mdb"), target_, 53},
+      {source_, folder_.path("manca\\archivio.mdb"), 76},
+      {folder_.path(), target_, 75},
+      {source_, folder_.path(), 75},
+  };
+  for (const auto& test : cases) {
+    try {
+      copyFile(test.from, test.to);
+      ADD_FAILURE() << test.to;
+    } catch (const DiskError& error) {
+      EXPECT_EQ(error.number(), test.error) << test.from << " " << test.to;
+    }
+  }
+  EXPECT_EQ(readWholeFile(source_), fresh_);
+  expectOldTargetAndNothingElse();
+}
+
+TEST_F(CopyFile, ThroughASymbolicLinkReplacesTheFileThatItNames) {
+  ASSERT_EQ(::mkdir(folder_.systemPath("sub").c_str(), 0777), 0);
+  ASSERT_EQ(::symlink("../archivio.mdb", folder_.systemPath("sub\\secondo.mdb").c_str()), 0);
+  ASSERT_EQ(::symlink("sub/secondo.mdb", folder_.systemPath("primo.mdb").c_str()), 0);
+  copyFile(source_, folder_.path("primo.mdb"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.systemPath("primo.mdb")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.systemPath("sub\\secondo.mdb")));
+  EXPECT_EQ(readWholeFile(target_), fresh_);
+}
+
+TEST(Replacement, GivesTheNewFileBackUnderItsNameWithItsLock) {
+  support::TempFolder folder;
+  const std::string path = folder.path("archivio.mdb");
+  Replacement replacement(path);
+  replacement.file().writeAt(0, std::as_bytes(std::span(std::string_view("new"))));
+  EXPECT_FALSE(fileExists(path));
+  File published = replacement.publish(LockMode::Shared);
+  EXPECT_TRUE(replacement.renamed());
+  EXPECT_EQ(published.path(), path);
+  EXPECT_TRUE(published.isStillAt(path));
+  File other = openFile(path, OpenMode::Update);
+  EXPECT_TRUE(other.tryLock(LockMode::Shared));
+  EXPECT_FALSE(other.tryLock(LockMode::Exclusive));
+}
+
+TEST(Replacement, FlushesTheFileBeforeTheRenameAndTheFolderAfterIt) {
+  support::TempFolder folder;
+  support::RecordCalls record;
+  {
+    ObservedDisk scope(record);
+    Replacement replacement(folder.path("archivio.mdb"));
+    replacement.file().writeAt(0, std::as_bytes(std::span(std::string_view("new"))));
+    replacement.publish();
+  }
+  std::vector<DiskOperation> order;
+  for (const auto& call : record.calls) order.push_back(call.operation);
+  using enum DiskOperation;
+  EXPECT_EQ(order, (std::vector{Inspect, Open, Write, Flush, Replace, FlushFolder}));
+  EXPECT_EQ(record.calls.back().path, folder.path());
+}
+
+TEST(SameContent, ComparesToTheLastByte) {
+  support::TempFolder folder;
+  const std::string block(1 << 20, 'x');
+  const struct {
+    std::string a, b;
+  } cases[] = {
+      {"", ""}, {"a", ""}, {"a", "b"}, {block, block}, {block, block + "y"}, {block + "z", block + "y"}};
+  for (const auto& test : cases) {
+    writeWholeFile(folder.path("a"), test.a);
+    writeWholeFile(folder.path("b"), test.b);
+    EXPECT_EQ(sameContent(folder.path("a"), folder.path("b")), test.a == test.b);
+  }
+  EXPECT_THROW(sameContent(folder.path("a"), folder.path("none")), DiskError);
+}
+
+}  // namespace
+}  // namespace platform
