@@ -24,8 +24,8 @@ inline constexpr std::array<const char*, 6> TabelleControllo = {"ragioniere",   
                                                                 "simpatizzante", "enti",       "gruppi"};
 
 /// True for the errors by which a database says that it is made otherwise than expected: a table (3078) or a
-/// field (3061) that it doesn't have, a field of another type (3464). A run goes on from them as told; any
-/// other error in the same place is a fault of the file or its disk.
+/// field (3061) that it doesn't have, a field of another type (3464). A run goes on from them; any other
+/// error in the same place is a fault of the file or its disk.
 bool diDisegno(int numero);
 
 /// One run of the update: the paths and values that belong to it alone, and how it ended.

@@ -57,6 +57,7 @@ void frmAggMain::esegui(Corsa& corsa) {
     if (corsa.usaTransazione) Ws->BeginTrans();
     rinominaCampi();
     contaTabelle(corsa);
+    // Whatever changes the target's structure and data stands between this count and the close.
     chiudiDestinazione();
     // The commit saves the closed database.
     if (corsa.usaTransazione) Ws->CommitTrans(0);

@@ -95,16 +95,6 @@ void FormWindow::tellGeometry() {
   form_.setHeight(height());
 }
 
-void FormWindow::showEvent(QShowEvent* event) {
-  QMainWindow::showEvent(event);
-  if (focusWidget()) return;
-  for (QWidget* view : tabOrder()) {
-    if (!view->isVisible() || !view->isEnabled()) continue;
-    view->setFocus(Qt::TabFocusReason);
-    return;
-  }
-}
-
 void FormWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
   if (isVisible()) tellGeometry();

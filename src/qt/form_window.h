@@ -31,8 +31,6 @@ class FormWindow : public QMainWindow {
   /// The button that Enter presses wherever Enter has no meaning of its own.
   void setDefaultButton(QPushButton* button);
 
-  /// The keyboard begins at the first control that it can reach.
-  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void moveEvent(QMoveEvent* event) override;

@@ -21,19 +21,18 @@ ListBoxView::ListBoxView(controls::ListBox& list, QWidget* parent) : QListWidget
 }
 
 void ListBoxView::refresh() {
-  refreshing_ = true;
   if (list_.listCount() < count()) clear();
   while (count() < list_.listCount()) addItem(toQt(list_.list(count())));
   if (selectedRow() != list_.listIndex()) {
     setCurrentRow(list_.listIndex());
     if (list_.listIndex() < 0) clearSelection();
   }
-  refreshing_ = false;
 }
 
 void ListBoxView::pickSelected() {
   const int row = selectedRow();
-  if (!refreshing_ && row >= 0 && row != list_.listIndex()) guarded([&] { list_.pick(row); });
+  // The control knows the row already where it has chosen it itself.
+  if (row >= 0 && row != list_.listIndex()) guarded([&] { list_.pick(row); });
 }
 
 int ListBoxView::selectedRow() const {

@@ -24,7 +24,6 @@ class ListBoxView : public QListWidget {
   int heightOf(int rows) const;
 
   controls::ListBox& list_;
-  bool refreshing_ = false;
   controls::Subscription subscription_;
 };
 

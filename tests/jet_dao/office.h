@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "jet/dao/engine.h"
+#include "runtime/error.h"
 #include "support/command.h"
 #include "support/temp_folder.h"
 
@@ -21,7 +22,15 @@ inline void make(const std::string& path, const std::vector<std::string>& statem
   db->Close();
 }
 
-inline std::string text(const runtime::Variant& value) { return value.isNull() ? "Null" : value.toText(); }
+inline std::string text(const runtime::Variant& value) {
+  if (value.isNull()) return "Null";
+  const auto* bytes = std::get_if<runtime::Bytes>(&value.value());
+  if (!bytes) return value.toText();
+  std::string hex;
+  for (const std::byte byte : *bytes)
+    for (const int shift : {4, 0}) hex += "0123456789ABCDEF"[std::to_integer<unsigned>(byte) >> shift & 15];
+  return hex;
+}
 
 /// The rows of a recordset from where it stands, fields joined by '|', rows by blanks.
 inline std::string rows(jet::dao::Recordset& recordset) {

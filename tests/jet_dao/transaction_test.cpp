@@ -75,6 +75,7 @@ TEST_F(Transactions, Nest) {
   db->Execute("INSERT INTO t VALUES (4, 'quattro')");
   workspace.CommitTrans();
   workspace.CommitTrans();
+  db->Close();
   EXPECT_EQ(saved(), "1 2 4");
 }
 

@@ -95,40 +95,40 @@ std::unique_ptr<RowSource> made(std::vector<Values> rows) {
   return made(count, [rows = std::move(rows)](std::size_t i) { return rows[i]; });
 }
 
-TableDefinition table(const std::string& name, const std::vector<ColumnSpec>& columns,
-                      const std::vector<IndexSpec>& indexes) {
+TableDefinition table(const std::string& name, const std::vector<ColumnPlan>& columns,
+                      const std::vector<IndexPlan>& indexes) {
   TableDefinition made;
   made.name = name;
-  for (const ColumnSpec& spec : columns) {
+  for (const ColumnPlan& plan : columns) {
     Column column;
-    column.name = spec.name;
-    column.type = spec.type;
+    column.name = plan.name;
+    column.type = plan.type;
     column.number = column.position = made.maxColumns++;
-    column.length = spec.length != 0 ? spec.length : sizeOf(spec.type);
-    if ((sizeOf(spec.type) != 0) != spec.variable) {
+    column.length = plan.length != 0 ? plan.length : sizeOf(plan.type);
+    if ((sizeOf(plan.type) != 0) != plan.variable) {
       column.flags |= Column::Fixed;
       column.slot = made.variableColumns;
-      column.fixedOffset = spec.type == ColumnType::Boolean ? std::uint16_t{0} : made.fixedLength();
+      column.fixedOffset = plan.type == ColumnType::Boolean ? std::uint16_t{0} : made.fixedLength();
     } else {
       column.slot = made.variableColumns++;
     }
-    if (spec.type == ColumnType::Numeric) column.precision = 28, column.scale = 4, column.sortOrder = 0;
-    if (spec.type == ColumnType::Text && !column.fixed()) column.extraFlags = Column::Compressed;
+    if (plan.type == ColumnType::Numeric) column.precision = 28, column.scale = 4, column.sortOrder = 0;
+    if (plan.type == ColumnType::Text && !column.fixed()) column.extraFlags = Column::Compressed;
     made.columns.push_back(column);
   }
-  for (const IndexSpec& index : indexes) addIndex(made, index);
+  for (const IndexPlan& index : indexes) addIndex(made, index);
   return made;
 }
 
-void addIndex(TableDefinition& table, const IndexSpec& spec) {
+void addIndex(TableDefinition& table, const IndexPlan& plan) {
   RealIndex real;
-  real.columns = spec.columns;
-  real.flags = static_cast<std::uint8_t>(RealIndex::Jet4Mark | spec.flags |
-                                         (spec.primary ? RealIndex::Unique | RealIndex::Required : 0));
+  real.columns = plan.columns;
+  real.flags = static_cast<std::uint8_t>(RealIndex::Jet4Mark | plan.flags |
+                                         (plan.primary ? RealIndex::Unique | RealIndex::Required : 0));
   LogicalIndex logical;
-  logical.name = spec.name;
+  logical.name = plan.name;
   logical.number = logical.real = static_cast<std::uint32_t>(table.realIndexes.size());
-  if (spec.primary) logical.kind = LogicalIndex::Kind::Primary;
+  if (plan.primary) logical.kind = LogicalIndex::Kind::Primary;
   table.realIndexes.push_back(real);
   table.logicalIndexes.push_back(logical);
 }
@@ -204,12 +204,12 @@ std::vector<std::string> contentOf(const std::string& path) {
   return lines;
 }
 
-std::string objections(const std::string& path, bool strict) {
+std::string objections(const std::vector<std::string>& paths, Check check) {
   if (!corpus::available()) return {};
   const std::string script = std::string(std::getenv("AGGNORVO_JET_DATA")) + "/jet/jetcheck.py";
-  const auto result =
-      support::runCommand("python3 " + support::shellWord(script) + (strict ? " --strict " : " ") +
-                          support::shellWord(corpus::systemPath(path)));
+  std::string line = "python3 " + support::shellWord(script) + (check == Check::Strict ? " --strict" : "");
+  for (const std::string& path : paths) line += " " + support::shellWord(corpus::systemPath(path));
+  const auto result = support::runCommand(line);
   return result.status == 0
              ? result.output
              : "status " + std::to_string(result.status) + ": " + result.output + result.errors;

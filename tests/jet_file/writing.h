@@ -43,21 +43,21 @@ class MadeRows : public jet::file::RowSource {
 std::unique_ptr<jet::file::RowSource> made(std::vector<Values> rows);
 std::unique_ptr<jet::file::RowSource> made(std::size_t count, std::function<Values(std::size_t)> make);
 
-struct ColumnSpec {
+struct ColumnPlan {
   std::string name;
   jet::file::ColumnType type;
   std::uint16_t length = 0;
   bool variable = false;  // a type of fixed size that is kept in the variable part, and the other way round
 };
-struct IndexSpec {
+struct IndexPlan {
   std::string name;
   std::vector<jet::file::IndexColumn> columns;
   std::uint8_t flags = 0;
   bool primary = false;
 };
-jet::file::TableDefinition table(const std::string& name, const std::vector<ColumnSpec>& columns,
-                                 const std::vector<IndexSpec>& indexes);
-void addIndex(jet::file::TableDefinition& table, const IndexSpec& index);
+jet::file::TableDefinition table(const std::string& name, const std::vector<ColumnPlan>& columns,
+                                 const std::vector<IndexPlan>& indexes);
+void addIndex(jet::file::TableDefinition& table, const IndexPlan& index);
 
 /// Writes an empty database; its path.
 std::string emptyDatabase(const std::string& name);
@@ -71,7 +71,8 @@ std::string withTable(const std::string& source, jet::file::TableDefinition tabl
 jet::file::TableDefinition definitionOf(const jet::file::PageFile& file, const std::string& table);
 /// All rows of all tables as text, table by table.
 std::vector<std::string> contentOf(const std::string& path);
-/// What the independent checker objects to; empty if nothing, or where it isn't there.
-std::string objections(const std::string& path, bool strict = true);
+/// What the independent checker objects to in these files; empty if nothing, or where it isn't there.
+enum class Check { Strict, Damage };
+std::string objections(const std::vector<std::string>& paths, Check check = Check::Strict);
 
 }  // namespace writing

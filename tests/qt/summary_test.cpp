@@ -31,11 +31,12 @@ TEST_F(Summary, TwentyThousandLinesAreAddedAtTheEndAlone) {
     removed += gone;
     written += added;
   });
+  appendLines(1);
+  ASSERT_EQ(removed, 0);  // a text that is set anew shows as removed and written again
   appendLines(20000);
-  EXPECT_EQ(box->blockCount(), 20001);
+  EXPECT_EQ(box->blockCount(), 20002);
   QString shown = box->toPlainText();
   EXPECT_EQ(qt::fromQt(shown.replace("\n", "\r\n")), form.txtRiepilogo.text());
-  // A text that is set anew shows as removed and written again.
   EXPECT_EQ(removed, 0);
   EXPECT_LT(written, box->toPlainText().size() + 1);
   EXPECT_TRUE(atEnd());

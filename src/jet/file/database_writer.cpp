@@ -231,6 +231,7 @@ std::vector<std::byte> ChangedDatabase::secondGlobalMap() const {
   const DataPage page(source_.format(), source_.page(SecondGlobalMap.page));
   if (page.records() <= SecondGlobalMap.row) return std::vector<std::byte>(EmptyMapLength);
   const std::span<const std::byte> record = page.record(SecondGlobalMap.row);
+  if (record.size() > LongestSecondMap) page.page().damaged("mappa troppo lunga");
   return {record.begin(), record.end()};
 }
 

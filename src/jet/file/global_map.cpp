@@ -12,9 +12,8 @@ namespace {
 
 constexpr std::uint32_t GlobalMapPage = 1;
 constexpr std::size_t MapHead = 5, BitsAt = 4;
-// A page holds a longer one, but room is left for pages that this map itself or a later change needs.
-constexpr std::size_t LongestInlineBits = 30000;
 constexpr std::size_t References = 17;  // enough for the largest file
+constexpr std::size_t DirectoryEntry = 2;
 
 /// Sets the bit of every page from `first` on that is not in use.
 void setFreeBits(const PageSpace& space, std::uint32_t first, std::span<std::byte> bits) {
@@ -22,9 +21,9 @@ void setFreeBits(const PageSpace& space, std::uint32_t first, std::span<std::byt
     if (!space.used(static_cast<std::uint32_t>(first + i))) bits[i / 8] |= static_cast<std::byte>(1 << i % 8);
 }
 
-void writeInline(const PageSpace& space, RecordPages& records) {
-  const std::size_t bytes = std::max<std::size_t>(Jet4.inlineMapBytes, (space.pageCount() + 31) / 32 * 4);
-  setFreeBits(space, 0, records.reserve(MapHead + bytes).bytes.subspan(MapHead));
+/// Length of the inline map, whose bits grow by four bytes.
+std::size_t inlineLength(const PageSpace& space) {
+  return MapHead + std::max<std::size_t>(Jet4.inlineMapBytes, (space.pageCount() + 31) / 32 * 4);
 }
 
 // Every page that a file can have is covered: what a missing reference would mean is not certain.
@@ -48,8 +47,8 @@ void writeReferences(PageSpace& space, RecordPages& records, PageOutput& out) {
 void writeGlobalMap(PageSpace& space, std::span<const std::byte> second, PageOutput& out) {
   RecordPages records(
       out, [] { return GlobalMapPage; }, GlobalMapPage);
-  if (space.pageCount() <= LongestInlineBits)
-    writeInline(space, records);
+  if (inlineLength(space) + DirectoryEntry + second.size() <= RecordPages::LargestRecord)
+    setFreeBits(space, 0, records.reserve(inlineLength(space)).bytes.subspan(MapHead));
   else
     writeReferences(space, records, out);
   std::ranges::copy(second, records.reserve(second.size()).bytes.begin());

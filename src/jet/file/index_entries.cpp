@@ -4,8 +4,6 @@
 #include <cstring>
 #include <string>
 
-#include "jet/file/errors.h"
-
 namespace jet::file {
 
 namespace {
@@ -46,9 +44,8 @@ IndexEntries::IndexEntries(const TableDefinition& table, std::size_t index)
   required_ = primary || (index_.flags & RealIndex::Required) != 0;
 }
 
-void IndexEntries::fail(int number, const std::string& what) const {
-  throw jetError(static_cast<JetErrorNumber>(number),
-                 what + " (indice \"" + name_ + "\" della tabella \"" + table_.name + "\")");
+void IndexEntries::fail(JetErrorNumber number, const std::string& what) const {
+  throw jetError(number, what + " (indice \"" + name_ + "\" della tabella \"" + table_.name + "\")");
 }
 
 void IndexEntries::add(const Row& row, RowPointer pointer) {
@@ -61,8 +58,7 @@ void IndexEntries::add(const Row& row, RowPointer pointer) {
     scratch_.push_back(static_cast<std::byte>(byte & 0xFF));
   if (scratch_.size() + ChildLength > Jet4.pageSize - Jet4.indexEntriesAt)
     fail(RecordTooLarge, "La chiave dell'indice è troppo lunga");
-  entries_.push_back(
-      {prefixOf(scratch_), store(scratch_), static_cast<std::uint16_t>(scratch_.size()), nulls != 0});
+  entries_.push_back({0, store(scratch_), static_cast<std::uint16_t>(scratch_.size()), nulls != 0});
 }
 
 std::uint32_t IndexEntries::store(std::span<const std::byte> bytes) {
@@ -91,8 +87,20 @@ bool IndexEntries::before(const Entry& a, const Entry& b) const {
   return order != 0 ? order < 0 : left.size() < right.size();
 }
 
+/// Most comparisons end with the prefixes, which begin behind what all entries have in common.
+void IndexEntries::setPrefixes() {
+  const std::span<const std::byte> first = bytes(entries_.front());
+  std::size_t common = first.size();
+  for (const Entry& entry : entries_)
+    common = static_cast<std::size_t>(std::ranges::mismatch(first.first(common), bytes(entry)).in1 -
+                                      first.begin());
+  for (Entry& entry : entries_) entry.prefix = prefixOf(bytes(entry).subspan(common));
+}
+
 void IndexEntries::sort() {
-  std::ranges::sort(entries_, [this](const Entry& a, const Entry& b) { return before(a, b); });
+  if (!entries_.empty()) setPrefixes();
+  const auto inOrder = [this](const Entry& a, const Entry& b) { return before(a, b); };
+  if (!std::ranges::is_sorted(entries_, inOrder)) std::ranges::sort(entries_, inOrder);
   distinctKeys_ = entries_.empty() ? 0 : 1;
   for (std::size_t i = 1; i < entries_.size(); ++i) {
     if (!std::ranges::equal(key(entries_[i - 1]), key(entries_[i])))

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "jet/file/errors.h"
 #include "jet/file/index_key.h"
 
 namespace jet::file {
@@ -32,7 +33,7 @@ class IndexEntries {
 
  private:
   struct Entry {
-    std::uint64_t prefix;  // first eight bytes as a number
+    std::uint64_t prefix;  // set by sort(): eight bytes as a number
     std::uint32_t at;      // in chunks_
     std::uint16_t length;
     bool nulls;
@@ -41,8 +42,9 @@ class IndexEntries {
   std::span<const std::byte> bytes(const Entry& entry) const;
   std::span<const std::byte> key(const Entry& entry) const;
   std::uint32_t store(std::span<const std::byte> bytes);
+  void setPrefixes();
   bool before(const Entry& a, const Entry& b) const;
-  [[noreturn]] void fail(int number, const std::string& what) const;
+  [[noreturn]] void fail(JetErrorNumber number, const std::string& what) const;
 
   const TableDefinition& table_;
   const RealIndex& index_;

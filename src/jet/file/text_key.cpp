@@ -178,7 +178,9 @@ void appendTextKey(std::u16string_view text, std::size_t limit, Bytes& key) {
   while (!text.empty() && text.back() == u' ') text.remove_suffix(1);
 
   bool primaryOnly = true;
-  std::size_t position = 0;
+  std::size_t position = 0, at = key.size();
+  // Four bytes are copied for each unit, whatever its length, and the next one overwrites what was too much.
+  key.resize(at + sizeof(Weight::primary) * text.size());
   for (const char16_t unit : text) {
     const Weight& weight = order[unit];
     if (weight.kind != Weight::Kind::Plain && weight.kind != Weight::Kind::Ignored) {
@@ -186,9 +188,11 @@ void appendTextKey(std::u16string_view text, std::size_t limit, Bytes& key) {
       primaryOnly = false;
       sections.add(weight, position);
     }
-    key.insert(key.end(), weight.primary.begin(), weight.primary.begin() + weight.primaryLength);
+    std::ranges::copy(weight.primary, key.data() + at);
+    at += weight.primaryLength;
     if (weight.primaryLength != 0) ++position;
   }
+  key.resize(at);
   key.push_back(Section);
   if (!primaryOnly) sections.append(key);
   key.push_back(End);

@@ -11,7 +11,8 @@
 #include "jet/file/definition.h"
 #include "jet/sql/type.h"
 
-/// From Jet SQL to what the image executes: lexer -> parser -> syntax tree -> binder -> bound tree -> translation.
+/// From Jet SQL to what the image executes: lexer -> parser -> syntax tree -> binder -> bound tree ->
+/// translation.
 namespace jet::sql {
 
 /// What the binder asks of the open database.
@@ -39,10 +40,10 @@ struct ResultColumn {
 
 /// A table that a query reads or changes, with what of it is used.
 struct TouchedTable {
-  std::uint32_t page = 0;                // TableDefinition::page
-  std::string alias;                     // as the statement calls it
-  std::vector<std::uint16_t> compared;   // Column::number of columns in conditions, joins, grouping or sorting
-  bool changed = false;                  // target of UPDATE, INSERT, DELETE
+  std::uint32_t page = 0;               // TableDefinition::page
+  std::string alias;                    // as the statement calls it
+  std::vector<std::uint16_t> compared;  // Column::number of columns in conditions, joins, grouping or sorting
+  bool changed = false;                 // target of UPDATE, INSERT, DELETE
 };
 
 /// SELECT, UPDATE, INSERT or DELETE as SQLite SQL over the image: table `t<page>`, columns `c<number>`,
@@ -52,12 +53,12 @@ struct RowStatement {
   Kind kind = Kind::Select;
   std::string sql;
   std::vector<Parameter> parameters;
-  std::vector<ResultColumn> columns;   // Select
+  std::vector<ResultColumn> columns;  // Select
   std::vector<TouchedTable> tables;
-  /// Select with `withRowKeys`, where each result row stands for one row of each table: the result has, behind
-  /// `columns`, the rowid of each of the first `rowKeys` entries of `tables`, which are the tables of FROM in order
-  /// (the others belong to sub-queries); Null where an outer join found no row. Zero otherwise: grouping, DISTINCT,
-  /// UNION, a query in FROM.
+  /// Select with `withRowKeys`, where each result row stands for one row of each table: the result has,
+  /// behind `columns`, the rowid of each of the first `rowKeys` entries of `tables`, which are the tables of
+  /// FROM in order (the others belong to sub-queries); Null where an outer join found no row. Zero otherwise:
+  /// grouping, DISTINCT, UNION, a query in FROM.
   std::size_t rowKeys = 0;
 };
 
@@ -76,7 +77,7 @@ struct CreateTable {
   struct NewColumn {
     std::string name;
     file::ColumnType type = file::ColumnType::Text;
-    std::uint16_t size = 0;  // Text: characters (255 if not told), Binary: bytes
+    std::uint16_t size = 0;                  // Text: characters (255 if not told), Binary: bytes
     std::uint8_t precision = 18, scale = 0;  // Numeric
     bool autoNumber = false;
     bool notNull = false;
@@ -99,9 +100,9 @@ struct Options {
   bool withRowKeys = false;
 };
 
-/// Parses, binds and translates one statement (a closing semicolon is allowed). Every error of the statement's text
-/// is a SyntaxError with its place: 3075 and its kin for syntax, 3078 unknown table, 3464 types that can't be
-/// compared and so on. 3061 is the caller's when a parameter stays unanswered.
+/// Parses, binds and translates one statement (a closing semicolon is allowed). Every error of the
+/// statement's text is a SyntaxError with its place: 3075 and its kin for syntax, 3078 unknown table, 3464
+/// types that can't be compared and so on. 3061 is the caller's when a parameter stays unanswered.
 Statement compile(std::string_view text, const Schema& schema, const Options& options = {});
 
 }  // namespace jet::sql

@@ -89,7 +89,8 @@ Decimal parseDecimal(std::string_view digits) {
 int compareDecimals(std::string_view a, std::string_view b) {
   const Decimal left = parseDecimal(a), right = parseDecimal(b);
   if (left.negative != right.negative) return left.negative ? -1 : 1;
-  const Wide leftWhole = left.magnitude / powerOfTen(left.scale), rightWhole = right.magnitude / powerOfTen(right.scale);
+  const Wide leftWhole = left.magnitude / powerOfTen(left.scale),
+             rightWhole = right.magnitude / powerOfTen(right.scale);
   int order = leftWhole < rightWhole ? -1 : leftWhole > rightWhole;
   if (order == 0) {
     const int scale = std::max(left.scale, right.scale);
@@ -112,8 +113,10 @@ Decimal addDecimals(const Decimal& a, const Decimal& b) {
 }
 
 Decimal multiplyDecimals(const Decimal& a, const Decimal& b) {
-  if (a.magnitude != 0 && b.magnitude > powerOfTen(38) / a.magnitude) throw runtime::languageError(runtime::Overflow);
-  return checked({a.negative != b.negative, static_cast<std::uint8_t>(a.scale + b.scale), a.magnitude * b.magnitude});
+  if (a.magnitude != 0 && b.magnitude > powerOfTen(38) / a.magnitude)
+    throw runtime::languageError(runtime::Overflow);
+  return checked(
+      {a.negative != b.negative, static_cast<std::uint8_t>(a.scale + b.scale), a.magnitude * b.magnitude});
 }
 
 }  // namespace jet::sql

@@ -37,7 +37,7 @@ void stepExtreme(sqlite3_context* context, int, sqlite3_value** arguments) {
 void finishExtreme(sqlite3_context* context) {
   auto* state = stateOf<ExtremeRow>(context, false);
   if (!state) return sqlite3_result_null(context);
-  sqlite3_result_value(context, state->value);
+  if (state->value) sqlite3_result_value(context, state->value);
   sqlite3_value_free(state->value);
   delete state;
 }
@@ -85,8 +85,9 @@ constexpr AggregateFunction functions[] = {
 
 void registerAggregates(sqlite3* connection) {
   for (const AggregateFunction& function : functions) {
-    sqlite3_create_function_v2(connection, function.name, function.arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                               nullptr, nullptr, function.step, function.finish, nullptr);
+    sqlite3_create_function_v2(connection, function.name, function.arguments,
+                               SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, nullptr, function.step,
+                               function.finish, nullptr);
   }
 }
 

@@ -12,9 +12,15 @@ namespace {
 
 using runtime::languageError;
 
-double number(sqlite3_value* value) { return sqlite3_value_double(value); }
-std::int64_t whole(sqlite3_value* value) { return sqlite3_value_int64(value); }
-bool isWhole(sqlite3_value* value) { return sqlite3_value_type(value) == SQLITE_INTEGER; }
+double number(sqlite3_value* value) {
+  return sqlite3_value_double(value);
+}
+std::int64_t whole(sqlite3_value* value) {
+  return sqlite3_value_int64(value);
+}
+bool isWhole(sqlite3_value* value) {
+  return sqlite3_value_type(value) == SQLITE_INTEGER;
+}
 
 void returnDouble(sqlite3_context* context, double value) {
   if (!std::isfinite(value)) throw languageError(runtime::Overflow);
@@ -81,7 +87,8 @@ void multiplyCurrency(sqlite3_context* context, int, sqlite3_value** arguments) 
 
 template <class Reckon>
 void reckonDecimals(sqlite3_context* context, sqlite3_value** arguments, Reckon reckon) {
-  const runtime::Decimal left = parseDecimal(textOf(arguments[0])), right = parseDecimal(textOf(arguments[1]));
+  const runtime::Decimal left = parseDecimal(textOf(arguments[0])),
+                         right = parseDecimal(textOf(arguments[1]));
   returnText(context, image::decimalText(reckon(left, right)));
 }
 

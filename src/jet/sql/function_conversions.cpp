@@ -103,10 +103,10 @@ void registerConversions(sqlite3* connection) {
   for (const Pair& pair : pairs()) {
     void* data = const_cast<Pair*>(&pair);
     const std::string from = std::string("jet_") + typeName(pair.from), to = typeName(pair.to);
-    sqlite3_create_function_v2(connection, (from + "_to_" + to).c_str(), 1, flags, data, convert, nullptr, nullptr,
-                               nullptr);
-    sqlite3_create_function_v2(connection, (from + "_into_" + to).c_str(), -1, flags, data, store, nullptr, nullptr,
-                               nullptr);
+    sqlite3_create_function_v2(connection, (from + "_to_" + to).c_str(), 1, flags, data, convert, nullptr,
+                               nullptr, nullptr);
+    sqlite3_create_function_v2(connection, (from + "_into_" + to).c_str(), -1, flags, data, store, nullptr,
+                               nullptr, nullptr);
   }
 }
 

@@ -8,7 +8,9 @@ namespace jet::sql {
 
 namespace {
 
-double dayOf(double days) { return std::trunc(days); }
+double dayOf(double days) {
+  return std::trunc(days);
+}
 
 void date(sqlite3_context* context, int, sqlite3_value**) {
   sqlite3_result_double(context, dayOf(platform::clock().now().days));
@@ -36,7 +38,8 @@ void partOf(sqlite3_context* context, int, sqlite3_value** arguments) {
 void dateSerial(sqlite3_context* context, int, sqlite3_value** arguments) {
   constexpr std::int64_t furthest = 1000000, firstShort = 30, shortYears = 100;
   std::int64_t year = sqlite3_value_int64(arguments[0]);
-  const std::int64_t months = sqlite3_value_int64(arguments[1]) - 1, days = sqlite3_value_int64(arguments[2]) - 1;
+  const std::int64_t months = sqlite3_value_int64(arguments[1]) - 1,
+                     days = sqlite3_value_int64(arguments[2]) - 1;
   if (std::abs(year) > furthest || std::abs(months) > furthest || std::abs(days) > 4 * furthest) {
     throw runtime::languageError(runtime::InvalidCall);
   }
@@ -44,7 +47,8 @@ void dateSerial(sqlite3_context* context, int, sqlite3_value** arguments) {
   const std::int64_t monthsInAll = year * 12 + months;
   const auto month = static_cast<int>((monthsInAll % 12 + 12) % 12);
   const auto monthYear = static_cast<int>((monthsInAll - month) / 12);
-  const runtime::Date result{runtime::dateFromParts(monthYear, month + 1, 1).days + static_cast<double>(days)};
+  const runtime::Date result{runtime::dateFromParts(monthYear, month + 1, 1).days +
+                             static_cast<double>(days)};
   if (!runtime::isInCalendar(result)) throw runtime::languageError(runtime::InvalidCall);
   sqlite3_result_double(context, result.days);
 }
@@ -66,6 +70,8 @@ constexpr SqliteFunction functions[] = {
 
 }  // namespace
 
-void registerDateFunctions(sqlite3* connection) { registerAll(connection, functions); }
+void registerDateFunctions(sqlite3* connection) {
+  registerAll(connection, functions);
+}
 
 }  // namespace jet::sql

@@ -56,8 +56,8 @@ template <std::size_t Count>
 void registerAll(sqlite3* connection, const SqliteFunction (&functions)[Count]) {
   for (const SqliteFunction& function : functions) {
     const int flags = SQLITE_UTF8 | (function.deterministic ? SQLITE_DETERMINISTIC : 0);
-    sqlite3_create_function_v2(connection, function.name, function.arguments, flags, nullptr, function.call, nullptr,
-                               nullptr, nullptr);
+    sqlite3_create_function_v2(connection, function.name, function.arguments, flags, nullptr, function.call,
+                               nullptr, nullptr, nullptr);
   }
 }
 

@@ -13,7 +13,9 @@ namespace {
 
 using runtime::languageError;
 
-bool continues(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+bool continues(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
 
 std::size_t length(std::string_view text) {
   return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continues));
@@ -102,7 +104,9 @@ void asc(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int(context, static_cast<unsigned char>(bytes.front()));
 }
 
-Type typeArgument(sqlite3_value* value) { return static_cast<Type>(sqlite3_value_int(value)); }
+Type typeArgument(sqlite3_value* value) {
+  return static_cast<Type>(sqlite3_value_int(value));
+}
 
 /// A Null formats to an empty text, so it is let through.
 void format(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -119,7 +123,8 @@ void format(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 void isDate(sqlite3_context* context, int, sqlite3_value** arguments) {
   const Type type = typeArgument(arguments[0]);
-  const bool text = sqlite3_value_type(arguments[1]) == SQLITE_TEXT && (isText(type) || type == Type::Variant);
+  const bool text =
+      sqlite3_value_type(arguments[1]) == SQLITE_TEXT && (isText(type) || type == Type::Variant);
   const bool date = text ? runtime::dateFromText(textOf(arguments[1])).has_value()
                          : type == Type::Date && sqlite3_value_type(arguments[1]) != SQLITE_NULL;
   sqlite3_result_int(context, date ? -1 : 0);
@@ -171,6 +176,8 @@ constexpr SqliteFunction functions[] = {
 
 }  // namespace
 
-void registerTextFunctions(sqlite3* connection) { registerAll(connection, functions); }
+void registerTextFunctions(sqlite3* connection) {
+  registerAll(connection, functions);
+}
 
 }  // namespace jet::sql

@@ -47,7 +47,8 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
   const std::string text = sqlite3_errmsg(connection);
   int number = 0;
   const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (failure == std::errc{} && end < text.data() + text.size() && *end == '|') return {number, source, end + 1};
+  if (failure == std::errc{} && end < text.data() + text.size() && *end == '|')
+    return {number, source, end + 1};
   for (const Translation& translation : translations) {
     if (text.find(translation.words) != std::string::npos) {
       return {translation.number, source, translation.description};

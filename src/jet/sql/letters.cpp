@@ -10,16 +10,20 @@ namespace jet::sql {
 
 namespace {
 
-bool within(char32_t c, char32_t first, char32_t last) { return c >= first && c <= last; }
+bool within(char32_t c, char32_t first, char32_t last) {
+  return c >= first && c <= last;
+}
 
 /// Ranges of letters of which the smaller one follows its capital at once, from an even or an odd place on.
 bool alternates(char32_t c, bool& capitalIsOdd) {
   capitalIsOdd = within(c, 0x139, 0x148) || within(c, 0x179, 0x17E);
-  return within(c, 0x100, 0x137) || within(c, 0x14A, 0x177) || within(c, 0x460, 0x481) || within(c, 0x48A, 0x4BF) ||
-         within(c, 0x4D0, 0x52F) || capitalIsOdd;
+  return within(c, 0x100, 0x137) || within(c, 0x14A, 0x177) || within(c, 0x460, 0x481) ||
+         within(c, 0x48A, 0x4BF) || within(c, 0x4D0, 0x52F) || capitalIsOdd;
 }
 
-[[noreturn]] void failPattern() { throw runtime::Error(93, "Like", "Criterio di Like non valido"); }
+[[noreturn]] void failPattern() {
+  throw runtime::Error(93, "Like", "Criterio di Like non valido");
+}
 
 int compareCharacters(char32_t a, char32_t b) {
   std::string left, right;

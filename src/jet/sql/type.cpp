@@ -7,28 +7,42 @@ namespace jet::sql {
 Type typeOf(file::ColumnType column) {
   using file::ColumnType;
   switch (column) {
-    case ColumnType::Boolean: return Type::Boolean;
-    case ColumnType::Byte: return Type::Byte;
-    case ColumnType::Integer: return Type::Integer;
-    case ColumnType::Long: return Type::Long;
-    case ColumnType::Currency: return Type::Currency;
-    case ColumnType::Single: return Type::Single;
-    case ColumnType::Double: return Type::Double;
-    case ColumnType::Date: return Type::Date;
-    case ColumnType::Text: return Type::Text;
-    case ColumnType::Memo: return Type::Memo;
-    case ColumnType::Guid: return Type::Guid;
-    case ColumnType::Numeric: return Type::Decimal;
-    case ColumnType::Ole: return Type::Ole;
+    case ColumnType::Boolean:
+      return Type::Boolean;
+    case ColumnType::Byte:
+      return Type::Byte;
+    case ColumnType::Integer:
+      return Type::Integer;
+    case ColumnType::Long:
+      return Type::Long;
+    case ColumnType::Currency:
+      return Type::Currency;
+    case ColumnType::Single:
+      return Type::Single;
+    case ColumnType::Double:
+      return Type::Double;
+    case ColumnType::Date:
+      return Type::Date;
+    case ColumnType::Text:
+      return Type::Text;
+    case ColumnType::Memo:
+      return Type::Memo;
+    case ColumnType::Guid:
+      return Type::Guid;
+    case ColumnType::Numeric:
+      return Type::Decimal;
+    case ColumnType::Ole:
+      return Type::Ole;
     case ColumnType::Binary:
-    case ColumnType::Raw: return Type::Binary;
+    case ColumnType::Raw:
+      return Type::Binary;
   }
   return Type::Binary;
 }
 
 const char* typeName(Type type) {
-  static constexpr const char* names[typeCount] = {"Variant", "Null",   "Boolean", "Byte",    "Integer", "Long",
-                                                   "Currency", "Single", "Double",  "Date",    "Decimal", "Text",
+  static constexpr const char* names[typeCount] = {"Variant",  "Null",   "Boolean", "Byte", "Integer", "Long",
+                                                   "Currency", "Single", "Double",  "Date", "Decimal", "Text",
                                                    "Memo",     "Guid",   "Binary",  "Ole"};
   return names[static_cast<std::size_t>(type)];
 }

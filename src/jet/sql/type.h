@@ -11,10 +11,25 @@ namespace jet::sql {
 ///   Byte Integer Long  INTEGER                    Single Double Date  REAL
 ///   Text Memo          TEXT, UTF-8                Decimal   TEXT in decimal digits ("-12.50")
 ///   Binary Ole Raw     BLOB                       Guid      BLOB, 16 bytes as in the file
-/// Null has no value; Variant is a parameter or value whose type is known only when it runs: INTEGER, REAL, TEXT or
-/// BLOB as above, money and decimals as REAL.
+/// Null has no value; Variant is a parameter or value whose type is known only when it runs: INTEGER, REAL,
+/// TEXT or BLOB as above, money and decimals as REAL.
 enum class Type : std::uint8_t {
-  Variant, Null, Boolean, Byte, Integer, Long, Currency, Single, Double, Date, Decimal, Text, Memo, Guid, Binary, Ole
+  Variant,
+  Null,
+  Boolean,
+  Byte,
+  Integer,
+  Long,
+  Currency,
+  Single,
+  Double,
+  Date,
+  Decimal,
+  Text,
+  Memo,
+  Guid,
+  Binary,
+  Ole
 };
 constexpr unsigned typeCount = 16;
 
@@ -22,11 +37,19 @@ Type typeOf(file::ColumnType column);
 /// "Long", "Text" and so on, for messages.
 const char* typeName(Type type);
 
-constexpr bool isText(Type type) { return type == Type::Text || type == Type::Memo; }
-constexpr bool isWholeNumber(Type type) { return type >= Type::Boolean && type <= Type::Long; }
+constexpr bool isText(Type type) {
+  return type == Type::Text || type == Type::Memo;
+}
+constexpr bool isWholeNumber(Type type) {
+  return type >= Type::Boolean && type <= Type::Long;
+}
 /// Boolean to Decimal, Date among them.
-constexpr bool isNumber(Type type) { return type >= Type::Boolean && type <= Type::Decimal; }
+constexpr bool isNumber(Type type) {
+  return type >= Type::Boolean && type <= Type::Decimal;
+}
 /// Numbers whose form in the image is their value: all but Currency and Decimal.
-constexpr bool isPlainNumber(Type type) { return isNumber(type) && type != Type::Currency && type != Type::Decimal; }
+constexpr bool isPlainNumber(Type type) {
+  return isNumber(type) && type != Type::Currency && type != Type::Decimal;
+}
 
 }  // namespace jet::sql

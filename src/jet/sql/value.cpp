@@ -39,10 +39,14 @@ Variant readWhole(std::int64_t value) {
 /// What only its storage tells.
 Variant readVariant(sqlite3_value* value) {
   switch (sqlite3_value_type(value)) {
-    case SQLITE_INTEGER: return readWhole(sqlite3_value_int64(value));
-    case SQLITE_FLOAT: return sqlite3_value_double(value);
-    case SQLITE_BLOB: return readBytes(value);
-    default: return textOf(value);
+    case SQLITE_INTEGER:
+      return readWhole(sqlite3_value_int64(value));
+    case SQLITE_FLOAT:
+      return sqlite3_value_double(value);
+    case SQLITE_BLOB:
+      return readBytes(value);
+    default:
+      return textOf(value);
   }
 }
 
@@ -65,7 +69,8 @@ int hexDigit(char c) {
 
 /// The 16 bytes of "{00112233-4455-6677-8899-AABBCCDDEEFF}" in the order of the file.
 runtime::Bytes guidBytes(std::string_view text) {
-  static constexpr std::size_t places[guidSize] = {7, 5, 3, 1, 12, 10, 17, 15, 20, 22, 25, 27, 29, 31, 33, 35};
+  static constexpr std::size_t places[guidSize] = {7,  5,  3,  1,  12, 10, 17, 15,
+                                                   20, 22, 25, 27, 29, 31, 33, 35};
   constexpr std::size_t length = 38;
   if (text.size() != length) throw runtime::languageError(runtime::TypeMismatch);
   runtime::Bytes bytes;
@@ -88,44 +93,68 @@ void returnBytes(sqlite3_context* context, const Variant& value, Type type) {
 
 Variant readValue(sqlite3_value* value, Type type) {
   switch (type) {
-    case Type::Boolean: return sqlite3_value_int64(value) != 0;
+    case Type::Boolean:
+      return sqlite3_value_int64(value) != 0;
     case Type::Byte:
     case Type::Integer:
-    case Type::Long: return readWhole(sqlite3_value_int64(value));
-    case Type::Currency: return runtime::Currency{sqlite3_value_int64(value)};
-    case Type::Single: return static_cast<float>(sqlite3_value_double(value));
-    case Type::Double: return sqlite3_value_double(value);
-    case Type::Date: return runtime::Date{sqlite3_value_double(value)};
-    case Type::Decimal: return parseDecimal(textOf(value));
+    case Type::Long:
+      return readWhole(sqlite3_value_int64(value));
+    case Type::Currency:
+      return runtime::Currency{sqlite3_value_int64(value)};
+    case Type::Single:
+      return static_cast<float>(sqlite3_value_double(value));
+    case Type::Double:
+      return sqlite3_value_double(value);
+    case Type::Date:
+      return runtime::Date{sqlite3_value_double(value)};
+    case Type::Decimal:
+      return parseDecimal(textOf(value));
     case Type::Text:
-    case Type::Memo: return textOf(value);
-    case Type::Guid: return readGuid(value);
+    case Type::Memo:
+      return textOf(value);
+    case Type::Guid:
+      return readGuid(value);
     case Type::Binary:
-    case Type::Ole: return readBytes(value);
-    case Type::Null: return runtime::Null{};
-    case Type::Variant: break;
+    case Type::Ole:
+      return readBytes(value);
+    case Type::Null:
+      return runtime::Null{};
+    case Type::Variant:
+      break;
   }
   return readVariant(value);
 }
 
 void returnValue(sqlite3_context* context, const Variant& value, Type type) {
   switch (type) {
-    case Type::Boolean: return sqlite3_result_int(context, value.toBoolean() ? -1 : 0);
-    case Type::Byte: return sqlite3_result_int(context, value.toByte());
-    case Type::Integer: return sqlite3_result_int(context, value.toInteger());
-    case Type::Long: return sqlite3_result_int(context, value.toLong());
-    case Type::Currency: return sqlite3_result_int64(context, value.toCurrency().tenThousandths);
-    case Type::Single: return sqlite3_result_double(context, static_cast<double>(asSingle(value.toDouble())));
-    case Type::Date: return sqlite3_result_double(context, value.toDate().days);
-    case Type::Decimal: return returnText(context, image::decimalText(toDecimal(value)));
+    case Type::Boolean:
+      return sqlite3_result_int(context, value.toBoolean() ? -1 : 0);
+    case Type::Byte:
+      return sqlite3_result_int(context, value.toByte());
+    case Type::Integer:
+      return sqlite3_result_int(context, value.toInteger());
+    case Type::Long:
+      return sqlite3_result_int(context, value.toLong());
+    case Type::Currency:
+      return sqlite3_result_int64(context, value.toCurrency().tenThousandths);
+    case Type::Single:
+      return sqlite3_result_double(context, static_cast<double>(asSingle(value.toDouble())));
+    case Type::Date:
+      return sqlite3_result_double(context, value.toDate().days);
+    case Type::Decimal:
+      return returnText(context, image::decimalText(toDecimal(value)));
     case Type::Text:
-    case Type::Memo: return returnText(context, asText(value));
+    case Type::Memo:
+      return returnText(context, asText(value));
     case Type::Guid:
     case Type::Binary:
-    case Type::Ole: return returnBytes(context, value, type);
-    case Type::Null: return sqlite3_result_null(context);
+    case Type::Ole:
+      return returnBytes(context, value, type);
+    case Type::Null:
+      return sqlite3_result_null(context);
     case Type::Double:
-    case Type::Variant: break;
+    case Type::Variant:
+      break;
   }
   sqlite3_result_double(context, value.toDouble());
 }

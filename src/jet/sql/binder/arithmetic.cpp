@@ -9,7 +9,9 @@ namespace {
 /// Two texts, or a text and what may be one, are joined by +.
 bool joinsTexts(ArithmeticOperator op, Type left, Type right) {
   if (op != ArithmeticOperator::Add) return false;
-  const auto mayBeText = [](Type type) { return isText(type) || type == Type::Null || type == Type::Variant; };
+  const auto mayBeText = [](Type type) {
+    return isText(type) || type == Type::Null || type == Type::Variant;
+  };
   return (isText(left) && mayBeText(right)) || (isText(right) && mayBeText(left));
 }
 
@@ -43,7 +45,8 @@ Expression Binder::bind(const tree::Arithmetic& node, const Place&) {
 Expression Binder::bind(const tree::Negation& node, const Place&) {
   Expression operand = expression(*node.operand);
   if (auto* literal = std::get_if<bound::Literal>(&operand.node)) {
-    if (auto* whole = std::get_if<std::int64_t>(&literal->value)) return {Type::Long, bound::Literal{-*whole}};
+    if (auto* whole = std::get_if<std::int64_t>(&literal->value))
+      return {Type::Long, bound::Literal{-*whole}};
     if (auto* real = std::get_if<double>(&literal->value)) return {operand.type, bound::Literal{-*real}};
   }
   const Type zero = isWholeNumber(operand.type) ? Type::Long : operand.type;

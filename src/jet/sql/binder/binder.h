@@ -1,13 +1,13 @@
 #pragma once
 
 #include "jet/sql/binder/context.h"
-#include "jet/sql/binder/scope.h"
 #include "jet/sql/binder/conversion.h"
+#include "jet/sql/binder/scope.h"
 
 namespace jet::sql {
 
-/// Binds one SELECT, UPDATE, DELETE or INSERT: names against the schema and the names around it, types by the rules
-/// of conversion.h. The functions of a noun stand in the file of its name, as in Parser.
+/// Binds one SELECT, UPDATE, DELETE or INSERT: names against the schema and the names around it, types by the
+/// rules of conversion.h. The functions of a noun stand in the file of its name, as in Parser.
 class Binder {
  public:
   /// `outer` is the scope around a sub-query, or nullptr.
@@ -20,7 +20,8 @@ class Binder {
   // select.cpp
   bound::Select select(const tree::Select& select);
   /// The keys of the query whose only part this binder has bound as `select`.
-  std::vector<bound::OrderKey> orderBy(const std::vector<tree::OrderItem>& items, const bound::Select& select);
+  std::vector<bound::OrderKey> orderBy(const std::vector<tree::OrderItem>& items,
+                                       const bound::Select& select);
 
  private:
   // select.cpp
@@ -74,7 +75,8 @@ class Binder {
   std::optional<bound::Expression> column(const tree::Name& name, const Place& place);
   std::optional<bound::Expression> alias(const tree::Name& name);
 
-  /// A column read outside aggregates; an error if the rows turn out to be grouped and it is no part of a key.
+  /// A column read outside aggregates; an error if the rows turn out to be grouped and it is no part of a
+  /// key.
   struct UngroupedColumn {
     std::string name;
     std::size_t position;

@@ -9,8 +9,8 @@
 #include "jet/sql/tree/operator.h"
 #include "jet/sql/type.h"
 
-/// What a statement means: each name is a column or a parameter, each expression has its type, each change of type
-/// is a node of its own. Equality is of meaning within one statement.
+/// What a statement means: each name is a column or a parameter, each expression has its type, each change of
+/// type is a node of its own. Equality is of meaning within one statement.
 namespace jet::sql {
 struct Function;
 }
@@ -162,9 +162,9 @@ struct Subquery {
 
 struct Expression {
   Type type = Type::Null;
-  std::variant<Literal, Column, Parameter, Conversion, Store, Negation, Arithmetic, Concatenation, Comparison, Logic,
-               Not, Like, Between, InList, InQuery, IsNull, Call, Choice, NullReplacement, Aggregate, Exists,
-               Subquery>
+  std::variant<Literal, Column, Parameter, Conversion, Store, Negation, Arithmetic, Concatenation, Comparison,
+               Logic, Not, Like, Between, InList, InQuery, IsNull, Call, Choice, NullReplacement, Aggregate,
+               Exists, Subquery>
       node;
   bool operator==(const Expression&) const = default;
 };

@@ -19,12 +19,18 @@ Type argumentType(const Function& function, Function::Argument argument, Type gi
     case Argument::Number:
       // Money, decimals and dates are worked on as Doubles and turned back.
       return isWholeNumber(given) ? given : Type::Double;
-    case Argument::Boolean: return Type::Boolean;
-    case Argument::Long: return Type::Long;
-    case Argument::Double: return Type::Double;
-    case Argument::Date: return Type::Date;
-    case Argument::Text: return Type::Text;
-    default: break;
+    case Argument::Boolean:
+      return Type::Boolean;
+    case Argument::Long:
+      return Type::Long;
+    case Argument::Double:
+      return Type::Double;
+    case Argument::Date:
+      return Type::Date;
+    case Argument::Text:
+      return Type::Text;
+    default:
+      break;
   }
   const bool conversion = function.sql == std::string_view("$1");
   return conversion ? function.type : given;
@@ -36,8 +42,8 @@ struct AggregateName {
 };
 
 constexpr AggregateName aggregates[] = {
-    {"COUNT", AggregateKind::Count}, {"SUM", AggregateKind::Sum},     {"AVG", AggregateKind::Avg},
-    {"MIN", AggregateKind::Min},     {"MAX", AggregateKind::Max},     {"FIRST", AggregateKind::First},
+    {"COUNT", AggregateKind::Count}, {"SUM", AggregateKind::Sum}, {"AVG", AggregateKind::Avg},
+    {"MIN", AggregateKind::Min},     {"MAX", AggregateKind::Max}, {"FIRST", AggregateKind::First},
     {"LAST", AggregateKind::Last},
 };
 
@@ -47,7 +53,8 @@ Type aggregateType(AggregateKind kind, Type argument) {
     case AggregateKind::Sum:
     case AggregateKind::Avg:
       return argument == Type::Currency || argument == Type::Decimal ? argument : Type::Double;
-    default: return argument;
+    default:
+      return argument;
   }
 }
 
@@ -92,15 +99,15 @@ std::optional<Expression> Binder::specialCall(const tree::Call& node, const Plac
     if (isNumber(operand.type)) nothing.node = bound::Literal{std::int64_t{0}};
     Expression replacement = arguments.size() == 2 ? expression(arguments[1]) : std::move(nothing);
     const Type type = commonType(operand.type, replacement.type);
-    return Expression{
-        type, bound::NullReplacement{convert(std::move(operand), type), convert(std::move(replacement), type)}};
+    return Expression{type, bound::NullReplacement{convert(std::move(operand), type),
+                                                   convert(std::move(replacement), type)}};
   }
   return std::nullopt;
 }
 
 std::optional<Expression> Binder::aggregate(const tree::Call& node, const Place& place) {
-  const auto* found =
-      std::ranges::find_if(aggregates, [&](const AggregateName& name) { return sameWord(node.name, name.name); });
+  const auto* found = std::ranges::find_if(
+      aggregates, [&](const AggregateName& name) { return sameWord(node.name, name.name); });
   if (found == std::end(aggregates)) return std::nullopt;
   if (!aggregatesAllowed_) throw SyntaxError(AggregateInClause, node.name, place.position);
   const bool rows = node.star && found->kind == AggregateKind::Count;

@@ -29,15 +29,15 @@ Expression Binder::bind(const tree::Comparison& node, const Place& place) {
 Expression Binder::bind(const tree::Between& node, const Place& place) {
   Expression value = expression(*node.value), low = expression(*node.low), high = expression(*node.high);
   noteCompared(value);
-  const Type type =
-      comparedTypeOf(comparedTypeOf(value.type, low.type, place), comparedTypeOf(value.type, high.type, place), place);
-  return {Type::Boolean, bound::Between{node.negated, convert(std::move(value), type), convert(std::move(low), type),
-                                        convert(std::move(high), type)}};
+  const Type type = comparedTypeOf(comparedTypeOf(value.type, low.type, place),
+                                   comparedTypeOf(value.type, high.type, place), place);
+  return {Type::Boolean, bound::Between{node.negated, convert(std::move(value), type),
+                                        convert(std::move(low), type), convert(std::move(high), type)}};
 }
 
 Expression Binder::bind(const tree::Like& node, const Place&) {
-  return {Type::Boolean,
-          bound::Like{node.negated, converted(*node.value, Type::Text), converted(*node.pattern, Type::Text)}};
+  return {Type::Boolean, bound::Like{node.negated, converted(*node.value, Type::Text),
+                                     converted(*node.pattern, Type::Text)}};
 }
 
 Expression Binder::bind(const tree::IsNull& node, const Place&) {

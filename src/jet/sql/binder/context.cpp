@@ -36,7 +36,9 @@ void Context::noteCompared(const bound::Expression& expression) {
   if (std::ranges::find(compared, number) == compared.end()) compared.push_back(number);
 }
 
-void Context::noteChanged(unsigned source) { tables_[*tableOfSource_[source]].changed = true; }
+void Context::noteChanged(unsigned source) {
+  tables_[*tableOfSource_[source]].changed = true;
+}
 
 void Context::openStoredQuery(std::size_t position) {
   constexpr unsigned maximumOpen = 20;

@@ -10,8 +10,12 @@ namespace {
 using bound::Expression;
 using bound::Literal;
 
-bool either(Type a, Type b, Type type) { return a == type || b == type; }
-bool isBinary(Type type) { return type == Type::Binary || type == Type::Ole || type == Type::Guid; }
+bool either(Type a, Type b, Type type) {
+  return a == type || b == type;
+}
+bool isBinary(Type type) {
+  return type == Type::Binary || type == Type::Ole || type == Type::Guid;
+}
 
 Type commonNumber(Type a, Type b) {
   if (either(a, b, Type::Decimal)) return Type::Decimal;
@@ -66,7 +70,8 @@ Type commonType(Type a, Type b) {
 std::optional<Type> comparedType(Type a, Type b) {
   if (a == Type::Variant) std::swap(a, b);
   if (a == Type::Null || b == Type::Null) return a == Type::Null ? b : a;
-  if (b == Type::Variant) return isWholeNumber(a) || a == Type::Currency || a == Type::Single ? Type::Double : a;
+  if (b == Type::Variant)
+    return isWholeNumber(a) || a == Type::Currency || a == Type::Single ? Type::Double : a;
   if (isText(a) && isText(b)) return Type::Text;
   if (a == b) return a;
   if (isNumber(a) && isNumber(b)) return commonNumber(a, b);
@@ -81,10 +86,13 @@ std::optional<Type> comparedType(Type a, Type b) {
 Type arithmeticType(ArithmeticOperator op, Type left, Type right) {
   switch (op) {
     case ArithmeticOperator::Power:
-    case ArithmeticOperator::Divide: return Type::Double;
+    case ArithmeticOperator::Divide:
+      return Type::Double;
     case ArithmeticOperator::IntegerDivide:
-    case ArithmeticOperator::Modulo: return Type::Long;
-    default: break;
+    case ArithmeticOperator::Modulo:
+      return Type::Long;
+    default:
+      break;
   }
   if (left == Type::Null) std::swap(left, right);
   const auto operandType = [](Type type) { return isNumber(type) ? type : Type::Double; };

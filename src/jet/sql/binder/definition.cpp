@@ -16,7 +16,8 @@ void setSize(const tree::TypeName& tree, CreateTable::NewColumn& column) {
     if (!holds) throw SyntaxError(ColumnDefinitionSyntax, column.name, tree.place.position);
   };
   if (column.type == ColumnType::Text || column.type == ColumnType::Binary) {
-    require(size >= 1 && size <= (column.type == ColumnType::Text ? longestText : longestBinary) && !tree.scale);
+    require(size >= 1 && size <= (column.type == ColumnType::Text ? longestText : longestBinary) &&
+            !tree.scale);
     column.size = static_cast<std::uint16_t>(size);
   } else if (column.type == ColumnType::Numeric && tree.size) {
     require(size >= 1 && size <= longestNumber && scale <= size);
@@ -25,7 +26,8 @@ void setSize(const tree::TypeName& tree, CreateTable::NewColumn& column) {
   }
 }
 
-CreateIndex constraintIndex(const std::string& table, const tree::Constraint& constraint, const std::string& column) {
+CreateIndex constraintIndex(const std::string& table, const tree::Constraint& constraint,
+                            const std::string& column) {
   CreateIndex index;
   index.table = table;
   index.name = constraint.name;
@@ -43,7 +45,8 @@ Statement bindDefinition(const tree::CreateTable& tree) {
   create.table = tree.table;
   for (const tree::ColumnDefinition& definition : tree.columns) {
     const NamedType* type = findType(definition.type.name);
-    if (!type) throw SyntaxError(ColumnDefinitionSyntax, definition.type.name, definition.type.place.position);
+    if (!type)
+      throw SyntaxError(ColumnDefinitionSyntax, definition.type.name, definition.type.place.position);
     CreateTable::NewColumn column;
     column.name = definition.name;
     column.type = type->type;
@@ -71,11 +74,16 @@ Statement bindDefinition(const tree::CreateIndex& tree) {
   create.unique = tree.unique || create.primary;
   create.disallowNull = tree.option == Option::DisallowNull || create.primary;
   create.ignoreNull = tree.option == Option::IgnoreNull;
-  for (const tree::IndexColumn& column : tree.columns) create.columns.push_back({column.name, !column.descending});
+  for (const tree::IndexColumn& column : tree.columns)
+    create.columns.push_back({column.name, !column.descending});
   return create;
 }
 
-Statement bindDefinition(const tree::DropTable& tree) { return DropTable{tree.table}; }
-Statement bindDefinition(const tree::DropIndex& tree) { return DropIndex{tree.table, tree.name}; }
+Statement bindDefinition(const tree::DropTable& tree) {
+  return DropTable{tree.table};
+}
+Statement bindDefinition(const tree::DropIndex& tree) {
+  return DropIndex{tree.table, tree.name};
+}
 
 }  // namespace jet::sql

@@ -27,6 +27,8 @@ std::optional<Expression> Binder::clause(const std::optional<tree::Expression>& 
   return result;
 }
 
-Expression Binder::converted(const tree::Expression& tree, Type type) { return convert(expression(tree), type); }
+Expression Binder::converted(const tree::Expression& tree, Type type) {
+  return convert(expression(tree), type);
+}
 
 }  // namespace jet::sql

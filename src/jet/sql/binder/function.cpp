@@ -10,8 +10,8 @@ namespace {
 
 using Argument = Function::Argument;
 using Result = Function::Result;
-constexpr auto Any = Argument::Any, Number = Argument::Number, Boolean = Argument::Boolean, Long = Argument::Long,
-               Double = Argument::Double, Date = Argument::Date, Text = Argument::Text;
+constexpr auto Any = Argument::Any, Number = Argument::Number, Boolean = Argument::Boolean,
+               Long = Argument::Long, Double = Argument::Double, Date = Argument::Date, Text = Argument::Text;
 constexpr auto Fixed = Result::Fixed, LikeFirst = Result::LikeFirst;
 
 /// A conversion is all that its argument's type asks for: the expression is the argument itself.

@@ -21,8 +21,8 @@ struct Function {
   std::size_t argumentCount() const;
 };
 
-/// The function of this name and number of arguments, or nullptr. A name of a function that returns text may end in
-/// a dollar sign.
+/// The function of this name and number of arguments, or nullptr. A name of a function that returns text may
+/// end in a dollar sign.
 const Function* findFunction(const std::string& name, std::size_t arguments);
 
 }  // namespace jet::sql

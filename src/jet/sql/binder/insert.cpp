@@ -7,14 +7,16 @@ namespace {
 
 using Columns = std::vector<const file::Column*>;
 
-const file::Column& findColumn(const file::TableDefinition& table, const std::string& name, std::size_t position) {
+const file::Column& findColumn(const file::TableDefinition& table, const std::string& name,
+                               std::size_t position) {
   const auto index = table.find(name);
   if (!index) throw SyntaxError(UnknownInsertColumn, name, position);
   return table.columns[*index];
 }
 
 /// The columns of the list, or without one those that the query's columns are called; nothing told: all.
-Columns targetColumns(const file::TableDefinition& table, const tree::Insert& tree, const bound::Query* query) {
+Columns targetColumns(const file::TableDefinition& table, const tree::Insert& tree,
+                      const bound::Query* query) {
   Columns columns;
   for (const tree::PlacedName& name : tree.columns) {
     columns.push_back(&findColumn(table, name.text, name.place.position));

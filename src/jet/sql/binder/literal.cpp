@@ -31,11 +31,16 @@ Expression number(const std::string& digits, std::size_t position) {
 Expression Binder::bind(const tree::Literal& node, const Place& place) {
   using Kind = tree::Literal::Kind;
   switch (node.kind) {
-    case Kind::Null: return {Type::Null, Literal{}};
-    case Kind::Boolean: return {Type::Boolean, Literal{std::int64_t{node.text == "True" ? -1 : 0}}};
-    case Kind::Number: return number(node.text, place.position);
-    case Kind::Date: return {Type::Date, Literal{dateValue(node.text)}};
-    case Kind::Text: break;
+    case Kind::Null:
+      return {Type::Null, Literal{}};
+    case Kind::Boolean:
+      return {Type::Boolean, Literal{std::int64_t{node.text == "True" ? -1 : 0}}};
+    case Kind::Number:
+      return number(node.text, place.position);
+    case Kind::Date:
+      return {Type::Date, Literal{dateValue(node.text)}};
+    case Kind::Text:
+      break;
   }
   return {Type::Text, Literal{node.text}};
 }

@@ -34,8 +34,9 @@ std::optional<Expression> Binder::column(const tree::Name& name, const Place& pl
 
 std::optional<Expression> Binder::alias(const tree::Name& name) {
   if (!name.table.empty()) return std::nullopt;
-  const auto found = std::ranges::find_if(
-      aliases_, [&](const Alias& candidate) { return !candidate.open && file::sameName(candidate.name, name.column); });
+  const auto found = std::ranges::find_if(aliases_, [&](const Alias& candidate) {
+    return !candidate.open && file::sameName(candidate.name, name.column);
+  });
   if (found == aliases_.end()) return std::nullopt;
   found->open = true;
   Expression value = expression(*found->value);

@@ -19,12 +19,13 @@ std::optional<std::size_t> columnOf(const tree::OrderItem& item, const std::vect
   }
   const auto* name = std::get_if<tree::Name>(&item.value.node);
   if (!name || !name->table.empty()) return std::nullopt;
-  const auto found =
-      std::ranges::find_if(items, [&](const auto& column) { return file::sameName(column.name, name->column); });
+  const auto found = std::ranges::find_if(
+      items, [&](const auto& column) { return file::sameName(column.name, name->column); });
   return found == items.end() ? std::nullopt : std::optional<std::size_t>(found - items.begin());
 }
 
-std::vector<bound::OrderKey> orderUnion(const std::vector<tree::OrderItem>& items, const bound::Select& first) {
+std::vector<bound::OrderKey> orderUnion(const std::vector<tree::OrderItem>& items,
+                                        const bound::Select& first) {
   std::vector<bound::OrderKey> keys;
   for (const tree::OrderItem& item : items) {
     const auto position = columnOf(item, first.items);
@@ -47,7 +48,8 @@ void joinTypes(bound::Query& query) {
 
 }  // namespace
 
-std::vector<bound::OrderKey> Binder::orderBy(const std::vector<tree::OrderItem>& items, const bound::Select& select) {
+std::vector<bound::OrderKey> Binder::orderBy(const std::vector<tree::OrderItem>& items,
+                                             const bound::Select& select) {
   std::vector<bound::OrderKey> keys;
   for (const tree::OrderItem& item : items) keys.push_back(orderKey(item, select));
   if (select.grouped && !ungrouped_.empty()) {

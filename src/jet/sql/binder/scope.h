@@ -18,7 +18,7 @@ struct VisibleColumn {
 /// A table or query of FROM with its columns in the order of `*`.
 struct VisibleSource {
   unsigned source = 0;
-  std::string name;  // its alias, or its own name
+  std::string name;                              // its alias, or its own name
   const file::TableDefinition* table = nullptr;  // nullptr for a query
   std::vector<VisibleColumn> columns;
 };

@@ -61,7 +61,8 @@ void Binder::star(const tree::Star& star, std::size_t position, Select& result) 
     for (const VisibleColumn& column : source.columns) {
       context_.countNode(position);
       bound::Expression value{column.value.type, std::get<bound::Column>(column.value.node)};
-      if (std::ranges::find(groupKeys_, value) == groupKeys_.end()) ungrouped_.push_back({column.name, position});
+      if (std::ranges::find(groupKeys_, value) == groupKeys_.end())
+        ungrouped_.push_back({column.name, position});
       result.items.push_back(
           {std::move(value), column.name, column.sourceTable, column.sourceColumn, source.source});
     }
@@ -91,7 +92,9 @@ void Binder::nameItems(const tree::Select& tree, Select& result) {
   for (std::size_t i = 0; i < result.items.size(); ++i) {
     const bound::Item& item = result.items[i];
     std::string name = item.name.empty() ? "Expr" + std::to_string(firstNumber + i) : item.name;
-    const auto same = [&](const bound::Item& other) { return &other != &item && file::sameName(other.name, name); };
+    const auto same = [&](const bound::Item& other) {
+      return &other != &item && file::sameName(other.name, name);
+    };
     const bool aliased =
         std::ranges::any_of(tree.items, [&](const auto& treeItem) { return treeItem.alias == name; });
     if (item.source && !aliased && std::ranges::any_of(result.items, same)) {

@@ -55,7 +55,8 @@ Source Binder::storedQuery(const std::string& text, const tree::TableSource& tab
   if (!query) throw SyntaxError(UnknownTable, table.name, position);
   for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
   context_.openStoredQuery(position);
-  Source result = declareQuery(bindQuery(context_, nullptr, *query), table.alias.empty() ? table.name : table.alias);
+  Source result =
+      declareQuery(bindQuery(context_, nullptr, *query), table.alias.empty() ? table.name : table.alias);
   context_.closeStoredQuery();
   return result;
 }

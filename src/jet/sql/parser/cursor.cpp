@@ -7,13 +7,16 @@ namespace jet::sql {
 
 bool isReserved(const Token& token) {
   static constexpr std::string_view words[] = {
-      "SELECT", "FROM", "WHERE", "GROUP", "ORDER", "HAVING", "BY",  "AND", "OR", "XOR",   "EQV",   "IMP",   "NOT",
-      "MOD",    "IN",   "LIKE",  "BETWEEN", "IS",   "ON",   "AS",   "INNER", "LEFT", "RIGHT", "JOIN", "UNION"};
+      "SELECT", "FROM", "WHERE", "GROUP", "ORDER", "HAVING", "BY",   "AND",     "OR",
+      "XOR",    "EQV",  "IMP",   "NOT",   "MOD",   "IN",     "LIKE", "BETWEEN", "IS",
+      "ON",     "AS",   "INNER", "LEFT",  "RIGHT", "JOIN",   "UNION"};
   return token.kind == Token::Kind::Word &&
          std::ranges::any_of(words, [&](std::string_view word) { return token.isWord(word); });
 }
 
-const Token& Cursor::peek(std::size_t ahead) const { return tokens_[std::min(index_ + ahead, tokens_.size() - 1)]; }
+const Token& Cursor::peek(std::size_t ahead) const {
+  return tokens_[std::min(index_ + ahead, tokens_.size() - 1)];
+}
 
 Token Cursor::take() {
   Token token = peek();

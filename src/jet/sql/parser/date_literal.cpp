@@ -130,7 +130,8 @@ double dateValue(const std::string& canonical) {
   Moment moment;
   std::sscanf(canonical.c_str(), "%d-%d-%d %d:%d:%d", &moment.year, &moment.month, &moment.day, &moment.hour,
               &moment.minute, &moment.second);
-  return runtime::dateFromParts(moment.year, moment.month, moment.day, moment.hour, moment.minute, moment.second)
+  return runtime::dateFromParts(moment.year, moment.month, moment.day, moment.hour, moment.minute,
+                                moment.second)
       .days;
 }
 

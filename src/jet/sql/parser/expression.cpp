@@ -9,9 +9,22 @@ namespace {
 using namespace tree;
 
 /// Levels of the operators, the weakest first.
-enum Precedence { ImpLevel = 1, EqvLevel, XorLevel, OrLevel, AndLevel, NotLevel, ComparisonLevel,
-                  ConcatenationLevel, AddLevel, ModuloLevel, IntegerDivideLevel, MultiplyLevel, NegationLevel,
-                  PowerLevel };
+enum Precedence {
+  ImpLevel = 1,
+  EqvLevel,
+  XorLevel,
+  OrLevel,
+  AndLevel,
+  NotLevel,
+  ComparisonLevel,
+  ConcatenationLevel,
+  AddLevel,
+  ModuloLevel,
+  IntegerDivideLevel,
+  MultiplyLevel,
+  NegationLevel,
+  PowerLevel
+};
 
 struct Operator {
   std::string_view token;
@@ -106,7 +119,8 @@ std::optional<Expression> Parser::operation(Expression& left, int minimum) {
   const unsigned depth = std::max(left.place.depth, right.place.depth);
   const std::size_t position = left.place.position;
   checkDepth(depth + 1, position);
-  return Expression{std::visit(MakeNode{std::move(left), std::move(right)}, found->op), {position, depth + 1}};
+  return Expression{std::visit(MakeNode{std::move(left), std::move(right)}, found->op),
+                    {position, depth + 1}};
 }
 
 /// LIKE, IN, BETWEEN with or without NOT, and IS [NOT] NULL.

@@ -5,14 +5,22 @@ namespace jet::sql {
 
 namespace {
 
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+char upper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 /// A letter, an underscore, or a byte of a character outside ASCII.
 bool beginsWord(char c) {
   return (upper(c) >= 'A' && upper(c) <= 'Z') || c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
-bool continuesWord(char c) { return beginsWord(c) || isDigit(c) || c == '$'; }
+bool continuesWord(char c) {
+  return beginsWord(c) || isDigit(c) || c == '$';
+}
 
 class Lexer {
  public:
@@ -43,11 +51,16 @@ class Lexer {
     if (isDigit(first) || (first == '.' && isDigit(at(1)))) return readNumber(token);
     switch (first) {
       case '\'':
-      case '"': return readQuoted(token, Token::Kind::Text, first, true);
-      case '[': return readQuoted(token, Token::Kind::QuotedName, ']', false);
-      case '`': return readQuoted(token, Token::Kind::QuotedName, '`', false);
-      case '#': return readDate(token);
-      default: return readSymbol(token);
+      case '"':
+        return readQuoted(token, Token::Kind::Text, first, true);
+      case '[':
+        return readQuoted(token, Token::Kind::QuotedName, ']', false);
+      case '`':
+        return readQuoted(token, Token::Kind::QuotedName, '`', false);
+      case '#':
+        return readDate(token);
+      default:
+        return readSymbol(token);
     }
   }
 
@@ -100,7 +113,7 @@ class Lexer {
   }
 
   void readSymbol(Token& token) {
-    static constexpr std::string_view symbols[] = {"<>", "<=", ">=", "=", "<", ">", "(", ")", ",", ";",
+    static constexpr std::string_view symbols[] = {"<>", "<=", ">=", "=", "<",  ">", "(", ")", ",", ";",
                                                    ".",  "!",  "*",  "/", "\\", "+", "-", "^", "&"};
     for (std::string_view symbol : symbols) {
       if (!rest_.starts_with(symbol)) continue;
@@ -130,8 +143,12 @@ bool sameWord(std::string_view text, std::string_view word) {
   return true;
 }
 
-bool Token::isWord(std::string_view word) const { return kind == Kind::Word && sameWord(text, word); }
+bool Token::isWord(std::string_view word) const {
+  return kind == Kind::Word && sameWord(text, word);
+}
 
-std::vector<Token> tokenize(std::string_view statement) { return Lexer(statement).run(); }
+std::vector<Token> tokenize(std::string_view statement) {
+  return Lexer(statement).run();
+}
 
 }  // namespace jet::sql

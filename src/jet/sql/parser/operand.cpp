@@ -11,15 +11,21 @@ Expression Parser::primary() {
   const std::size_t position = token.position;
   const auto literal = [&](Literal::Kind kind) { return make(Literal{kind, cursor_.take().text}, position); };
   switch (token.kind) {
-    case Token::Kind::Number: return literal(Literal::Kind::Number);
-    case Token::Kind::Text: return literal(Literal::Kind::Text);
-    case Token::Kind::Date: return literal(Literal::Kind::Date);
-    case Token::Kind::QuotedName: return name();
-    case Token::Kind::Word: return wordOperand();
+    case Token::Kind::Number:
+      return literal(Literal::Kind::Number);
+    case Token::Kind::Text:
+      return literal(Literal::Kind::Text);
+    case Token::Kind::Date:
+      return literal(Literal::Kind::Date);
+    case Token::Kind::QuotedName:
+      return name();
+    case Token::Kind::Word:
+      return wordOperand();
     case Token::Kind::Symbol:
       if (token.text == "(") return parenthesised();
       break;
-    case Token::Kind::End: break;
+    case Token::Kind::End:
+      break;
   }
   cursor_.fail(ExpressionSyntax);
 }
@@ -38,7 +44,8 @@ Expression Parser::parenthesised() {
 
 /// A constant, EXISTS, a function or a name. A name in front of a dot may be any word.
 Expression Parser::wordOperand() {
-  static constexpr std::string_view trueWords[] = {"TRUE", "YES", "ON"}, falseWords[] = {"FALSE", "NO", "OFF"};
+  static constexpr std::string_view trueWords[] = {"TRUE", "YES", "ON"},
+                                    falseWords[] = {"FALSE", "NO", "OFF"};
   const Token& token = cursor_.peek();
   const std::size_t position = token.position;
   const Token& next = cursor_.peek(1);

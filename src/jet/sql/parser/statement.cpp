@@ -71,6 +71,8 @@ void Parser::end() {
   if (cursor_.peek().kind != Token::Kind::End) cursor_.fail(TextBehindStatement);
 }
 
-tree::Statement parse(std::string_view text) { return Parser(text).statement(); }
+tree::Statement parse(std::string_view text) {
+  return Parser(text).statement();
+}
 
 }  // namespace jet::sql

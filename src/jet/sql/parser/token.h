@@ -29,12 +29,12 @@ struct Token {
 /// True if `text` is the word `upper`, written in capitals, without regard to case; ASCII.
 bool sameWord(std::string_view text, std::string_view upper);
 
-/// The statement's tokens, closed by one End. Error 3075 for a text, name or date that is not closed or empty, and
-/// for a character that begins nothing.
+/// The statement's tokens, closed by one End. Error 3075 for a text, name or date that is not closed or
+/// empty, and for a character that begins nothing.
 std::vector<Token> tokenize(std::string_view statement);
 
-/// The inside of a date literal (month before day, or year first; "h:n[:s] [AM|PM]") as "yyyy-mm-dd hh:mm:ss";
-/// empty if it is none. A month above 12 is the day.
+/// The inside of a date literal (month before day, or year first; "h:n[:s] [AM|PM]") as "yyyy-mm-dd
+/// hh:mm:ss"; empty if it is none. A month above 12 is the day.
 std::string canonicalDate(std::string_view inside);
 
 /// Days since 1899-12-30 of a canonical date.

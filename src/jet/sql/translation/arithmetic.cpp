@@ -7,29 +7,41 @@ namespace {
 using bound::Expression;
 
 bool isNative(ArithmeticOperator op) {
-  return op == ArithmeticOperator::Add || op == ArithmeticOperator::Subtract || op == ArithmeticOperator::Multiply;
+  return op == ArithmeticOperator::Add || op == ArithmeticOperator::Subtract ||
+         op == ArithmeticOperator::Multiply;
 }
 
-/// SQLite's own operators reckon with 64 bits or with Doubles; one check around a chain of them finds a result that
-/// its type can't hold.
+/// SQLite's own operators reckon with 64 bits or with Doubles; one check around a chain of them finds a
+/// result that its type can't hold.
 const char* check(Type type) {
   switch (type) {
-    case Type::Long: return "jet_check_long";
-    case Type::Currency: return "jet_check_currency";
-    case Type::Single: return "jet_check_single";
-    default: return "jet_check_double";
+    case Type::Long:
+      return "jet_check_long";
+    case Type::Currency:
+      return "jet_check_currency";
+    case Type::Single:
+      return "jet_check_single";
+    default:
+      return "jet_check_double";
   }
 }
 
 const char* function(ArithmeticOperator op, Type type) {
   switch (op) {
-    case ArithmeticOperator::Power: return "jet_power";
-    case ArithmeticOperator::Divide: return "jet_divide";
-    case ArithmeticOperator::IntegerDivide: return "jet_integer_divide";
-    case ArithmeticOperator::Modulo: return "jet_modulo";
-    case ArithmeticOperator::Add: return "jet_add_decimal";
-    case ArithmeticOperator::Subtract: return "jet_subtract_decimal";
-    case ArithmeticOperator::Multiply: break;
+    case ArithmeticOperator::Power:
+      return "jet_power";
+    case ArithmeticOperator::Divide:
+      return "jet_divide";
+    case ArithmeticOperator::IntegerDivide:
+      return "jet_integer_divide";
+    case ArithmeticOperator::Modulo:
+      return "jet_modulo";
+    case ArithmeticOperator::Add:
+      return "jet_add_decimal";
+    case ArithmeticOperator::Subtract:
+      return "jet_subtract_decimal";
+    case ArithmeticOperator::Multiply:
+      break;
   }
   return type == Type::Decimal ? "jet_multiply_decimal" : "jet_multiply_currency";
 }
@@ -44,8 +56,8 @@ bool takesFunction(const bound::Arithmetic& node, Type type) {
 
 Sql Translator::translate(const bound::Arithmetic& node, Type type) {
   if (takesFunction(node, type)) {
-    return {std::string(function(node.op, type)) + "(" + value(*node.left).text + ", " + value(*node.right).text +
-            ")"};
+    return {std::string(function(node.op, type)) + "(" + value(*node.left).text + ", " +
+            value(*node.right).text + ")"};
   }
   return {std::string(check(type)) + "(" + unchecked(node, type).text + ")"};
 }
@@ -53,7 +65,8 @@ Sql Translator::translate(const bound::Arithmetic& node, Type type) {
 Sql Translator::unchecked(const bound::Arithmetic& node, Type) {
   const Strength strength = node.op == ArithmeticOperator::Multiply ? Strength::Product : Strength::Sum;
   const Strength right = strength == Strength::Sum ? Strength::Product : Strength::Join;
-  return {within(unchecked(*node.left), strength) + " " + symbol(node.op) + " " + within(unchecked(*node.right), right),
+  return {within(unchecked(*node.left), strength) + " " + symbol(node.op) + " " +
+              within(unchecked(*node.right), right),
           strength};
 }
 

@@ -43,16 +43,22 @@ Sql Translator::translate(const bound::Aggregate& node, Type type) {
   const Expression& argument = node.argument.front();
   const std::string text = value(argument).text;
   switch (node.kind) {
-    case AggregateKind::Sum: return {(type == Type::Decimal ? "jet_sum_decimal(" : "sum(") + text + ")"};
+    case AggregateKind::Sum:
+      return {(type == Type::Decimal ? "jet_sum_decimal(" : "sum(") + text + ")"};
     case AggregateKind::Avg:
       if (type == Type::Currency) return {"jet_double_to_currency(avg(" + text + ") / 10000.0)"};
       if (type == Type::Decimal) return {"jet_double_to_decimal(avg(CAST(" + text + " AS REAL)))"};
       return {"avg(" + text + ")"};
-    case AggregateKind::Min: return {"min(" + ordered(argument).text + ")"};
-    case AggregateKind::Max: return {"max(" + ordered(argument).text + ")"};
-    case AggregateKind::First: return {"jet_first(" + text + ", " + firstKey_ + ")"};
-    case AggregateKind::Last: return {"jet_last(" + text + ", " + firstKey_ + ")"};
-    default: return {"count(" + text + ")"};
+    case AggregateKind::Min:
+      return {"min(" + ordered(argument).text + ")"};
+    case AggregateKind::Max:
+      return {"max(" + ordered(argument).text + ")"};
+    case AggregateKind::First:
+      return {"jet_first(" + text + ", " + firstKey_ + ")"};
+    case AggregateKind::Last:
+      return {"jet_last(" + text + ", " + firstKey_ + ")"};
+    default:
+      return {"count(" + text + ")"};
   }
 }
 

@@ -4,7 +4,9 @@ namespace jet::sql {
 
 namespace {
 
-const char* notIf(bool negated) { return negated ? " NOT" : ""; }
+const char* notIf(bool negated) {
+  return negated ? " NOT" : "";
+}
 
 }  // namespace
 
@@ -22,28 +24,34 @@ Sql Translator::translate(const bound::Between& node, Type) {
 }
 
 Sql Translator::translate(const bound::Like& node, Type) {
-  return {(node.negated ? "NOT jet_like(" : "jet_like(") + value(*node.value).text + ", " + value(*node.pattern).text +
-              ")",
+  return {(node.negated ? "NOT jet_like(" : "jet_like(") + value(*node.value).text + ", " +
+              value(*node.pattern).text + ")",
           node.negated ? Strength::Not : Strength::Whole};
 }
 
 Sql Translator::translate(const bound::IsNull& node, Type) {
-  return {within(value(*node.operand), Strength::Sum) + " IS" + notIf(node.negated) + " NULL", Strength::Equality};
+  return {within(value(*node.operand), Strength::Sum) + " IS" + notIf(node.negated) + " NULL",
+          Strength::Equality};
 }
 
 Sql Translator::translate(const bound::InList& node, Type) {
-  return {within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" + list(node.items) + ")",
-          Strength::Equality};
+  return {
+      within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" + list(node.items) + ")",
+      Strength::Equality};
 }
 
 Sql Translator::translate(const bound::InQuery& node, Type) {
-  return {within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" + query(*node.query, Shape{}) +
-              ")",
+  return {within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" +
+              query(*node.query, Shape{}) + ")",
           Strength::Equality};
 }
 
-Sql Translator::translate(const bound::Exists& node, Type) { return {"EXISTS (" + query(*node.query, Shape{}) + ")"}; }
+Sql Translator::translate(const bound::Exists& node, Type) {
+  return {"EXISTS (" + query(*node.query, Shape{}) + ")"};
+}
 
-Sql Translator::translate(const bound::Subquery& node, Type) { return {"(" + query(*node.query, Shape{}) + ")"}; }
+Sql Translator::translate(const bound::Subquery& node, Type) {
+  return {"(" + query(*node.query, Shape{}) + ")"};
+}
 
 }  // namespace jet::sql

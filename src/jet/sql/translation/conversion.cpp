@@ -9,9 +9,11 @@ namespace {
 /// True if a value of `from` is the same value of `to` in the image.
 bool isSame(Type from, Type to) {
   if (from == to || from == Type::Null || (isText(from) && isText(to))) return true;
-  if (isWholeNumber(from) && isWholeNumber(to)) return from < to && !(from == Type::Boolean && to == Type::Byte);
+  if (isWholeNumber(from) && isWholeNumber(to))
+    return from < to && !(from == Type::Boolean && to == Type::Byte);
   if (isPlainNumber(from)) {
-    return to == Type::Double || to == Type::Date || to == Type::Variant || (to == Type::Single && from < Type::Long);
+    return to == Type::Double || to == Type::Date || to == Type::Variant ||
+           (to == Type::Single && from < Type::Long);
   }
   const bool blob = from == Type::Guid || from == Type::Binary || from == Type::Ole;
   return (blob && (to == Type::Binary || to == Type::Ole || to == Type::Variant)) ||
@@ -53,7 +55,8 @@ Sql Translator::translate(const bound::Store& node, Type to) {
   if (from == Type::Date && to == Type::Date) return operand;
   std::string arguments = operand.text;
   if (node.size != 0) arguments += ", " + std::to_string(node.size);
-  if (to == Type::Decimal) arguments += ", " + std::to_string(node.precision) + ", " + std::to_string(node.scale);
+  if (to == Type::Decimal)
+    arguments += ", " + std::to_string(node.precision) + ", " + std::to_string(node.scale);
   return {functionName(from, "_into_", to) + "(" + arguments + ")"};
 }
 

@@ -36,10 +36,14 @@ std::string quoted(std::string_view text) {
   return result + "'";
 }
 
-Sql booleanValue(Sql condition) { return {"-" + within(std::move(condition), Strength::Whole), Strength::Sign}; }
+Sql booleanValue(Sql condition) {
+  return {"-" + within(std::move(condition), Strength::Whole), Strength::Sign};
+}
 
 Sql withCollation(Sql sql, Type type) {
-  const char* collation = isText(type) ? " COLLATE JET" : type == Type::Decimal ? " COLLATE JETDECIMAL" : nullptr;
+  const char* collation = isText(type)            ? " COLLATE JET"
+                          : type == Type::Decimal ? " COLLATE JETDECIMAL"
+                                                  : nullptr;
   if (!collation) return sql;
   return {within(std::move(sql), Strength::Collation) + collation, Strength::Collation};
 }
@@ -59,7 +63,8 @@ Sql Translator::ordered(const Expression& expression) {
 
 std::string Translator::list(const std::vector<Expression>& expressions) {
   std::string text;
-  for (const Expression& expression : expressions) text += (text.empty() ? "" : ", ") + value(expression).text;
+  for (const Expression& expression : expressions)
+    text += (text.empty() ? "" : ", ") + value(expression).text;
   return text;
 }
 
@@ -81,6 +86,8 @@ Sql Translator::translate(const bound::Column& node, Type) {
   return {"a" + std::to_string(node.source) + "." + node.name};
 }
 
-Sql Translator::translate(const bound::Parameter& node, Type) { return {"?" + std::to_string(node.index + 1)}; }
+Sql Translator::translate(const bound::Parameter& node, Type) {
+  return {"?" + std::to_string(node.index + 1)};
+}
 
 }  // namespace jet::sql

@@ -10,13 +10,15 @@ Sql Translator::translate(const bound::Logic& node, Type) {
       return {within(std::move(left), Strength::And) + " AND " + within(std::move(right), Strength::Not),
               Strength::And};
     case LogicOperator::Or:
-      return {within(std::move(left), Strength::Or) + " OR " + within(std::move(right), Strength::And), Strength::Or};
+      return {within(std::move(left), Strength::Or) + " OR " + within(std::move(right), Strength::And),
+              Strength::Or};
     // NOT makes any number 1 or 0, so that the two can be compared.
     case LogicOperator::Xor:
       return {denied(std::move(left)) + " <> " + denied(std::move(right)), Strength::Equality};
     case LogicOperator::Eqv:
       return {denied(std::move(left)) + " = " + denied(std::move(right)), Strength::Equality};
-    case LogicOperator::Imp: break;
+    case LogicOperator::Imp:
+      break;
   }
   return {denied(std::move(left)) + " OR " + within(std::move(right), Strength::And), Strength::Or};
 }

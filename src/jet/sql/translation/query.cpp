@@ -14,7 +14,9 @@ bool isOneTable(const std::vector<bound::Source>& from) {
   return from.size() == 1 && std::holds_alternative<bound::TableSource>(from.front().node);
 }
 
-std::string direction(const bound::OrderKey& key) { return key.descending ? " DESC" : ""; }
+std::string direction(const bound::OrderKey& key) {
+  return key.descending ? " DESC" : "";
+}
 
 }  // namespace
 
@@ -51,8 +53,8 @@ std::string Translator::single(const bound::Query& tree, Shape shape) {
   return text;
 }
 
-/// The engine's order: the keys, and what they leave open by the rows' place in the file; without keys, groups and
-/// distinct rows by their values.
+/// The engine's order: the keys, and what they leave open by the rows' place in the file; without keys,
+/// groups and distinct rows by their values.
 std::string Translator::orderBy(const bound::Query& tree, const From& from, bool ordered) {
   const bound::Select& part = tree.parts.front();
   std::string text;
@@ -79,8 +81,8 @@ std::string Translator::orderKey(const bound::OrderKey& key, const std::vector<b
   return (column && column->collated ? text : withCollation(text, item.type)).text + direction(key);
 }
 
-/// TOP of sorted rows takes along those that equal the last one, and TOP PERCENT must know how many there are: the
-/// rows are ranked by their keys o1, o2, ... first.
+/// TOP of sorted rows takes along those that equal the last one, and TOP PERCENT must know how many there
+/// are: the rows are ranked by their keys o1, o2, ... first.
 std::string Translator::ranked(const bound::Query& tree, Shape shape) {
   const bound::Select& part = tree.parts.front();
   const From source = from(part.from);

@@ -5,7 +5,8 @@ namespace jet::sql {
 /// SELECT to HAVING; `moreColumns` stand behind the items and their row keys, each after a comma.
 std::string Translator::select(const bound::Select& select, const From& from, Shape shape,
                                const std::string& moreColumns) {
-  const std::string outerKey = std::exchange(firstKey_, from.tables.empty() ? "0" : rowid(from.tables.front()));
+  const std::string outerKey =
+      std::exchange(firstKey_, from.tables.empty() ? "0" : rowid(from.tables.front()));
   std::string text = select.distinct ? "SELECT DISTINCT " : "SELECT ";
   for (std::size_t i = 0; i < select.items.size(); ++i) {
     const bound::Expression& item = select.items[i].value;

@@ -8,10 +8,14 @@ namespace {
 
 using bound::JoinKind;
 
-bool isJoin(const bound::Source& source) { return std::holds_alternative<bound::Join>(source.node); }
+bool isJoin(const bound::Source& source) {
+  return std::holds_alternative<bound::Join>(source.node);
+}
 
 /// `left JOIN (right)` is written `right JOIN left`: SQLite can't name the rowids of tables in parentheses.
-bool isMirrored(const bound::Join& join) { return isJoin(*join.right) && !isJoin(*join.left); }
+bool isMirrored(const bound::Join& join) {
+  return isJoin(*join.right) && !isJoin(*join.left);
+}
 
 JoinKind writtenKind(const bound::Join& join) {
   if (!isMirrored(join) || join.kind == JoinKind::Inner) return join.kind;
@@ -21,12 +25,15 @@ JoinKind writtenKind(const bound::Join& join) {
 /// A RIGHT JOIN keeps to its own tables only if nothing stands before them.
 bool hasRightJoin(const bound::Source& source) {
   const auto* join = std::get_if<bound::Join>(&source.node);
-  return join && (writtenKind(*join) == JoinKind::Right || hasRightJoin(*join->left) || hasRightJoin(*join->right));
+  return join &&
+         (writtenKind(*join) == JoinKind::Right || hasRightJoin(*join->left) || hasRightJoin(*join->right));
 }
 
 }  // namespace
 
-std::string rowid(unsigned source) { return "a" + std::to_string(source) + ".rowid"; }
+std::string rowid(unsigned source) {
+  return "a" + std::to_string(source) + ".rowid";
+}
 
 Translator::From Translator::from(const std::vector<bound::Source>& sources) {
   std::vector<const bound::Source*> order;
@@ -60,8 +67,8 @@ Translator::From Translator::source(const bound::Source& source) {
   From right = this->source(mirrored ? *join.left : *join.right);
   const bool enclosed = isJoin(mirrored ? *join.left : *join.right);
   const bool named = !left.tables.empty() && !right.tables.empty() && !enclosed;
-  left.text += words[static_cast<std::size_t>(writtenKind(join))] + (enclosed ? "(" + right.text + ")" : right.text) +
-               " ON " + condition(join.condition).text;
+  left.text += words[static_cast<std::size_t>(writtenKind(join))] +
+               (enclosed ? "(" + right.text + ")" : right.text) + " ON " + condition(join.condition).text;
   left.tables.insert(left.tables.end(), right.tables.begin(), right.tables.end());
   if (!named) left.tables.clear();
   return left;

@@ -11,8 +11,8 @@ namespace jet::sql {
 /// How strongly the outermost operator of a piece of SQLite SQL binds, the weakest first.
 enum class Strength { Or, And, Not, Equality, Relation, Sum, Product, Join, Collation, Sign, Whole };
 
-/// A piece of SQLite SQL. It reads the same in parentheses; SQLite's parser has little room for nesting, so that
-/// they are written only where they must be.
+/// A piece of SQLite SQL. It reads the same in parentheses; SQLite's parser has little room for nesting, so
+/// that they are written only where they must be.
 struct Sql {
   std::string text;
   Strength strength = Strength::Whole;
@@ -21,8 +21,8 @@ struct Sql {
 /// The text, in parentheses if it binds more weakly than `least`.
 std::string within(Sql sql, Strength least);
 
-/// SQLite SQL of a bound tree. Source n is called a<n>. The functions of a noun stand in the file of its name, as in
-/// Parser and Binder.
+/// SQLite SQL of a bound tree. Source n is called a<n>. The functions of a noun stand in the file of its
+/// name, as in Parser and Binder.
 class Translator {
  public:
   /// `withRowKeys`: the rowids of the tables of FROM behind the columns, where rows stand for rows of tables.
@@ -83,7 +83,8 @@ class Translator {
   std::string query(const bound::Query& query, Shape shape);
   std::string single(const bound::Query& query, Shape shape);
   std::string ranked(const bound::Query& query, Shape shape);
-  std::string select(const bound::Select& select, const From& from, Shape shape, const std::string& moreColumns);
+  std::string select(const bound::Select& select, const From& from, Shape shape,
+                     const std::string& moreColumns);
   std::string orderBy(const bound::Query& query, const From& from, bool ordered);
   std::string orderKey(const bound::OrderKey& key, const std::vector<bound::Item>& items);
 

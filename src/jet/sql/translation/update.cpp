@@ -11,12 +11,12 @@ std::string Translator::update(const bound::Update& update) {
   for (std::size_t i = 0; i < update.assignments.size(); ++i) {
     const std::string text = value(update.assignments[i].value).text, name = "v" + std::to_string(i + 1);
     values += ", " + text + " AS " + name;
-    assignments +=
-        (i ? ", c" : "c") + std::to_string(update.assignments[i].column) + " = " + (joined ? "u." + name : text);
+    assignments += (i ? ", c" : "c") + std::to_string(update.assignments[i].column) + " = " +
+                   (joined ? "u." + name : text);
   }
   if (!joined) return "UPDATE " + source.text + " SET " + assignments + where(update.where);
-  return "UPDATE " + table + " SET " + assignments + " FROM (SELECT " + rowid(update.target) + " AS k" + values +
-         " FROM " + source.text + where(update.where) + ") AS u WHERE " + table + ".rowid = u.k";
+  return "UPDATE " + table + " SET " + assignments + " FROM (SELECT " + rowid(update.target) + " AS k" +
+         values + " FROM " + source.text + where(update.where) + ") AS u WHERE " + table + ".rowid = u.k";
 }
 
 }  // namespace jet::sql

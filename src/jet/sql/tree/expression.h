@@ -8,8 +8,8 @@
 #include "jet/sql/tree/box.h"
 #include "jet/sql/tree/operator.h"
 
-/// What a statement says, as it says it: no name is looked up and no type is known. Equality is of structure, places
-/// apart.
+/// What a statement says, as it says it: no name is looked up and no type is known. Equality is of structure,
+/// places apart.
 namespace jet::sql::tree {
 
 struct Expression;
@@ -123,8 +123,8 @@ struct Subquery {
 };
 
 struct Expression {
-  std::variant<Literal, Name, Negation, Arithmetic, Concatenation, Comparison, Logic, Not, Like, Between, InList,
-               InQuery, IsNull, Call, Exists, Subquery>
+  std::variant<Literal, Name, Negation, Arithmetic, Concatenation, Comparison, Logic, Not, Like, Between,
+               InList, InQuery, IsNull, Call, Exists, Subquery>
       node;
   Place place;
   bool operator==(const Expression&) const = default;

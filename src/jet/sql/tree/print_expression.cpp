@@ -45,14 +45,20 @@ std::string printList(const std::vector<Expression>& items) {
   return "(" + list + ")";
 }
 
-const char* notIf(bool negated) { return negated ? " NOT" : ""; }
+const char* notIf(bool negated) {
+  return negated ? " NOT" : "";
+}
 
 std::string printNode(const Literal& literal) {
   switch (literal.kind) {
-    case Literal::Kind::Null: return "NULL";
-    case Literal::Kind::Text: return quotedText(literal.text);
-    case Literal::Kind::Date: return "#" + literal.text + "#";
-    default: return literal.text;
+    case Literal::Kind::Null:
+      return "NULL";
+    case Literal::Kind::Text:
+      return quotedText(literal.text);
+    case Literal::Kind::Date:
+      return "#" + literal.text + "#";
+    default:
+      return literal.text;
   }
 }
 
@@ -60,15 +66,25 @@ std::string printNode(const Name& name) {
   return (name.table.empty() ? "" : quotedName(name.table) + ".") + quotedName(name.column);
 }
 
-std::string printNode(const Negation& node) { return "-" + operand(*node.operand); }
-std::string printNode(const Arithmetic& node) { return printOperation(node); }
+std::string printNode(const Negation& node) {
+  return "-" + operand(*node.operand);
+}
+std::string printNode(const Arithmetic& node) {
+  return printOperation(node);
+}
 std::string printNode(const Concatenation& node) {
   const bool chain = std::holds_alternative<Concatenation>(node.left->node);
   return (chain ? print(*node.left) : operand(*node.left)) + " & " + operand(*node.right);
 }
-std::string printNode(const Comparison& node) { return printOperation(node); }
-std::string printNode(const Logic& node) { return printOperation(node); }
-std::string printNode(const Not& node) { return "NOT " + operand(*node.operand); }
+std::string printNode(const Comparison& node) {
+  return printOperation(node);
+}
+std::string printNode(const Logic& node) {
+  return printOperation(node);
+}
+std::string printNode(const Not& node) {
+  return "NOT " + operand(*node.operand);
+}
 
 std::string printNode(const Like& node) {
   return operand(*node.value) + notIf(node.negated) + " LIKE " + operand(*node.pattern);
@@ -91,9 +107,15 @@ std::string printNode(const IsNull& node) {
   return operand(*node.operand) + " IS" + notIf(node.negated) + " NULL";
 }
 
-std::string printNode(const Call& node) { return node.name + (node.star ? "(*)" : printList(node.arguments)); }
-std::string printNode(const Exists& node) { return "EXISTS (" + print(*node.query) + ")"; }
-std::string printNode(const Subquery& node) { return "(" + print(*node.query) + ")"; }
+std::string printNode(const Call& node) {
+  return node.name + (node.star ? "(*)" : printList(node.arguments));
+}
+std::string printNode(const Exists& node) {
+  return "EXISTS (" + print(*node.query) + ")";
+}
+std::string printNode(const Subquery& node) {
+  return "(" + print(*node.query) + ")";
+}
 
 }  // namespace
 

@@ -12,13 +12,19 @@ std::string printAll(const Items& items, Print printItem) {
   return list;
 }
 
-std::string printNames(const std::vector<std::string>& names) { return printAll(names, quotedName); }
+std::string printNames(const std::vector<std::string>& names) {
+  return printAll(names, quotedName);
+}
 
-std::string printAlias(const std::string& alias) { return alias.empty() ? "" : " AS " + quotedName(alias); }
+std::string printAlias(const std::string& alias) {
+  return alias.empty() ? "" : " AS " + quotedName(alias);
+}
 
 std::string printSource(const Source& source);
 
-std::string printNode(const TableSource& table) { return quotedName(table.name) + printAlias(table.alias); }
+std::string printNode(const TableSource& table) {
+  return quotedName(table.name) + printAlias(table.alias);
+}
 std::string printNode(const QuerySource& source) {
   return "(" + print(*source.query) + ")" + printAlias(source.alias);
 }
@@ -37,13 +43,17 @@ std::string printSource(const Source& source) {
   return std::visit([](const auto& node) { return printNode(node); }, source.node);
 }
 
-std::string printFrom(const std::vector<Source>& from) { return printAll(from, printSource); }
+std::string printFrom(const std::vector<Source>& from) {
+  return printAll(from, printSource);
+}
 
 std::string printClause(const char* word, const std::optional<Expression>& condition) {
   return condition ? std::string(word) + print(*condition) : "";
 }
 
-std::string printStar(const Star& star) { return star.table.empty() ? "*" : quotedName(star.table) + ".*"; }
+std::string printStar(const Star& star) {
+  return star.table.empty() ? "*" : quotedName(star.table) + ".*";
+}
 
 std::string printItem(const SelectItem& item) {
   if (const Star* star = std::get_if<Star>(&item.value)) return printStar(*star);
@@ -54,7 +64,8 @@ std::string printSelect(const Select& select) {
   std::string text = "SELECT ";
   if (select.distinct) text += "DISTINCT ";
   if (select.distinctRow) text += "DISTINCTROW ";
-  if (select.top) text += "TOP " + std::to_string(select.top->count) + (select.top->percent ? " PERCENT " : " ");
+  if (select.top)
+    text += "TOP " + std::to_string(select.top->count) + (select.top->percent ? " PERCENT " : " ");
   text += printAll(select.items, printItem);
   if (!select.from.empty()) text += " FROM " + printFrom(select.from);
   text += printClause(" WHERE ", select.where);
@@ -77,12 +88,15 @@ std::string printConstraint(const Constraint& constraint) {
 }
 
 std::string printColumn(const ColumnDefinition& column) {
-  std::string text = quotedName(column.name) + " " + printType(column.type) + (column.notNull ? " NOT NULL" : "");
+  std::string text =
+      quotedName(column.name) + " " + printType(column.type) + (column.notNull ? " NOT NULL" : "");
   for (const Constraint& constraint : column.constraints) text += " " + printConstraint(constraint);
   return text;
 }
 
-std::string printBody(const Query& query) { return print(query); }
+std::string printBody(const Query& query) {
+  return print(query);
+}
 
 std::string printBody(const Update& update) {
   const auto assignment = [](const Assignment& item) {
@@ -118,12 +132,14 @@ std::string printBody(const CreateIndex& create) {
   const auto column = [](const IndexColumn& item) {
     return quotedName(item.name) + (item.descending ? " DESC" : "");
   };
-  return std::string("CREATE ") + (create.unique ? "UNIQUE " : "") + "INDEX " + quotedName(create.name) + " ON " +
-         quotedName(create.table) + " (" + printAll(create.columns, column) + ")" +
+  return std::string("CREATE ") + (create.unique ? "UNIQUE " : "") + "INDEX " + quotedName(create.name) +
+         " ON " + quotedName(create.table) + " (" + printAll(create.columns, column) + ")" +
          options[static_cast<std::size_t>(create.option)];
 }
 
-std::string printBody(const DropTable& drop) { return "DROP TABLE " + quotedName(drop.table); }
+std::string printBody(const DropTable& drop) {
+  return "DROP TABLE " + quotedName(drop.table);
+}
 std::string printBody(const DropIndex& drop) {
   return "DROP INDEX " + quotedName(drop.name) + " ON " + quotedName(drop.table);
 }
@@ -136,7 +152,9 @@ std::string print(const Query& query) {
     if (i > 0) text += query.all[i - 1] ? " UNION ALL " : " UNION ";
     text += printSelect(query.parts[i]);
   }
-  const auto order = [](const OrderItem& item) { return print(item.value) + (item.descending ? " DESC" : ""); };
+  const auto order = [](const OrderItem& item) {
+    return print(item.value) + (item.descending ? " DESC" : "");
+  };
   return text + (query.orderBy.empty() ? "" : " ORDER BY " + printAll(query.orderBy, order));
 }
 

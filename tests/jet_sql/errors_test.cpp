@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+
+#include "jet/sql/syntax_error.h"
+#include "small_image.h"
+
+namespace jet::sql::test {
+namespace {
+
+struct Case {
+  const char* statement;
+  const char* error;
+};
+
+TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
+  const Case cases[] = {
+      {"", "error 3129 at 0"},
+      {"SELEKT * FROM soci", "error 3129 at 0"},
+      {"SELECT", "error 3141 at 6"},
+      {"SELECT FROM soci", "error 3141 at 7"},
+      {"SELECT id, FROM soci", "error 3141 at 11"},
+      {"SELECT * FORM soci", "error 3141 at 9"},
+      {"SELECT id nome FROM soci", "error 3075 at 10"},
+      {"SELECT id FROM", "error 3131 at 14"},
+      {"SELECT id FROM soci WHERE", "error 3075 at 25"},
+      {"SELECT id FROM soci WHERE id = ", "error 3075 at 31"},
+      {"SELECT id FROM soci WHERE (id = 1", "error 3075 at 33"},
+      {"SELECT id FROM soci WHERE nome = 'è' 'x'", "error 3075 at 37"},
+      {"SELECT id FROM soci WHERE nome = 'aperto", "error 3075 at 33"},
+      {"SELECT id FROM soci WHERE data = #31/31/2000#", "error 3075 at 33"},
+      {"SELECT id FROM [soci", "error 3075 at 15"},
+      {"SELECT id FROM soci WHERE id = 1 ? 2", "error 3075 at 33"},
+      {"SELECT id FROM soci INNER pagamenti ON 1 = 1", "error 3131 at 26"},
+      {"SELECT id FROM soci INNER JOIN pagamenti", "error 3131 at 40"},
+      {"SELECT id FROM soci s t", "error 3131 at 22"},
+      {"SELECT id FROM soci ORDER BY", "error 3138 at 28"},
+      {"SELECT id FROM soci ORDER BY 7", "error 3138 at 29"},
+      {"SELECT id FROM soci; SELECT", "error 3142 at 21"},
+      {"SELECT id FROM ignota", "error 3078 at 15"},
+      {"SELECT id FROM infinita", "error 3360 at 14"},
+      {"SELECT ignota.* FROM soci", "error 3078 at 7"},
+      {"SELECT id FROM soci, pagamenti", "error 3079 at 7"},
+      {"SELECT nome, Count(*) FROM soci", "error 3122 at 7"},
+      {"SELECT * FROM soci GROUP BY id", "error 3122 at 7"},
+      {"SELECT nome & 'x' FROM soci GROUP BY nome & 'y'", "error 3122 at 7"},
+      {"SELECT id FROM soci GROUP BY id ORDER BY nome", "error 3122 at 41"},
+      {"SELECT id FROM soci WHERE Count(*) > 1", "error 3096 at 26"},
+      {"SELECT Ignota(id) FROM soci", "error 3085 at 7"},
+      {"SELECT Left(nome) FROM soci", "error 3085 at 7"},
+      {"SELECT DISTINCT id FROM soci ORDER BY nome", "error 3093 at 38"},
+      {"SELECT id FROM soci UNION SELECT id, nome FROM soci", "error 3307 at 33"},
+      {"SELECT id FROM soci WHERE id IN (SELECT id, nome FROM soci)", "error 3306 at 26"},
+      {"SELECT id FROM soci WHERE nome = 5", "error 3464 at 26"},
+      {"PARAMETERS p Testo; SELECT 1", "error 3139 at 13"},
+      {"PARAMETERS p Text SELECT 1", "error 3139 at 18"},
+      {"UPDATE SET nome = 1", "error 3144 at 7"},
+      {"UPDATE soci nome = 1", "error 3144 at 17"},
+      {"UPDATE soci SET nome 1", "error 3144 at 21"},
+      {"UPDATE soci SET ignoto = 1", "error 3061 at 16"},
+      {"UPDATE soci s, pagamenti p SET s.id = 1, p.id = 1", "error 3073 at 41"},
+      {"DELETE soci", "error 3128 at 11"},
+      {"DELETE FROM soci, pagamenti", "error 3128 at 12"},
+      {"INSERT soci VALUES (1)", "error 3134 at 7"},
+      {"INSERT INTO soci (id VALUES (1)", "error 3134 at 21"},
+      {"INSERT INTO soci (ignoto) VALUES (1)", "error 3127 at 18"},
+      {"INSERT INTO soci SELECT 1 AS ignoto", "error 3127 at 12"},
+      {"INSERT INTO soci (id, nome) VALUES (1)", "error 3346 at 12"},
+      {"CREATE TABLE t id LONG", "error 3290 at 15"},
+      {"CREATE TABLE t (id NIENTE)", "error 3292 at 19"},
+      {"CREATE TABLE t (id TEXT(300))", "error 3292 at 19"},
+      {"CREATE TABLE t (id LONG CONSTRAINT k)", "error 3289 at 36"},
+      {"CREATE INDEX i t (a)", "error 3291 at 15"},
+      {"CREATE INDEX i ON t (a) WITH NULL", "error 3291 at 29"},
+      {"DROP QUERY x", "error 3295 at 5"},
+      {"DROP INDEX i", "error 3295 at 12"},
+  };
+  SmallImage image;
+  for (const Case& row : cases) EXPECT_EQ(image.run(row.statement), row.error) << row.statement;
+}
+
+TEST(Errors, AnswerAnyDepthOfNesting) {
+  SmallImage image;
+  const auto repeat = [](const std::string& piece, int count) {
+    std::string text;
+    while (count-- > 0) text += piece;
+    return text;
+  };
+  const auto number = [&](const std::string& statement) { return image.run(statement).substr(0, 10); };
+  for (const char* opening : {"(", "NOT ", "-", "Abs(", "1 IN (SELECT ", "(SELECT ", "IIf(1,1,", "1 + ("}) {
+    EXPECT_EQ(number("SELECT " + repeat(opening, 50000)), "error 3360") << opening;
+  }
+  EXPECT_EQ(number("SELECT id FROM " + repeat("(", 50000)), "error 3360");
+  EXPECT_EQ(number("SELECT 1" + repeat(" + 1", 50000)), "error 3360");
+  EXPECT_EQ(number("SELECT id FROM soci" + repeat(" INNER JOIN soci ON True", 5000)), "error 3360");
+  EXPECT_EQ(number("SELECT " + repeat("Abs(", 90) + "1" + repeat(")", 90)), "error 3360");
+  std::string doubling = "SELECT id + id AS a0";
+  for (int i = 1; i < 40; ++i) {
+    const std::string before = "a" + std::to_string(i - 1);
+    doubling += ", " + before + " + " + before + " AS a" + std::to_string(i);
+  }
+  EXPECT_EQ(number(doubling + " FROM soci"), "error 3360");
+  EXPECT_EQ(image.run("SELECT id FROM soci WHERE id = 0" + repeat(" OR id = 2", 300)), "2");
+}
+
+TEST(Errors, NameWhatTheyStumbledOver) {
+  const SmallImage image;
+  try {
+    image.compileRows("SELECT id FROM soci WHERE id == 1");
+    FAIL();
+  } catch (const SyntaxError& error) {
+    EXPECT_NE(error.description().find("'='"), std::string::npos) << error.description();
+  }
+}
+
+/// Any beginning of a statement, and any of it with one character gone, is compiled or is a numbered error.
+TEST(Errors, MeetNoBrokenStatementUnprepared) {
+  const std::string whole =
+      "PARAMETERS p Text(5); SELECT TOP 2 s.*, IIf(s.nome LIKE 'a*', -1, Count(*)) AS x FROM (soci AS s LEFT "
+      "JOIN "
+      "pagamenti ON s.id = pagamenti.socio) WHERE [Set] NOT IN ('A', \"B\") AND data BETWEEN #1/1/2000# AND "
+      "p "
+      "GROUP BY s.nome HAVING Sum(importo) > 1.5E2 ORDER BY 1 DESC;";
+  const SmallImage image;
+  int errors = 0;
+  const auto tryOut = [&](const std::string& text) {
+    try {
+      compile(text, image);
+    } catch (const runtime::Error& error) {
+      EXPECT_GT(error.number(), 0);
+      ++errors;
+    }
+  };
+  for (std::size_t i = 0; i < whole.size(); ++i) {
+    tryOut(whole.substr(0, i));
+    tryOut(whole.substr(i));
+    tryOut(whole.substr(0, i) + whole.substr(i + 1));
+  }
+  EXPECT_GT(errors, 500);
+}
+
+TEST(Definitions, SayWhatIsToBeMade) {
+  const SmallImage image;
+  const auto create = std::get<CreateTable>(compile(
+      "CREATE TABLE tmpStampa ( ID Counter CONSTRAINT PrimaryKey PRIMARY KEY, Nome Text(2), Tutto Text, "
+      "Peso Decimal(10, 3) NOT NULL, Flag Bit, CONSTRAINT Unico UNIQUE (Nome, Flag))",
+      image));
+  ASSERT_EQ(create.columns.size(), 5u);
+  EXPECT_TRUE(create.columns[0].autoNumber);
+  EXPECT_EQ(create.columns[0].type, file::ColumnType::Long);
+  EXPECT_EQ(create.columns[1].size, 2);
+  EXPECT_EQ(create.columns[2].size, 255);
+  EXPECT_EQ(create.columns[3].precision, 10);
+  EXPECT_EQ(create.columns[3].scale, 3);
+  EXPECT_TRUE(create.columns[3].notNull);
+  EXPECT_EQ(create.columns[4].type, file::ColumnType::Boolean);
+  ASSERT_EQ(create.indexes.size(), 2u);
+  EXPECT_TRUE(create.indexes[0].primary);
+  EXPECT_EQ(create.indexes[0].name, "PrimaryKey");
+  EXPECT_EQ(create.indexes[0].columns[0].column, "ID");
+  EXPECT_EQ(create.indexes[1].columns.size(), 2u);
+
+  const auto index =
+      std::get<CreateIndex>(compile("CREATE INDEX i ON t (a, b DESC) WITH IGNORE NULL", image));
+  EXPECT_TRUE(index.ignoreNull);
+  EXPECT_FALSE(index.unique);
+  EXPECT_FALSE(index.columns[1].ascending);
+  EXPECT_EQ(std::get<DropTable>(compile("DROP TABLE [a b];", image)).table, "a b");
+  EXPECT_EQ(std::get<DropIndex>(compile("DROP INDEX i ON t", image)).name, "i");
+}
+
+}  // namespace
+}  // namespace jet::sql::test

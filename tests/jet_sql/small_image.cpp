@@ -1,0 +1,189 @@
+#include "small_image.h"
+
+#include <gtest/gtest.h>
+
+#include "jet/file/text_key.h"
+#include "jet/sql/function_support.h"
+#include "jet/sql/parser/parser.h"
+#include "jet/sql/syntax_error.h"
+#include "jet/sql/tree/print.h"
+
+namespace jet::sql::test {
+
+namespace {
+
+using file::ColumnType;
+
+struct ColumnRow {
+  const char* name;
+  ColumnType type;
+  std::uint16_t length = 0;
+};
+
+file::TableDefinition makeTable(std::uint32_t page, const char* name, const std::vector<ColumnRow>& rows) {
+  file::TableDefinition table;
+  table.page = page;
+  table.name = name;
+  for (const ColumnRow& row : rows) {
+    file::Column column;
+    column.name = row.name;
+    column.type = row.type;
+    column.number = column.position = static_cast<std::uint16_t>(table.columns.size());
+    column.length = row.length;
+    column.precision = 10;
+    column.scale = 2;
+    table.columns.push_back(column);
+  }
+  return table;
+}
+
+const char* declaration(ColumnType type) {
+  switch (typeOf(type)) {
+    case Type::Text:
+    case Type::Memo:
+      return "TEXT COLLATE JET";
+    case Type::Decimal:
+      return "TEXT";
+    case Type::Single:
+    case Type::Double:
+    case Type::Date:
+      return "REAL";
+    case Type::Guid:
+    case Type::Binary:
+    case Type::Ole:
+      return "BLOB";
+    default:
+      return "INTEGER";
+  }
+}
+
+int compare(void*, int leftLength, const void* left, int rightLength, const void* right) {
+  return file::compareText({static_cast<const char*>(left), static_cast<std::size_t>(leftLength)},
+                           {static_cast<const char*>(right), static_cast<std::size_t>(rightLength)});
+}
+
+std::string shown(sqlite3_stmt* statement, int column, Type type) {
+  if (sqlite3_column_type(statement, column) == SQLITE_NULL) return "Null";
+  return readValue(sqlite3_column_value(statement, column), type).toText();
+}
+
+/// Two members and their payments: 1 Anna pays twice, 2 bruno once, 3 Ezio never; one payment has no member.
+constexpr const char* content = R"(
+  INSERT INTO t10 VALUES (1, 'Anna', 'Rossi', 1250000, -1, 38353.0, 'A', 0, 'prima', 1.5, 3),
+                         (2, 'bruno', 'ROSSI', 500000, 0, 38718.75, 'B', -1, NULL, 2.5, 7),
+                         (3, 'Ezio', 'Bianchi', NULL, -1, NULL, NULL, 0, '', NULL, NULL);
+  INSERT INTO t11 VALUES (1, 1, 100000, 39000.0, '10.50'), (2, 1, 255000, 39001.0, '9.25'),
+                         (3, 2, 50000, 39002.0, '100.00'), (4, 9, NULL, NULL, NULL);
+)";
+
+}  // namespace
+
+SmallImage::SmallImage() {
+  sqlite3_open(":memory:", &connection_);
+  sqlite3_create_collation_v2(connection_, "JET", SQLITE_UTF8, nullptr, compare, nullptr);
+  registerFunctions(connection_);
+  add(makeTable(10, "soci",
+                {{"id", ColumnType::Long},
+                 {"nome", ColumnType::Text, 20},
+                 {"cognome", ColumnType::Text, 60},
+                 {"quota", ColumnType::Currency},
+                 {"attivo", ColumnType::Boolean},
+                 {"iscritto", ColumnType::Date},
+                 {"Set", ColumnType::Text, 2},
+                 {"legge494/96", ColumnType::Boolean},
+                 {"Note", ColumnType::Memo},
+                 {"altezza", ColumnType::Double},
+                 {"livello", ColumnType::Integer}}));
+  add(makeTable(11, "pagamenti",
+                {{"id", ColumnType::Long},
+                 {"socio", ColumnType::Long},
+                 {"importo", ColumnType::Currency},
+                 {"data", ColumnType::Date},
+                 {"peso", ColumnType::Numeric}}));
+  add(makeTable(12, "tipi",
+                {{"uno", ColumnType::Byte},
+                 {"mezzo", ColumnType::Single},
+                 {"chiave", ColumnType::Guid},
+                 {"dati", ColumnType::Binary, 4},
+                 {"nome", ColumnType::Text, 20}}));
+  execute(content);
+}
+
+void SmallImage::add(file::TableDefinition table) {
+  std::string columns;
+  for (const file::Column& column : table.columns) {
+    columns +=
+        (columns.empty() ? "c" : ", c") + std::to_string(column.number) + " " + declaration(column.type);
+  }
+  execute("CREATE TABLE t" + std::to_string(table.page) + " (" + columns + ")");
+  tables_.push_back(std::move(table));
+}
+
+void SmallImage::execute(const std::string& sql) {
+  if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+    throw std::runtime_error(sqlite3_errmsg(connection_));
+  }
+}
+
+const file::TableDefinition* SmallImage::findTable(std::string_view name) const {
+  for (const file::TableDefinition& table : tables_) {
+    if (file::sameName(table.name, name)) return &table;
+  }
+  return nullptr;
+}
+
+std::optional<std::string> SmallImage::findQuery(std::string_view name) const {
+  if (name == "attivi")
+    return "PARAMETERS minimo Currency; SELECT id, nome AS chi FROM soci WHERE quota >= minimo;";
+  if (name == "infinita") return "SELECT * FROM infinita;";
+  return std::nullopt;
+}
+
+void expectPrintsBack(const std::string& text) {
+  const tree::Statement statement = parse(text);
+  const std::string printed = tree::print(statement);
+  EXPECT_TRUE(statement == parse(printed)) << text << "\nprinted as: " << printed;
+}
+
+std::string SmallImage::run(const std::string& text, const std::vector<std::string>& answers) {
+  try {
+    const RowStatement statement = compileRows(text);
+    expectPrintsBack(text);
+    return step(statement, answers);
+  } catch (const SyntaxError& error) {
+    return "error " + std::to_string(error.number()) + " at " + std::to_string(error.position());
+  } catch (const runtime::Error& error) {
+    return "error " + std::to_string(error.number());
+  }
+}
+
+std::string SmallImage::step(const RowStatement& statement, const std::vector<std::string>& answers) {
+  std::string sql = statement.sql;
+  for (std::size_t i = answers.size(); i > 0; --i) {
+    const std::string mark = "?" + std::to_string(i);
+    for (auto at = sql.find(mark); at != std::string::npos; at = sql.find(mark)) {
+      sql.replace(at, mark.size(), answers[i - 1]);
+    }
+  }
+  sqlite3_stmt* prepared = nullptr;
+  if (sqlite3_prepare_v2(connection_, sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK) {
+    throw errorFromSqlite(connection_);
+  }
+  std::string result;
+  int code = 0;
+  while ((code = sqlite3_step(prepared)) == SQLITE_ROW) {
+    if (!result.empty()) result += "; ";
+    for (std::size_t i = 0; i < statement.columns.size(); ++i) {
+      result += (i ? "|" : "") + shown(prepared, static_cast<int>(i), statement.columns[i].type);
+    }
+  }
+  if (code == SQLITE_DONE && statement.kind != RowStatement::Kind::Select) {
+    result = std::to_string(sqlite3_changes(connection_));
+  }
+  const auto error = errorFromSqlite(connection_);
+  sqlite3_finalize(prepared);
+  if (code != SQLITE_DONE) throw error;
+  return result;
+}
+
+}  // namespace jet::sql::test
