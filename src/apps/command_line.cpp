@@ -9,20 +9,23 @@ namespace apps {
 namespace {
 
 /// Kinds of parse errors with their Italian beginning; the parser's own text names the option.
-const std::map<std::string, std::string> sentences = {
-    {"RequiredError", "manca un argomento"},    {"ArgumentMismatch", "numero di valori errato"},
-    {"ConversionError", "valore non valido"},   {"ValidationError", "valore non valido"},
-    {"ExcludesError", "opzioni incompatibili"}, {"RequiresError", "manca un'opzione"},
-    {"OptionNotFound", "opzione non prevista"},
+const std::map<CLI::ExitCodes, std::string> sentences = {
+    {CLI::ExitCodes::RequiredError, "manca un argomento"},
+    {CLI::ExitCodes::ArgumentMismatch, "numero di valori errato"},
+    {CLI::ExitCodes::ConversionError, "valore non valido"},
+    {CLI::ExitCodes::ValidationError, "valore non valido"},
+    {CLI::ExitCodes::ExcludesError, "opzioni incompatibili"},
+    {CLI::ExitCodes::RequiresError, "manca un'opzione"},
 };
 
 std::string sentenceFor(const CLI::App& app, const CLI::ParseError& error) {
-  if (error.get_name() == "ExtrasError") {
+  const auto kind = static_cast<CLI::ExitCodes>(error.get_exit_code());
+  if (kind == CLI::ExitCodes::ExtrasError) {
     std::string list;
     for (const auto& argument : app.remaining()) list += " " + argument;
     return "argomento non previsto:" + list;
   }
-  const auto found = sentences.find(error.get_name());
+  const auto found = sentences.find(kind);
   return (found == sentences.end() ? "uso errato" : found->second) + " (" + error.what() + ")";
 }
 

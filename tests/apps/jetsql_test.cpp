@@ -192,7 +192,7 @@ TEST_F(Jetsql, WrongUsageIsToldApart) {
     const char* expected;
   } cases[] = {
       {"", 64, "manca un argomento"},
-      {"--nessuna x.mdb", 64, "--nessuna"},
+      {"--nessuna x.mdb", 64, "argomento non previsto: --nessuna"},
       {"--create --readonly x.mdb", 64, "incompatibili"},
       {"--help", 0, ".relations"},
       {"--version", 0, "jetsql "},

@@ -69,6 +69,7 @@ class Faults : public testing::Test {
 TEST_F(Faults, ACallThatFailsLosesNothingAndIsNeverReportedAsSuccess) {
   constexpr DiskFault kinds[] = {DiskFault::Io, DiskFault::NoSpace, DiskFault::AccessDenied,
                                  DiskFault::Sharing};
+  int runs = 0;
   for (const Faulty duration : {Faulty::Once, Faulty::FromThenOn}) {
     bool hit = true;
     for (std::uint64_t n = 1; hit; ++n) {
@@ -77,6 +78,7 @@ TEST_F(Faults, ACallThatFailsLosesNothingAndIsNeverReportedAsSuccess) {
         if (n <= backupBegins_ && kind != n % std::size(kinds)) continue;
         SCOPED_TRACE(testing::Message() << "call " << n << " kind " << kind << " from then on "
                                         << (duration == Faulty::FromThenOn));
+        ++runs;
         reset();
         const int told = support::runInChild([&] {
           support::FailNth fault(n, kinds[kind], duration);
@@ -104,6 +106,7 @@ TEST_F(Faults, ACallThatFailsLosesNothingAndIsNeverReportedAsSuccess) {
       }
     }
   }
+  RecordProperty("runs", runs);
 }
 
 TEST_F(Faults, ADeathAtAnyCallLeavesTheOldFileOrTheNewOne) {

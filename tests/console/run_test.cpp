@@ -97,7 +97,7 @@ enum class Target { Old, Renamed, Other };
 struct Fault {
   DiskFault fault = DiskFault::Io;
   int operation = -1;
-  const char* file = nullptr;
+  const char* file = "";
   const char* phase = "";
 };
 
@@ -200,7 +200,7 @@ TEST(Run, EndsInEveryWayAsItShould) {
     window.desktop.setEventsHook(changing(window, end.meanwhile));
     {
       OnDisk faults([&](const DiskCall& call) {
-        if (end.fault.file && names(call, end.fault.file) && holds(window.summary(), end.fault.phase) &&
+        if (*end.fault.file && names(call, end.fault.file) && holds(window.summary(), end.fault.phase) &&
             (end.fault.operation == -1 || end.fault.operation == static_cast<int>(call.operation)))
           throw DiskError(end.fault.fault, call.path);
       });

@@ -138,7 +138,7 @@ TEST(Choice, ByHandIsOfferedBySettingAndKeepsItsText) {
   form.LeggiDatabaseScelto();
   EXPECT_EQ(form.PercorsoDatabase, office.target);
   EXPECT_EQ(common::NomeApplicazione, "collgeometri");
-  form.lstDatabase.pick(0);
+  form.lstDatabase.setListIndex(0);
   form.LeggiDatabaseScelto();
   EXPECT_EQ(form.PercorsoDatabase, "");
   EXPECT_EQ(common::NomeApplicazione, "");

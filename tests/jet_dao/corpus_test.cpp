@@ -78,20 +78,24 @@ std::optional<runtime::Variant> otherValue(int type) {
   }
 }
 
-/// Changes a value that no index holds in the first row of the first user table that has one.
-std::optional<Changed> changeOneRow(Database& db) {
+/// Changes a value that no unique index and no relation holds in the first row of the first user table that has one.
+/// `any`: whether there was any row to change.
+std::optional<Changed> changeOneRow(Database& db, bool& any) {
+  any = false;
   for (const auto& name : db.tableNames()) {
     if (name.starts_with("MSys")) continue;
     const auto table = db.TableDefs(name);
     const auto rows = db.OpenRecordset(name);
     if (rows->atEnd()) continue;
-    std::set<std::string> indexed;
+    any = true;
+    std::set<std::string> bound;
     for (const auto& index : table->Indexes())
-      for (const auto& part : index.Fields) indexed.insert(part.name);
+      for (const auto& part : index.Fields)
+        if (index.Unique || index.Foreign) bound.insert(part.name);
     for (std::size_t i = 0; i < table->fieldCount(); ++i) {
       auto field = rows->Fields(i);
       const auto value = otherValue(field.Type());
-      if (!value || indexed.contains(field.Name())) continue;
+      if (!value || bound.contains(field.Name())) continue;
       rows->Edit();
       field.setValue(*value);
       rows->Update();
@@ -113,10 +117,11 @@ TEST(Corpus, OneChangedRowLeavesEveryOtherTableAsItWas) {
     Workspace workspace;
     const auto db = workspace.OpenDatabase(copy, true);
     auto tables = db->tableNames();
-    const auto changed = changeOneRow(*db);
+    bool any = false;
+    const auto changed = changeOneRow(*db, any);
     db->Close();
     if (!changed) {
-      unchanged += file + " ";
+      if (any) unchanged += file + " ";
       continue;
     }
     std::erase(tables, changed->table);
@@ -129,7 +134,7 @@ TEST(Corpus, OneChangedRowLeavesEveryOtherTableAsItWas) {
     EXPECT_EQ(differences(withSecondReader(original, {changed->table}), withSecondReader(copy, {changed->table})),
               changed->table + " ");
   }
-  EXPECT_EQ(unchanged, "") << "files without a row to change";
+  EXPECT_EQ(unchanged, "") << "files with rows, none of which could be changed";
 }
 
 TEST(Corpus, ACompactCopyReadsTheSame) {

@@ -123,14 +123,10 @@ void KeysetRecordset::Update() {
              image::columnName(columns_[field]) + " = ?" + std::to_string(field + 1);
     sql += " WHERE rowid = " + std::to_string(keys_[static_cast<std::size_t>(position_)]);
   } else {
-    // A Boolean that is not given is false, as it can't be null.
     std::string names, values;
-    for (const auto& each : table.columns) {
-      const auto field = std::find(columns_.begin(), columns_.end(), each.number) - columns_.begin();
-      const bool known = static_cast<std::size_t>(field) < columns_.size() && edits_[static_cast<std::size_t>(field)];
-      if (!known && each.type != file::ColumnType::Boolean) continue;
-      names += (names.empty() ? "" : ", ") + image::columnName(each.number);
-      values += (values.empty() ? "" : ", ") + (known ? "?" + std::to_string(field + 1) : std::string("0"));
+    for (const auto field : given) {
+      names += (names.empty() ? "" : ", ") + image::columnName(columns_[field]);
+      values += (values.empty() ? "?" : ", ?") + std::to_string(field + 1);
     }
     sql = "INSERT INTO " + image::tableName(page()) +
           (names.empty() ? " DEFAULT VALUES" : "(" + names + ") VALUES (" + values + ")");

@@ -125,6 +125,7 @@ T narrowed(std::int64_t value, const file::TableDefinition& table, const file::C
 
 const char* columnDeclaration(ColumnType type) {
   switch (type) {
+    case ColumnType::Boolean: return "INTEGER DEFAULT 0";  // never null
     case ColumnType::Single: case ColumnType::Double: case ColumnType::Date: return "REAL";
     case ColumnType::Text: case ColumnType::Memo: return "TEXT COLLATE JET";
     case ColumnType::Numeric: return "TEXT";
