@@ -103,7 +103,7 @@ void streamSummary(controls::TextBox& summary, std::ostream& out) {
 
 int exitStatus(const Corsa& run) {
   if (run.esito <= Esito::ApertoAltrove) return Refused;
-  if (run.esito == Esito::Completata && !run.erroreTrattenuto) return Done;
+  if (run.esito == Esito::Completata && !run.erroreInChiusura && !run.erroreTrattenuto) return Done;
   return isAsItWas(run) ? FailedUnchanged : FailedChanged;
 }
 

@@ -19,9 +19,28 @@ using support::Faulty;
 /// What a child tells by its exit status.
 enum Told : int { Status = 7, Hit = 8, Tolerated = 16 };
 
+/// An old installation with so much between its tables that each is read by calls of its own.
+std::vector<std::string> spreadInstallation() {
+  std::vector<std::string> statements;
+  int filler = 0;
+  for (const std::string& statement : office::oldInstallation()) {
+    if (statement.starts_with("CREATE TABLE italia") || statement.starts_with("CREATE TABLE ragioniere")) {
+      const std::string table = "riempimento" + std::to_string(++filler);
+      statements.push_back("CREATE TABLE " + table + " (a TEXT(255), b TEXT(255), c TEXT(255), d TEXT(255))");
+      const std::string value = "'" + std::string(255, 'x') + "'";
+      for (int row = 0; row < 200; ++row)
+        statements.push_back("INSERT INTO " + table + " VALUES (" + value + "," + value + "," + value + "," +
+                             value + ")");
+    }
+    statements.push_back(statement);
+  }
+  return statements;
+}
+
 class Faults : public testing::Test {
  protected:
   void SetUp() override {
+    office_.makeTarget(spreadInstallation());
     old_ = platform::readWholeFile(office_.target);
     support::RecordCalls calls;
     {

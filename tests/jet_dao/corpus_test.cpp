@@ -13,7 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Rows of all tables of a file as the format's checker reads them, one line a row, the table's name in front.
+/// Rows of all tables of a file as the format's checker reads them, one line a row, the table's name in
+/// front.
 constexpr char DumpScript[] = R"(
 import argparse, json, sys
 sys.path.insert(0, sys.argv[1])
@@ -28,7 +29,8 @@ for name in sys.argv[3:]:
 
 using Contents = std::map<std::string, std::string>;  // by table
 
-/// Tables that differ, line for line in any order: a row that had moved is given elsewhere by the second reader.
+/// Tables that differ, line for line in any order: a row that had moved is given elsewhere by the second
+/// reader.
 std::string differences(const Contents& before, const Contents& after) {
   const auto lines = [](const std::string& text) {
     std::multiset<std::string> result;
@@ -71,15 +73,23 @@ struct Changed {
 /// A value of a type other than any that the corpus holds; nothing for types that are not tried.
 std::optional<runtime::Variant> otherValue(int type) {
   switch (type) {
-    case dbLong: case dbInteger: case dbDouble: case dbCurrency: return runtime::Variant(std::int32_t{77});
-    case dbText: case dbMemo: return runtime::Variant("à");
-    case dbDate: return runtime::Variant(runtime::Date{77});
-    default: return std::nullopt;
+    case dbLong:
+    case dbInteger:
+    case dbDouble:
+    case dbCurrency:
+      return runtime::Variant(std::int32_t{77});
+    case dbText:
+    case dbMemo:
+      return runtime::Variant("à");
+    case dbDate:
+      return runtime::Variant(runtime::Date{77});
+    default:
+      return std::nullopt;
   }
 }
 
-/// Changes a value that no unique index and no relation holds in the first row of the first user table that has one.
-/// `any`: whether there was any row to change.
+/// Changes a value that no unique index and no relation holds in the first row of the first user table that
+/// has one. `any`: whether there was any row to change.
 std::optional<Changed> changeOneRow(Database& db, bool& any) {
   any = false;
   for (const auto& name : db.tableNames()) {
@@ -131,8 +141,9 @@ TEST(Corpus, OneChangedRowLeavesEveryOtherTableAsItWas) {
     EXPECT_EQ(office::complaints(copy, ""), "");
     EXPECT_EQ(office::query(copy, "SELECT TOP 1 [" + changed->field + "] FROM [" + changed->table + "]"),
               changed->value);
-    EXPECT_EQ(differences(withSecondReader(original, {changed->table}), withSecondReader(copy, {changed->table})),
-              changed->table + " ");
+    EXPECT_EQ(
+        differences(withSecondReader(original, {changed->table}), withSecondReader(copy, {changed->table})),
+        changed->table + " ");
   }
   EXPECT_EQ(unchanged, "") << "files with rows, none of which could be changed";
 }

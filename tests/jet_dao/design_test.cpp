@@ -9,11 +9,14 @@ namespace {
 using office::errorOf;
 
 const std::vector<std::string> EveryType = {
-    "CREATE TABLE Ogni (id COUNTER CONSTRAINT pk PRIMARY KEY, si BIT, b BYTE, i SHORT, l LONG, v CURRENCY, s SINGLE, "
-    "d DOUBLE, q DATETIME, t TEXT(30) NOT NULL, m MEMO, n DECIMAL(10, 3), bin BINARY(8), o LONGBINARY, g GUID)",
+    "CREATE TABLE Ogni (id COUNTER CONSTRAINT pk PRIMARY KEY, si BIT, b BYTE, i SHORT, l LONG, v CURRENCY, s "
+    "SINGLE, "
+    "d DOUBLE, q DATETIME, t TEXT(30) NOT NULL, m MEMO, n DECIMAL(10, 3), bin BINARY(8), o LONGBINARY, g "
+    "GUID)",
     "CREATE UNIQUE INDEX perTesto ON Ogni (t DESC, l)",
     "CREATE INDEX perNumero ON Ogni (n, v)",
-    "INSERT INTO Ogni (si, b, i, l, v, s, d, q, t, m, n) VALUES (TRUE, 255, -32768, 2147483647, 12.3456, 1.5, -0.1, "
+    "INSERT INTO Ogni (si, b, i, l, v, s, d, q, t, m, n) VALUES (TRUE, 255, -32768, 2147483647, 12.3456, "
+    "1.5, -0.1, "
     "#2026-11-16 17:16:00#, 'Niccolò D''Agostino', 'perché', -12.345)",
     "INSERT INTO Ogni (t, l) VALUES ('Ωmega', NULL)",
     "INSERT INTO Ogni (t, l) VALUES ('', 0)",
@@ -24,13 +27,17 @@ TEST(Design, ATableOfEveryTypeComesBackInThreeReaders) {
   const std::string path = folder.path("ogni.mdb");
   office::make(path, EveryType);
   EXPECT_EQ(office::complaints(path), "");
-  const std::string first = "1|Vero|255|-32768|2147483647|12,3456|1,5|-0,1|16/11/2026 17:16:00|Niccolò D'Agostino|"
-                            "perché|-12,345|Null|Null|Null";
-  const std::string others = " 2|Falso|Null|Null|Null|Null|Null|Null|Null|Ωmega|Null|Null|Null|Null|Null"
-                             " 3|Falso|Null|Null|0|Null|Null|Null|Null||Null|Null|Null|Null|Null";
+  const std::string first =
+      "1|Vero|255|-32768|2147483647|12,3456|1,5|-0,1|16/11/2026 17:16:00|Niccolò D'Agostino|"
+      "perché|-12,345|Null|Null|Null";
+  const std::string others =
+      " 2|Falso|Null|Null|Null|Null|Null|Null|Null|Ωmega|Null|Null|Null|Null|Null"
+      " 3|Falso|Null|Null|0|Null|Null|Null|Null||Null|Null|Null|Null|Null";
   EXPECT_EQ(office::query(path, "SELECT * FROM Ogni ORDER BY id"), first + others);
   const auto theirs = office::exported(path, "Ogni");
-  for (const char* field : {"1,1,255,-32768,2147483647,12.3456,1.5,-0.1,\"11/16/26 17:16:00\",\"Niccolò D'Agostino\",\"perché\",-12.345", "\"Ωmega\""})
+  for (const char* field : {"1,1,255,-32768,2147483647,12.3456,1.5,-0.1,\"11/16/26 17:16:00\",\"Niccolò "
+                            "D'Agostino\",\"perché\",-12.345",
+                            "\"Ωmega\""})
     EXPECT_NE(theirs.find(field), std::string::npos) << theirs;
   DBEngine::CompactDatabase(path, folder.path("compatto.mdb"));
   EXPECT_EQ(office::complaints(folder.path("compatto.mdb")), "");
@@ -103,7 +110,8 @@ TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
   db->TableDefs("Ogni")->deleteField("si");
   db->Close();
   EXPECT_EQ(office::complaints(path), "");
-  EXPECT_EQ(office::query(path, "SELECT id, Testo, n FROM Ogni WHERE id = 1"), "1|Niccolò D'Agostino|-12,345");
+  EXPECT_EQ(office::query(path, "SELECT id, Testo, n FROM Ogni WHERE id = 1"),
+            "1|Niccolò D'Agostino|-12,345");
   EXPECT_EQ(office::exported(path, "Ogni").substr(0, 24), "id,b,i,l,v,s,d,q,Testo,n");
 }
 
@@ -151,14 +159,17 @@ TEST(Design, AStoredQueryIsSeenByASecondReader) {
   {
     Workspace workspace;
     const auto db = workspace.OpenDatabase(path, true);
-    db->CreateQueryDef("somme", "SELECT a.y AS nome, Count(*) AS quanti FROM a INNER JOIN b ON a.x = b.x WHERE a.x > 1 "
-                                "GROUP BY a.y HAVING Count(*) > 2 ORDER BY a.y DESC");
+    db->CreateQueryDef(
+        "somme",
+        "SELECT a.y AS nome, Count(*) AS quanti FROM a INNER JOIN b ON a.x = b.x WHERE a.x > 1 "
+        "GROUP BY a.y HAVING Count(*) > 2 ORDER BY a.y DESC");
     EXPECT_EQ(errorOf([&] { db->CreateQueryDef("A", "SELECT * FROM b"); }), 3012);
     EXPECT_EQ(errorOf([&] { db->CreateQueryDef("rotta", "SELECT FROM"); }), 3141);
     db->Close();
   }
   EXPECT_EQ(office::complaints(path), "");
-  // The second reader renders neither joins nor grouping, and bytes only up to a zero; the rows it reads like any.
+  // The second reader renders neither joins nor grouping, and bytes only up to a zero; the rows it reads like
+  // any.
   EXPECT_EQ(support::runCommand("mdb-queries " + office::system(path) + " somme").output,
             "SELECT [a].[y],Count(*) FROM [a],[b] WHERE [a].[x] > 1 ORDER BY [a].[y] DESCENDING\n");
   const auto rows = office::exported(path, "MSysQueries");

@@ -22,17 +22,20 @@ TEST(Locks, AnotherProcessMeetsAnOpenFile) {
   const std::string path = folder.path("a.mdb");
   office::make(path, {"CREATE TABLE t (a LONG)"});
   const LockCase cases[] = {
-      {{true, false}, {true, false}, 3356}, {{true, false}, {false, false}, 3356}, {{true, false}, {false, true}, 3356},
-      {{false, false}, {true, false}, 3356}, {{false, true}, {true, false}, 3356}, {{false, false}, {false, false}, 0},
+      {{true, false}, {true, false}, 3356}, {{true, false}, {false, false}, 3356},
+      {{true, false}, {false, true}, 3356}, {{false, false}, {true, false}, 3356},
+      {{false, true}, {true, false}, 3356}, {{false, false}, {false, false}, 0},
       {{false, true}, {false, true}, 0},
   };
   for (const auto& [first, second, error] : cases) {
     Workspace workspace;
     const auto db = workspace.OpenDatabase(path, first.exclusive, first.readOnly);
     const int seen = support::runInChild([&] {
-      return errorOf([&] { Workspace().OpenDatabase(path, second.exclusive, second.readOnly); }) == 3356 ? 1 : 0;
+      return errorOf([&] { Workspace().OpenDatabase(path, second.exclusive, second.readOnly); }) == 3356 ? 1
+                                                                                                         : 0;
     });
-    EXPECT_EQ(seen, error == 3356 ? 1 : 0) << first.exclusive << first.readOnly << second.exclusive << second.readOnly;
+    EXPECT_EQ(seen, error == 3356 ? 1 : 0)
+        << first.exclusive << first.readOnly << second.exclusive << second.readOnly;
     EXPECT_EQ(errorOf([&] { Workspace().OpenDatabase(path, second.exclusive, second.readOnly); }), error);
   }
 }

@@ -11,7 +11,8 @@
 #include "support/command.h"
 #include "support/temp_folder.h"
 
-/// Small databases for the tests of the data access objects, and second readers that look at what was written.
+/// Small databases for the tests of the data access objects, and second readers that look at what was
+/// written.
 namespace office {
 
 /// A new database at `path` in which `statements` have been carried out.
@@ -50,7 +51,9 @@ inline std::string query(const std::string& path, const std::string& sql) {
   return rows(*db->OpenRecordset(sql, jet::dao::dbOpenSnapshot));
 }
 
-inline std::string system(const std::string& path) { return support::shellWord(platform::toSystemPath(path)); }
+inline std::string system(const std::string& path) {
+  return support::shellWord(platform::toSystemPath(path));
+}
 
 /// A table as mdb-export writes it.
 inline std::string exported(const std::string& path, const std::string& table) {
@@ -66,8 +69,8 @@ inline std::string jetData() {
 /// Complaints of the checker about a file; empty where it is clean, or where the checker is not at hand.
 inline std::string complaints(const std::string& path, const std::string& options = "--strict") {
   if (jetData().empty()) return {};
-  const auto result =
-      support::runCommand("python3 " + support::shellWord(jetData() + "/jet/jetcheck.py") + " " + options + " " + system(path));
+  const auto result = support::runCommand("python3 " + support::shellWord(jetData() + "/jet/jetcheck.py") +
+                                          " " + options + " " + system(path));
   return result.status == 0 ? std::string() : result.output + result.errors;
 }
 

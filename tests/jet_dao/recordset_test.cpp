@@ -26,9 +26,12 @@ struct Kind {
 };
 
 constexpr Kind Kinds[] = {
-    {"t", dbOpenTable, false},          {"t", dbOpenTable, true},
-    {"SELECT * FROM t", dbOpenDynaset, false}, {"SELECT * FROM t ORDER BY a", dbOpenSnapshot, false},
-    {"t", dbOpenForwardOnly, true},     {"SELECT * FROM t", dbOpenForwardOnly, false},
+    {"t", dbOpenTable, false},
+    {"t", dbOpenTable, true},
+    {"SELECT * FROM t", dbOpenDynaset, false},
+    {"SELECT * FROM t ORDER BY a", dbOpenSnapshot, false},
+    {"t", dbOpenForwardOnly, true},
+    {"SELECT * FROM t", dbOpenForwardOnly, false},
 };
 
 TEST_F(Recordsets, EveryKindReadsTheSameRows) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "jet/image/connection.h"
 #include "jet/file/text_key.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/parser/parser.h"
@@ -167,7 +168,7 @@ std::string SmallImage::step(const RowStatement& statement, const std::vector<st
   }
   sqlite3_stmt* prepared = nullptr;
   if (sqlite3_prepare_v2(connection_, sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK) {
-    throw errorFromSqlite(connection_);
+    throw image::errorFromSqlite(connection_);
   }
   std::string result;
   int code = 0;
@@ -180,7 +181,7 @@ std::string SmallImage::step(const RowStatement& statement, const std::vector<st
   if (code == SQLITE_DONE && statement.kind != RowStatement::Kind::Select) {
     result = std::to_string(sqlite3_changes(connection_));
   }
-  const auto error = errorFromSqlite(connection_);
+  const auto error = image::errorFromSqlite(connection_);
   sqlite3_finalize(prepared);
   if (code != SQLITE_DONE) throw error;
   return result;

@@ -9,18 +9,40 @@ enum RecordsetOption : int { dbReadOnly = 4 };
 enum ExecuteOption : int { dbFailOnError = 128 };
 
 enum DataType : int {
-  dbBoolean = 1, dbByte = 2, dbInteger = 3, dbLong = 4, dbCurrency = 5, dbSingle = 6, dbDouble = 7, dbDate = 8,
-  dbBinary = 9, dbText = 10, dbLongBinary = 11, dbMemo = 12, dbGUID = 15, dbDecimal = 20,
+  dbBoolean = 1,
+  dbByte = 2,
+  dbInteger = 3,
+  dbLong = 4,
+  dbCurrency = 5,
+  dbSingle = 6,
+  dbDouble = 7,
+  dbDate = 8,
+  dbBinary = 9,
+  dbText = 10,
+  dbLongBinary = 11,
+  dbMemo = 12,
+  dbGUID = 15,
+  dbDecimal = 20,
 };
 
 enum FieldAttribute : int {
-  dbDescending = 1, dbFixedField = 1, dbVariableField = 2, dbAutoIncrField = 16, dbUpdatableField = 32,
-  dbSystemField = 8192, dbHyperlinkField = 32768,
+  dbDescending = 1,
+  dbFixedField = 1,
+  dbVariableField = 2,
+  dbAutoIncrField = 16,
+  dbUpdatableField = 32,
+  dbSystemField = 8192,
+  dbHyperlinkField = 32768,
 };
 
 enum RelationAttribute : int {
-  dbRelationUnique = 1, dbRelationDontEnforce = 2, dbRelationInherited = 4, dbRelationUpdateCascade = 256,
-  dbRelationDeleteCascade = 4096, dbRelationLeft = 16777216, dbRelationRight = 33554432,
+  dbRelationUnique = 1,
+  dbRelationDontEnforce = 2,
+  dbRelationInherited = 4,
+  dbRelationUpdateCascade = 256,
+  dbRelationDeleteCascade = 4096,
+  dbRelationLeft = 16777216,
+  dbRelationRight = 33554432,
 };
 
 }  // namespace jet::dao

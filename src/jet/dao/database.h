@@ -23,19 +23,21 @@ struct Relation {
   std::vector<Pair> Fields;
 };
 
-/// An open database. Closing it without a transaction saves its changes; inside one, CommitTrans of the workspace
-/// does, also after the close. Error 3420 after Close.
+/// An open database. Closing it without a transaction saves its changes; inside one, CommitTrans of the
+/// workspace does, also after the close. Error 3420 after Close.
 class Database {
  public:
   virtual ~Database() = default;
   virtual const std::string& Name() const = 0;  // its path
 
-  /// `source` is the name of a table or a SELECT. Error 3078 unknown table, 3061 parameters, 3075 and kin syntax.
+  /// `source` is the name of a table or a SELECT. Error 3078 unknown table, 3061 parameters, 3075 and kin
+  /// syntax.
   virtual RecordsetPtr OpenRecordset(const std::string& source, RecordsetType type = dbOpenDynaset,
                                      int options = 0) = 0;
   /// A temporary query where `name` is empty.
   virtual QueryDefPtr CreateQueryDef(const std::string& name, const std::string& sql) = 0;
-  /// Runs a statement that returns no rows: UPDATE, INSERT, DELETE or a change of design. Error 3065 for a SELECT.
+  /// Runs a statement that returns no rows: UPDATE, INSERT, DELETE or a change of design. Error 3065 for a
+  /// SELECT.
   virtual void Execute(const std::string& sql, int options = 0) = 0;
   virtual std::int64_t RecordsAffected() const = 0;  // of the last Execute
 
@@ -48,8 +50,8 @@ class Database {
   virtual std::vector<Relation> Relations() const = 0;
   virtual std::vector<std::string> queryNames() const = 0;
 
-  /// Saves where no transaction holds it back, and lets the file go. An error of the save leaves the old file and
-  /// closes the database all the same.
+  /// Saves where no transaction holds it back, and lets the file go. An error of the save leaves the old file
+  /// and closes the database all the same.
   virtual void Close() = 0;
 };
 using DatabasePtr = std::shared_ptr<Database>;

@@ -121,7 +121,8 @@ void Workspace::CommitTrans(int) {
     --state_->depth;
     return;
   }
-  // A session that is saved leaves the transaction at once, so that a failure behind it takes back only the rest.
+  // A session that is saved leaves the transaction at once, so that a failure behind it takes back only the
+  // rest.
   for (const auto& session : std::vector(state_->sessions)) {
     if (session->image().depth() == 0) continue;
     session->save();

@@ -43,8 +43,8 @@ class DBEngine {
   /// The default workspace (index 0, the only one).
   static std::shared_ptr<Workspace> Workspaces(int index);
   static DatabasePtr OpenDatabase(const std::string& path, bool exclusive = false, bool readOnly = false);
-  /// Writes a compact copy of `source` to `destination`. Error 3204 if the destination is there, 3356 while the
-  /// source is open anywhere; a failure leaves no destination.
+  /// Writes a compact copy of `source` to `destination`. Error 3204 if the destination is there, 3356 while
+  /// the source is open anywhere; a failure leaves no destination.
   static void CompactDatabase(const std::string& source, const std::string& destination);
 };
 

@@ -14,8 +14,9 @@ class FieldOwner {
   virtual ~FieldOwner() = default;
   virtual std::string fieldName(std::size_t index) const = 0;
   virtual void renameField(std::size_t index, const std::string& name) = 0;
-  virtual int fieldType(std::size_t index) const = 0;        // DataType
-  virtual int fieldSize(std::size_t index) const = 0;        // text: characters; binary: bytes; else bytes of the type
+  virtual int fieldType(std::size_t index) const = 0;  // DataType
+  virtual int fieldSize(
+      std::size_t index) const = 0;  // text: characters; binary: bytes; else bytes of the type
   virtual int fieldAttributes(std::size_t index) const = 0;  // FieldAttribute bits
   virtual runtime::Variant fieldValue(std::size_t index) const = 0;
   virtual void setFieldValue(std::size_t index, const runtime::Variant& value) = 0;
@@ -34,7 +35,8 @@ class Field {
   int Attributes() const { return owner_->fieldAttributes(index_); }
   /// Value in the current record. Error 3021 without one, 3219 in a TableDef.
   runtime::Variant Value() const { return owner_->fieldValue(index_); }
-  /// Sets it in the record that is edited or added. Error 3020 without Edit or AddNew, 3421 if it doesn't convert.
+  /// Sets it in the record that is edited or added. Error 3020 without Edit or AddNew, 3421 if it doesn't
+  /// convert.
   void setValue(const runtime::Variant& value) { owner_->setFieldValue(index_, value); }
 
  private:

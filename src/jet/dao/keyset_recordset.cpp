@@ -13,9 +13,9 @@ constexpr char Source[] = "DAO.Recordset";
 }  // namespace
 
 bool hasKeyset(const sql::RowStatement& plan) {
-  return plan.rowKeys == 1 && std::all_of(plan.columns.begin(), plan.columns.end(), [](const sql::ResultColumn& column) {
-           return !column.sourceColumn.empty();
-         });
+  return plan.rowKeys == 1 &&
+         std::all_of(plan.columns.begin(), plan.columns.end(),
+                     [](const sql::ResultColumn& column) { return !column.sourceColumn.empty(); });
 }
 
 KeysetRecordset::KeysetRecordset(std::shared_ptr<Session> session, sql::RowStatement plan, Answers answers,
@@ -40,7 +40,8 @@ void KeysetRecordset::fill() {
   std::string sql = "SELECT ";
   for (const auto number : columns_) sql += image::columnName(number) + ",";
   sql.back() = ' ';
-  fetch_ = runner.image().connection().prepare(sql + "FROM " + image::tableName(page()) + " WHERE rowid = ?1");
+  fetch_ =
+      runner.image().connection().prepare(sql + "FROM " + image::tableName(page()) + " WHERE rowid = ?1");
   restart();
 }
 
@@ -75,8 +76,7 @@ runtime::Variant KeysetRecordset::fieldValue(std::size_t index) const {
 
 void KeysetRecordset::setFieldValue(std::size_t index, const runtime::Variant& value) {
   requireOpen();
-  if (mode_ == Mode::Browse)
-    throw runtime::Error(3020, Source, "Update o CancelUpdate senza AddNew o Edit");
+  if (mode_ == Mode::Browse) throw runtime::Error(3020, Source, "Update o CancelUpdate senza AddNew o Edit");
   edits_[index] = value;
 }
 
@@ -148,7 +148,8 @@ void KeysetRecordset::Delete() {
   auto& image = session_->image();
   fetch_.reset();
   image.prepareToChange(page(), {});
-  auto statement = image.connection().prepare("DELETE FROM " + image::tableName(page()) + " WHERE rowid = ?1");
+  auto statement =
+      image.connection().prepare("DELETE FROM " + image::tableName(page()) + " WHERE rowid = ?1");
   statement.bind(1, keys_[static_cast<std::size_t>(position_)]);
   statement.run();
   image.markChanged(page());

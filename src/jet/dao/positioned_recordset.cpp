@@ -40,14 +40,17 @@ void PositionedRecordset::MovePrevious() {
   moveTo(position_ - 1);
 }
 
-SnapshotRecordset::SnapshotRecordset(std::shared_ptr<Session> session, sql::RowStatement plan, Answers answers)
+SnapshotRecordset::SnapshotRecordset(std::shared_ptr<Session> session, sql::RowStatement plan,
+                                     Answers answers)
     : PositionedRecordset(session, resultFields(plan, session->runner())),
       plan_(std::move(plan)),
       answers_(std::move(answers)) {
   fill();
 }
 
-SnapshotRecordset::~SnapshotRecordset() { drop(); }
+SnapshotRecordset::~SnapshotRecordset() {
+  drop();
+}
 
 void SnapshotRecordset::fill() {
   static std::uint64_t number = 0;
@@ -71,8 +74,8 @@ void SnapshotRecordset::drop() {
   fetch_ = {};
   if (table_.empty() || session_->released()) return;
   // A scratch table that can't be dropped goes with the connection.
-  sqlite3_exec(session_->image().connection().handle(), ("DROP TABLE IF EXISTS " + table_).c_str(), nullptr, nullptr,
-               nullptr);
+  sqlite3_exec(session_->image().connection().handle(), ("DROP TABLE IF EXISTS " + table_).c_str(), nullptr,
+               nullptr, nullptr);
   table_.clear();
 }
 

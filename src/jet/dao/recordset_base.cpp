@@ -28,20 +28,30 @@ Field RecordsetBase::Fields(std::string_view name) {
   throw runtime::Error(3265, "DAO.Fields", "Elemento inesistente nell'insieme: " + std::string(name));
 }
 
-void RecordsetBase::renameField(std::size_t, const std::string&) { invalidOperation(); }
+void RecordsetBase::renameField(std::size_t, const std::string&) {
+  invalidOperation();
+}
 
-int RecordsetBase::fieldType(std::size_t index) const { return dataType(fields_[index].type); }
+int RecordsetBase::fieldType(std::size_t index) const {
+  return dataType(fields_[index].type);
+}
 
-void RecordsetBase::setFieldValue(std::size_t, const runtime::Variant&) { refuseChange(); }
+void RecordsetBase::setFieldValue(std::size_t, const runtime::Variant&) {
+  refuseChange();
+}
 
 void RecordsetBase::requireOpen() const {
   if (!open_ || session_->released() || session_->closed)
     throw runtime::Error(3420, Source, "Oggetto non valido: il recordset è chiuso");
 }
 
-void RecordsetBase::noCurrentRecord() { throw runtime::Error(3021, Source, "Nessun record corrente"); }
+void RecordsetBase::noCurrentRecord() {
+  throw runtime::Error(3021, Source, "Nessun record corrente");
+}
 
-void RecordsetBase::invalidOperation() { throw runtime::Error(3219, Source, "Operazione non valida"); }
+void RecordsetBase::invalidOperation() {
+  throw runtime::Error(3219, Source, "Operazione non valida");
+}
 
 void RecordsetBase::refuseChange() const {
   requireOpen();

@@ -16,9 +16,11 @@ struct FieldInfo {
   int size = 0, attributes = 0;
 };
 
-/// Fields and state that all recordsets share; the cursor is the derived classes' business. Those that can't be
-/// changed refuse every edit.
-class RecordsetBase : public Recordset, public FieldOwner, public std::enable_shared_from_this<RecordsetBase> {
+/// Fields and state that all recordsets share; the cursor is the derived classes' business. Those that can't
+/// be changed refuse every edit.
+class RecordsetBase : public Recordset,
+                      public FieldOwner,
+                      public std::enable_shared_from_this<RecordsetBase> {
  public:
   RecordsetBase(std::shared_ptr<Session> session, std::vector<FieldInfo> fields)
       : session_(std::move(session)), fields_(std::move(fields)) {}

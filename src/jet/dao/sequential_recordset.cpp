@@ -26,7 +26,9 @@ void SequentialRecordset::MoveNext() {
   if (onRecord_) ++visited_;
 }
 
-void SequentialRecordset::MoveLast() { invalidOperation(); }
+void SequentialRecordset::MoveLast() {
+  invalidOperation();
+}
 
 void SequentialRecordset::Requery() {
   requireOpen();
@@ -34,7 +36,8 @@ void SequentialRecordset::Requery() {
   start();
 }
 
-ForwardRecordset::ForwardRecordset(std::shared_ptr<Session> session, sql::RowStatement plan, const Answers& answers)
+ForwardRecordset::ForwardRecordset(std::shared_ptr<Session> session, sql::RowStatement plan,
+                                   const Answers& answers)
     : SequentialRecordset(session, resultFields(plan, session->runner())),
       rows_(session->runner().prepare(std::move(plan), answers)) {
   start();
@@ -58,7 +61,9 @@ FileRecordset::FileRecordset(std::shared_ptr<Session> session, std::uint32_t pag
   start();
 }
 
-void FileRecordset::rewind() { reader_.emplace(session_->image().source(), *table_); }
+void FileRecordset::rewind() {
+  reader_.emplace(session_->image().source(), *table_);
+}
 
 runtime::Variant FileRecordset::fieldValue(std::size_t index) const {
   requireOpen();

@@ -20,9 +20,9 @@ class Session {
   image::Image& image();
   StatementRunner& runner();
 
-  /// Writes the file anew if anything changed and goes on over it. On error the old file is as it was, or, where
-  /// only the flush of its folder failed, the new one is there already. Error 3356 while another opener shares the
-  /// file, 3197 if it was replaced meanwhile.
+  /// Writes the file anew if anything changed and goes on over it. On error the old file is as it was, or,
+  /// where only the flush of its folder failed, the new one is there already. Error 3356 while another opener
+  /// shares the file, 3197 if it was replaced meanwhile.
   void save();
   /// Lets go of the file; what is not saved is lost.
   void release();

@@ -30,7 +30,9 @@ sql::RowStatement selection(sql::Statement statement) {
 }
 
 /// `SELECT * FROM [name]`, for a table opened by its name.
-std::string wholeTable(const std::string& name) { return "SELECT * FROM [" + name + "]"; }
+std::string wholeTable(const std::string& name) {
+  return "SELECT * FROM [" + name + "]";
+}
 
 }  // namespace
 
@@ -40,7 +42,8 @@ RecordsetPtr openRows(const std::shared_ptr<Session>& session, const std::string
   if (type == dbOpenDynaset || type == dbOpenTable) {
     auto plan = selection(runner.compile(sql, true));
     if (hasKeyset(plan))
-      return std::make_shared<KeysetRecordset>(session, std::move(plan), answers, (options & dbReadOnly) != 0);
+      return std::make_shared<KeysetRecordset>(session, std::move(plan), answers,
+                                               (options & dbReadOnly) != 0);
   }
   auto plan = selection(runner.compile(sql));
   if (type == dbOpenForwardOnly) return std::make_shared<ForwardRecordset>(session, std::move(plan), answers);

@@ -7,7 +7,8 @@
 
 namespace jet::dao {
 
-/// The Database over a session. `onClose` is the workspace's part of closing: save now, or keep for the commit.
+/// The Database over a session. `onClose` is the workspace's part of closing: save now, or keep for the
+/// commit.
 class SessionDatabase : public Database {
  public:
   SessionDatabase(std::shared_ptr<Session> session, std::function<void(Session&)> onClose)

@@ -45,7 +45,8 @@ void SessionQueryDef::setParameter(std::string_view name, const runtime::Variant
 
 void SessionQueryDef::setParameter(std::size_t index, const runtime::Variant& value) {
   if (index >= parameters().size())
-    throw runtime::Error(3265, "DAO.Parameters", "Elemento inesistente nell'insieme: " + std::to_string(index));
+    throw runtime::Error(3265, "DAO.Parameters",
+                         "Elemento inesistente nell'insieme: " + std::to_string(index));
   answers_[index] = value;
 }
 

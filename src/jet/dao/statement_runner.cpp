@@ -51,8 +51,8 @@ sql::Statement StatementRunner::compile(const std::string& text, bool withRowKey
 }
 
 void StatementRunner::ready(const sql::RowStatement& plan) {
-  const bool onePass =
-      plan.kind == sql::RowStatement::Kind::Select && plan.tables.size() == 1 && plan.tables[0].compared.empty();
+  const bool onePass = plan.kind == sql::RowStatement::Kind::Select && plan.tables.size() == 1 &&
+                       plan.tables[0].compared.empty();
   for (const auto& table : plan.tables) {
     if (table.changed)
       image_.prepareToChange(table.page, table.compared);

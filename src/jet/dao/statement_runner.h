@@ -25,13 +25,16 @@ class StatementRunner : public sql::Schema {
  public:
   explicit StatementRunner(image::Image& image);
 
-  const file::TableDefinition* findTable(std::string_view name) const override { return image_.definition(name); }
+  const file::TableDefinition* findTable(std::string_view name) const override {
+    return image_.definition(name);
+  }
 
   sql::Statement compile(const std::string& text, bool withRowKeys = false) const;
   /// Makes the tables of `plan` ready. Error 3061 while a parameter is not answered.
   PreparedRows prepare(sql::RowStatement plan, const Answers& answers);
   /// The same for `plan` wrapped into another statement (an INSERT that keeps a snapshot).
-  image::Statement prepareInto(const std::string& prefix, const sql::RowStatement& plan, const Answers& answers);
+  image::Statement prepareInto(const std::string& prefix, const sql::RowStatement& plan,
+                               const Answers& answers);
   /// Carries out a statement that returns no rows, whole or not at all; gives the number of rows affected.
   /// Error 3065 for a SELECT.
   std::int64_t execute(const sql::Statement& statement, const Answers& answers);

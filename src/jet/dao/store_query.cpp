@@ -5,8 +5,10 @@ namespace jet::dao {
 
 namespace {
 
-// Columns of MSysQueries (t4): c0 ObjectId, c1 Attribute, c2 Order, c3 Name1, c4 Name2, c5 Expression, c6 Flag.
-constexpr char InsertRow[] = "INSERT INTO t4 (c0, c1, c2, c3, c4, c5, c6) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)";
+// Columns of MSysQueries (t4): c0 ObjectId, c1 Attribute, c2 Order, c3 Name1, c4 Name2, c5 Expression, c6
+// Flag.
+constexpr char InsertRow[] =
+    "INSERT INTO t4 (c0, c1, c2, c3, c4, c5, c6) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)";
 
 void bindOptional(image::Statement& statement, int parameter, const std::optional<std::string>& value) {
   if (value)
@@ -16,8 +18,9 @@ void bindOptional(image::Statement& statement, int parameter, const std::optiona
 }
 
 void insertRow(image::Statement& insert, std::uint32_t id, const sql::QueryRow& row) {
-  const unsigned char order[] = {static_cast<unsigned char>(row.order >> 24), static_cast<unsigned char>(row.order >> 16),
-                                 static_cast<unsigned char>(row.order >> 8), static_cast<unsigned char>(row.order)};
+  const unsigned char order[] = {
+      static_cast<unsigned char>(row.order >> 24), static_cast<unsigned char>(row.order >> 16),
+      static_cast<unsigned char>(row.order >> 8), static_cast<unsigned char>(row.order)};
   insert.bind(1, std::int64_t{static_cast<std::int32_t>(id)});
   insert.bind(2, std::int64_t{row.attribute});
   sqlite3_bind_blob(insert.handle(), 3, order, sizeof order, SQLITE_TRANSIENT);

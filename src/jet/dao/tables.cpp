@@ -7,9 +7,12 @@ namespace jet::dao {
 
 namespace {
 
-class SessionTableDef : public TableDef, public FieldOwner, public std::enable_shared_from_this<SessionTableDef> {
+class SessionTableDef : public TableDef,
+                        public FieldOwner,
+                        public std::enable_shared_from_this<SessionTableDef> {
  public:
-  SessionTableDef(std::shared_ptr<Session> session, std::uint32_t page) : session_(std::move(session)), page_(page) {}
+  SessionTableDef(std::shared_ptr<Session> session, std::uint32_t page)
+      : session_(std::move(session)), page_(page) {}
 
   std::string Name() const override { return design().name; }
   std::size_t fieldCount() const override { return design().columns.size(); }
@@ -58,7 +61,8 @@ class SessionTableDef : public TableDef, public FieldOwner, public std::enable_s
     result.Unique = real.flags & file::RealIndex::Unique;
     result.Required = real.flags & file::RealIndex::Required;
     result.IgnoreNulls = real.flags & file::RealIndex::IgnoreNulls;
-    for (const auto& part : real.columns) result.Fields.push_back({column(part.column).name, !part.ascending});
+    for (const auto& part : real.columns)
+      result.Fields.push_back({column(part.column).name, !part.ascending});
     return result;
   }
   [[noreturn]] static void missing(std::string_view name) {

@@ -6,6 +6,7 @@
 #include "jet/file/text.h"
 #include "jet/file/values.h"
 #include "jet/image/decimal.h"
+#include "jet/sql/decimal.h"
 #include "runtime/error.h"
 
 namespace jet::dao {
@@ -36,13 +37,16 @@ Variant dynamicValue(const image::Statement& row, int column) {
       if (value >= INT32_MIN && value <= INT32_MAX) return Variant(static_cast<std::int32_t>(value));
       return Variant(static_cast<double>(value));
     }
-    case SQLITE_FLOAT: return Variant(sqlite3_column_double(row.handle(), column));
-    case SQLITE_TEXT: return Variant(text(row, column));
+    case SQLITE_FLOAT:
+      return Variant(sqlite3_column_double(row.handle(), column));
+    case SQLITE_TEXT:
+      return Variant(text(row, column));
     case SQLITE_BLOB: {
       const auto value = bytes(row, column);
       return Variant(runtime::Bytes(value.begin(), value.end()));
     }
-    default: return Variant(runtime::Null{});
+    default:
+      return Variant(runtime::Null{});
   }
 }
 
@@ -57,14 +61,20 @@ void bindDynamic(image::Statement& statement, int parameter, const Variant& valu
   using Kind = Variant::Kind;
   switch (value.kind()) {
     case Kind::Empty:
-    case Kind::Null: return statement.bindNull(parameter);
-    case Kind::Boolean: return statement.bind(parameter, std::int64_t{value.toBoolean() ? -1 : 0});
+    case Kind::Null:
+      return statement.bindNull(parameter);
+    case Kind::Boolean:
+      return statement.bind(parameter, std::int64_t{value.toBoolean() ? -1 : 0});
     case Kind::Byte:
     case Kind::Integer:
-    case Kind::Long: return statement.bind(parameter, std::int64_t{value.toLong()});
-    case Kind::Text: return statement.bind(parameter, std::string_view(std::get<std::string>(value.value())));
-    case Kind::Bytes: return bindBlob(statement, parameter, std::get<runtime::Bytes>(value.value()));
-    default: sqlite3_bind_double(statement.handle(), parameter, value.toDouble());
+    case Kind::Long:
+      return statement.bind(parameter, std::int64_t{value.toLong()});
+    case Kind::Text:
+      return statement.bind(parameter, std::string_view(std::get<std::string>(value.value())));
+    case Kind::Bytes:
+      return bindBlob(statement, parameter, std::get<runtime::Bytes>(value.value()));
+    default:
+      sqlite3_bind_double(statement.handle(), parameter, value.toDouble());
   }
 }
 
@@ -80,7 +90,8 @@ runtime::Bytes guidBytes(const Variant& value) {
     if (c >= 'a' && c <= 'f') return c - 'a' + 10;
     throw runtime::Error(3421, Source, "Errore di conversione del tipo di dati: " + digits);
   };
-  if (digits.size() != 38) throw runtime::Error(3421, Source, "Errore di conversione del tipo di dati: " + digits);
+  if (digits.size() != 38)
+    throw runtime::Error(3421, Source, "Errore di conversione del tipo di dati: " + digits);
   runtime::Bytes result;
   for (const int place : Places)
     result.push_back(static_cast<std::byte>(nibble(static_cast<std::size_t>(place)) << 4 |
@@ -88,46 +99,53 @@ runtime::Bytes guidBytes(const Variant& value) {
   return result;
 }
 
-/// A decimal from any number: through its text with a point.
+/// Digits of any number, rounded to `scale`.
 std::string decimalDigits(const Variant& value, std::uint8_t scale) {
-  if (value.kind() == Variant::Kind::Decimal) {
-    const auto& decimal = std::get<runtime::Decimal>(value.value());
-    return image::decimalText(image::parseDecimal(image::decimalText(decimal), scale));
-  }
-  std::string digits = value.toText();
-  for (char& c : digits)
-    if (c == ',') c = '.';
-  return image::decimalText(image::parseDecimal(digits, scale));
+  return image::decimalText(image::parseDecimal(image::decimalText(sql::toDecimal(value)), scale));
 }
 
-void bindTyped(image::Statement& statement, int parameter, const Variant& value, Type type, std::uint8_t scale) {
+void bindTyped(image::Statement& statement, int parameter, const Variant& value, Type type,
+               std::uint8_t scale) {
   switch (type) {
-    case Type::Boolean: return statement.bind(parameter, std::int64_t{value.toBoolean() ? -1 : 0});
-    case Type::Byte: return statement.bind(parameter, std::int64_t{value.toByte()});
-    case Type::Integer: return statement.bind(parameter, std::int64_t{value.toInteger()});
-    case Type::Long: return statement.bind(parameter, std::int64_t{value.toLong()});
-    case Type::Currency: return statement.bind(parameter, value.toCurrency().tenThousandths);
+    case Type::Boolean:
+      return statement.bind(parameter, std::int64_t{value.toBoolean() ? -1 : 0});
+    case Type::Byte:
+      return statement.bind(parameter, std::int64_t{value.toByte()});
+    case Type::Integer:
+      return statement.bind(parameter, std::int64_t{value.toInteger()});
+    case Type::Long:
+      return statement.bind(parameter, std::int64_t{value.toLong()});
+    case Type::Currency:
+      return statement.bind(parameter, value.toCurrency().tenThousandths);
     case Type::Single:
       sqlite3_bind_double(statement.handle(), parameter, static_cast<float>(value.toDouble()));
       return;
-    case Type::Double: sqlite3_bind_double(statement.handle(), parameter, value.toDouble()); return;
-    case Type::Date: sqlite3_bind_double(statement.handle(), parameter, value.toDate().days); return;
-    case Type::Decimal: return statement.bind(parameter, std::string_view(decimalDigits(value, scale)));
+    case Type::Double:
+      sqlite3_bind_double(statement.handle(), parameter, value.toDouble());
+      return;
+    case Type::Date:
+      sqlite3_bind_double(statement.handle(), parameter, value.toDate().days);
+      return;
+    case Type::Decimal:
+      return statement.bind(parameter, std::string_view(decimalDigits(value, scale)));
     case Type::Text:
-    case Type::Memo: return statement.bind(parameter, std::string_view(value.toText()));
-    case Type::Guid: return bindBlob(statement, parameter, guidBytes(value));
+    case Type::Memo:
+      return statement.bind(parameter, std::string_view(value.toText()));
+    case Type::Guid:
+      return bindBlob(statement, parameter, guidBytes(value));
     case Type::Binary:
     case Type::Ole:
       if (value.kind() == Variant::Kind::Bytes)
         return bindBlob(statement, parameter, std::get<runtime::Bytes>(value.value()));
       throw runtime::languageError(runtime::TypeMismatch);
     case Type::Null:
-    case Type::Variant: bindDynamic(statement, parameter, value);
+    case Type::Variant:
+      bindDynamic(statement, parameter, value);
   }
 }
 
-void bindConverted(image::Statement& statement, int parameter, const Variant& value, Type type, std::uint8_t scale,
-                   const std::string& name) {
+void bindConverted(image::Statement& statement, int parameter, const Variant& value, Type type,
+                   std::uint8_t scale, const std::string& name) {
   if (value.isNull() || value.isEmpty()) {
     // A Boolean is never null.
     if (type == Type::Boolean) return statement.bind(parameter, std::int64_t{0});
@@ -146,14 +164,22 @@ void bindConverted(image::Statement& statement, int parameter, const Variant& va
 Variant fromImage(const image::Statement& row, int column, Type type) {
   if (row.null(column)) return Variant(runtime::Null{});
   switch (type) {
-    case Type::Boolean: return Variant(row.integer(column) != 0);
-    case Type::Byte: return Variant(static_cast<std::uint8_t>(row.integer(column)));
-    case Type::Integer: return Variant(static_cast<std::int16_t>(row.integer(column)));
-    case Type::Long: return Variant(static_cast<std::int32_t>(row.integer(column)));
-    case Type::Currency: return Variant(runtime::Currency{row.integer(column)});
-    case Type::Single: return Variant(static_cast<float>(sqlite3_column_double(row.handle(), column)));
-    case Type::Double: return Variant(sqlite3_column_double(row.handle(), column));
-    case Type::Date: return Variant(runtime::Date{sqlite3_column_double(row.handle(), column)});
+    case Type::Boolean:
+      return Variant(row.integer(column) != 0);
+    case Type::Byte:
+      return Variant(static_cast<std::uint8_t>(row.integer(column)));
+    case Type::Integer:
+      return Variant(static_cast<std::int16_t>(row.integer(column)));
+    case Type::Long:
+      return Variant(static_cast<std::int32_t>(row.integer(column)));
+    case Type::Currency:
+      return Variant(runtime::Currency{row.integer(column)});
+    case Type::Single:
+      return Variant(static_cast<float>(sqlite3_column_double(row.handle(), column)));
+    case Type::Double:
+      return Variant(sqlite3_column_double(row.handle(), column));
+    case Type::Date:
+      return Variant(runtime::Date{sqlite3_column_double(row.handle(), column)});
     case Type::Decimal: {
       const auto digits = text(row, column);
       const auto point = digits.find('.');
@@ -166,8 +192,10 @@ Variant fromImage(const image::Statement& row, int column, Type type) {
       return dynamicValue(row, column);
     }
     case Type::Text:
-    case Type::Memo: return Variant(text(row, column));
-    default: return dynamicValue(row, column);
+    case Type::Memo:
+      return Variant(text(row, column));
+    default:
+      return dynamicValue(row, column);
   }
 }
 
@@ -190,20 +218,34 @@ int dataType(ColumnType type) {
 
 int dataType(Type type) {
   switch (type) {
-    case Type::Boolean: return dbBoolean;
-    case Type::Byte: return dbByte;
-    case Type::Integer: return dbInteger;
-    case Type::Long: return dbLong;
-    case Type::Currency: return dbCurrency;
-    case Type::Single: return dbSingle;
-    case Type::Double: return dbDouble;
-    case Type::Date: return dbDate;
-    case Type::Decimal: return dbDecimal;
-    case Type::Memo: return dbMemo;
-    case Type::Guid: return dbGUID;
-    case Type::Binary: return dbBinary;
-    case Type::Ole: return dbLongBinary;
-    default: return dbText;
+    case Type::Boolean:
+      return dbBoolean;
+    case Type::Byte:
+      return dbByte;
+    case Type::Integer:
+      return dbInteger;
+    case Type::Long:
+      return dbLong;
+    case Type::Currency:
+      return dbCurrency;
+    case Type::Single:
+      return dbSingle;
+    case Type::Double:
+      return dbDouble;
+    case Type::Date:
+      return dbDate;
+    case Type::Decimal:
+      return dbDecimal;
+    case Type::Memo:
+      return dbMemo;
+    case Type::Guid:
+      return dbGUID;
+    case Type::Binary:
+      return dbBinary;
+    case Type::Ole:
+      return dbLongBinary;
+    default:
+      return dbText;
   }
 }
 

@@ -15,8 +15,8 @@ runtime::Variant fromImage(const image::Statement& row, int column, sql::Type ty
 /// Binds a value as the image keeps `type`; Variant binds it as what it is. Error 3421 if it doesn't convert.
 void bindValue(image::Statement& statement, int parameter, const runtime::Variant& value, sql::Type type);
 /// The same for a field of a table: 3163 for a text that is too long.
-void bindField(image::Statement& statement, int parameter, const runtime::Variant& value, const file::Column& column,
-               const std::string& table);
+void bindField(image::Statement& statement, int parameter, const runtime::Variant& value,
+               const file::Column& column, const std::string& table);
 
 /// DataType of a column's type, and what Field.Size and Field.Attributes say of a column.
 int dataType(file::ColumnType type);

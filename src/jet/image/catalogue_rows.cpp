@@ -12,9 +12,9 @@ namespace {
 
 using Bytes = std::vector<std::byte>;
 
-// Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c4 DateCreate, c5 DateUpdate, c6 Owner, c7 Flags,
-// c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2 ACM, c3 FInheritable. Of MSysRelationships (t5): c4 szObject,
-// c5 szColumn, c6 szReferencedObject, c7 szReferencedColumn.
+// Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c4 DateCreate, c5 DateUpdate, c6 Owner,
+// c7 Flags, c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2 ACM, c3 FInheritable. Of MSysRelationships
+// (t5): c4 szObject, c5 szColumn, c6 szReferencedObject, c7 szReferencedColumn.
 constexpr char InsertObject[] =
     "INSERT INTO t2 (c0, c1, c2, c3, c4, c5, c6, c7) VALUES (?1, ?2, ?3, ?4, ?5, ?5, ?6, ?7)";
 constexpr char InsertPermission[] = "INSERT INTO t3 (c0, c1, c2, c3) VALUES (?1, ?2, ?3, 0)";
@@ -24,7 +24,9 @@ constexpr char OwnerOfDatabase[] = "SELECT c6 FROM t2 WHERE c0 = ?1";
 // The creator's id, 02 04, and the user Admin's, 03 01, are kept under one cipher of two bytes.
 constexpr std::array CreatorFromAdmin = {std::byte{0x03 ^ 0x02}, std::byte{0x01 ^ 0x04}};
 
-std::int64_t signedId(std::uint32_t id) { return static_cast<std::int32_t>(id); }
+std::int64_t signedId(std::uint32_t id) {
+  return static_cast<std::int32_t>(id);
+}
 
 Bytes blob(const Statement& statement, int column) {
   const auto* data = static_cast<const std::byte*>(sqlite3_column_blob(statement.handle(), column));
@@ -52,7 +54,8 @@ struct Permission {
   std::int64_t mask;
 };
 
-/// What an object in `container` gets: the inheritable rows, the creator's going to the owner where Admin has none.
+/// What an object in `container` gets: the inheritable rows, the creator's going to the owner where Admin has
+/// none.
 std::vector<Permission> inherited(const Connection& connection, std::uint32_t container, const Bytes& admin) {
   std::vector<Permission> result;
   const Bytes creator = creatorId(admin);
@@ -111,7 +114,8 @@ void touchObject(const Connection& connection, std::uint32_t id) {
   update.run();
 }
 
-file::PropertyBlock readProperties(const Connection& connection, const file::Format& format, std::uint32_t id) {
+file::PropertyBlock readProperties(const Connection& connection, const file::Format& format,
+                                   std::uint32_t id) {
   auto query = connection.prepare("SELECT c14 FROM t2 WHERE c0 = ?1");
   query.bind(1, signedId(id));
   if (!query.step() || query.null(0)) return {};

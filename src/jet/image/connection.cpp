@@ -14,6 +14,21 @@ constexpr char Settings[] =
     "PRAGMA cache_size = -24576; PRAGMA synchronous = OFF; PRAGMA temp_store = FILE;"
     "PRAGMA foreign_keys = OFF; PRAGMA recursive_triggers = OFF;";
 
+/// SQLite's words for what goes beyond one of its limits or a number's range.
+struct Limit {
+  std::string_view words;
+  int number;
+  const char* description;
+};
+
+constexpr Limit Limits[] = {
+    {"parser stack overflow", 3360, "Espressione troppo complessa"},
+    {"Expression tree is too large", 3360, "Espressione troppo complessa"},
+    {"too many", 3360, "Espressione troppo complessa"},
+    {"at most 64 tables", 3360, "Espressione troppo complessa"},
+    {"integer overflow", runtime::Overflow, "Overflow"},
+};
+
 int compareJet(void*, int lengthA, const void* a, int lengthB, const void* b) {
   return file::compareText({static_cast<const char*>(a), static_cast<std::size_t>(lengthA)},
                            {static_cast<const char*>(b), static_cast<std::size_t>(lengthB)});
@@ -39,13 +54,18 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
     case SQLITE_LOCKED:
       return runtime::Error(3211, Source, "Tabella in uso da un altro recordset");
     default:
-      return runtime::Error(3000, Source, "Errore riservato: " + message);
+      break;
   }
+  for (const Limit& limit : Limits)
+    if (message.find(limit.words) != std::string::npos)
+      return runtime::Error(limit.number, Source, limit.description);
+  return runtime::Error(3000, Source, "Errore riservato: " + message);
 }
 
 Statement::Statement(sqlite3* connection, std::string_view sql) {
   sqlite3_stmt* statement = nullptr;
-  if (sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &statement, nullptr) != SQLITE_OK)
+  if (sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &statement, nullptr) !=
+      SQLITE_OK)
     throw errorFromSqlite(connection);
   handle_.reset(statement);
 }
@@ -71,14 +91,14 @@ void Statement::run() {
 }
 
 void Statement::bind(int parameter, std::string_view value) {
-  sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "", value.size(), SQLITE_TRANSIENT,
-                      SQLITE_UTF8);
+  sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "", value.size(),
+                      SQLITE_TRANSIENT, SQLITE_UTF8);
 }
 
 Connection::Connection() {
   sqlite3* connection = nullptr;
-  const int result = sqlite3_open_v2("", &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX,
-                                     nullptr);
+  const int result = sqlite3_open_v2(
+      "", &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(connection);
   if (result != SQLITE_OK) throw errorFromSqlite(connection);
   sqlite3_create_collation_v2(connection, "JET", SQLITE_UTF8, nullptr, compareJet, nullptr);

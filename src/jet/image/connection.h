@@ -11,8 +11,9 @@
 
 namespace jet::image {
 
-/// What SQLite says went wrong, as a numbered error: one that a registered function raised ("number|description")
-/// as it is; a duplicate key 3022, a full scratch disk 3183, no memory 7, anything else 3000.
+/// What SQLite says went wrong, as a numbered error: one that a registered function raised
+/// ("number|description") as it is; a duplicate key 3022, a full scratch disk 3183, a table in use 3211, no
+/// memory 7, a statement beyond SQLite's limits 3360, an overflow 6, anything else 3000.
 runtime::Error errorFromSqlite(sqlite3* connection);
 
 /// One prepared statement. Parameters count from 1, columns from 0, as SQLite counts them.
@@ -45,8 +46,8 @@ class Statement {
   std::unique_ptr<sqlite3_stmt, Finalize> handle_;
 };
 
-/// The scratch database behind an open file: private, on disk only where it outgrows its cache, gone at the end.
-/// Its text order is the collation JET.
+/// The scratch database behind an open file: private, on disk only where it outgrows its cache, gone at the
+/// end. Its text order is the collation JET.
 class Connection {
  public:
   Connection();

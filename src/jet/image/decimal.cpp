@@ -56,7 +56,8 @@ Digits readDigits(std::string_view text) {
 bool roundsUp(const std::string& digits, std::size_t kept) {
   const int last = kept > 0 ? digits[kept - 1] - '0' : 0;
   if (digits[kept] != '5') return digits[kept] > '5';
-  const bool exactHalf = std::all_of(digits.begin() + kept + 1, digits.end(), [](char c) { return c == '0'; });
+  const bool exactHalf =
+      std::all_of(digits.begin() + kept + 1, digits.end(), [](char c) { return c == '0'; });
   return !exactHalf || last % 2 == 1;
 }
 
@@ -64,7 +65,8 @@ bool roundsUp(const std::string& digits, std::size_t kept) {
 
 std::string decimalText(const runtime::Decimal& value) {
   std::string digits;
-  for (Magnitude rest = value.magnitude; rest != 0; rest /= 10) digits += static_cast<char>('0' + int(rest % 10));
+  for (Magnitude rest = value.magnitude; rest != 0; rest /= 10)
+    digits += static_cast<char>('0' + int(rest % 10));
   while (digits.size() <= value.scale) digits += '0';
   std::reverse(digits.begin(), digits.end());
   if (value.scale > 0) digits.insert(digits.size() - value.scale, 1, '.');

@@ -24,15 +24,28 @@ constexpr std::uint16_t DefaultTextSize = 255;
 /// Bytes that the definition gives as a column's length.
 std::uint16_t definitionLength(ColumnType type, std::uint16_t size) {
   switch (type) {
-    case ColumnType::Boolean: case ColumnType::Byte: return 1;
-    case ColumnType::Integer: return 2;
-    case ColumnType::Long: case ColumnType::Single: return 4;
-    case ColumnType::Currency: case ColumnType::Double: case ColumnType::Date: return 8;
-    case ColumnType::Guid: return 16;
-    case ColumnType::Numeric: return 17;
-    case ColumnType::Text: return static_cast<std::uint16_t>(2 * (size == 0 ? DefaultTextSize : size));
-    case ColumnType::Binary: return size == 0 ? 510 : size;
-    default: return 0;
+    case ColumnType::Boolean:
+    case ColumnType::Byte:
+      return 1;
+    case ColumnType::Integer:
+      return 2;
+    case ColumnType::Long:
+    case ColumnType::Single:
+      return 4;
+    case ColumnType::Currency:
+    case ColumnType::Double:
+    case ColumnType::Date:
+      return 8;
+    case ColumnType::Guid:
+      return 16;
+    case ColumnType::Numeric:
+      return 17;
+    case ColumnType::Text:
+      return static_cast<std::uint16_t>(2 * (size == 0 ? DefaultTextSize : size));
+    case ColumnType::Binary:
+      return size == 0 ? 510 : size;
+    default:
+      return 0;
   }
 }
 
@@ -41,9 +54,10 @@ bool isVariable(ColumnType type) {
 }
 
 bool hasRelation(const file::TableDefinition& table, std::size_t real) {
-  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(), [&](const LogicalIndex& index) {
-    return index.real == real && index.kind == LogicalIndex::Kind::Relation;
-  });
+  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(),
+                     [&](const LogicalIndex& index) {
+                       return index.real == real && index.kind == LogicalIndex::Kind::Relation;
+                     });
 }
 
 }  // namespace
@@ -65,7 +79,8 @@ void addColumn(file::TableDefinition& table, Column column) {
   column.number = table.maxColumns++;
   column.position = column.number;
   for (const auto& other : table.columns)
-    column.position = std::max<std::uint16_t>(column.position, static_cast<std::uint16_t>(other.position + 1));
+    column.position =
+        std::max<std::uint16_t>(column.position, static_cast<std::uint16_t>(other.position + 1));
   column.slot = table.variableColumns;
   if (!column.fixed())
     ++table.variableColumns;
@@ -93,7 +108,8 @@ void addIndex(file::TableDefinition& table, const IndexDesign& design) {
   }
   RealIndex real;
   real.columns = design.columns;
-  real.flags = static_cast<std::uint8_t>(RealIndex::Jet4Mark | (design.unique || design.primary ? RealIndex::Unique : 0) |
+  real.flags = static_cast<std::uint8_t>(RealIndex::Jet4Mark |
+                                         (design.unique || design.primary ? RealIndex::Unique : 0) |
                                          (design.required || design.primary ? RealIndex::Required : 0) |
                                          (design.ignoreNulls ? RealIndex::IgnoreNulls : 0));
   LogicalIndex logical;
@@ -106,8 +122,9 @@ void addIndex(file::TableDefinition& table, const IndexDesign& design) {
 }
 
 void removeIndex(file::TableDefinition& table, std::string_view name) {
-  const auto found = std::find_if(table.logicalIndexes.begin(), table.logicalIndexes.end(),
-                                  [&](const LogicalIndex& index) { return file::sameName(index.name, name); });
+  const auto found =
+      std::find_if(table.logicalIndexes.begin(), table.logicalIndexes.end(),
+                   [&](const LogicalIndex& index) { return file::sameName(index.name, name); });
   if (found == table.logicalIndexes.end()) fail(3372, "Indice inesistente: " + std::string(name));
   const auto real = found->real;
   if (hasRelation(table, real)) fail(3281, "L'indice " + found->name + " è usato da una relazione");
@@ -133,17 +150,17 @@ bool isIndexed(const file::TableDefinition& table, std::uint16_t columnNumber) {
 }
 
 bool isRelated(const file::TableDefinition& table) {
-  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(), [](const LogicalIndex& index) {
-    return index.kind == LogicalIndex::Kind::Relation;
-  });
+  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(),
+                     [](const LogicalIndex& index) { return index.kind == LogicalIndex::Kind::Relation; });
 }
 
 void checkName(std::string_view name) {
   constexpr std::string_view Forbidden = ".!`[]";
-  const bool bad = name.empty() || name.front() == ' ' || file::utf16Length(name) > MaxNameLength ||
-                   std::any_of(name.begin(), name.end(), [&](char c) {
-                     return static_cast<unsigned char>(c) < 0x20 || Forbidden.find(c) != std::string_view::npos;
-                   });
+  const bool bad =
+      name.empty() || name.front() == ' ' || file::utf16Length(name) > MaxNameLength ||
+      std::any_of(name.begin(), name.end(), [&](char c) {
+        return static_cast<unsigned char>(c) < 0x20 || Forbidden.find(c) != std::string_view::npos;
+      });
   if (bad) fail(3125, "Nome non valido: " + std::string(name));
 }
 

@@ -45,8 +45,7 @@ void Image::createTable(file::TableDefinition design, const std::vector<std::str
   if (!freePages_) freePages_ = std::make_unique<file::FreePages>(*source_);
   design.page = freePages_->take();
   createRows(design);
-  insertObject(connection_,
-               {design.page, file::TablesContainer, design.name, file::ObjectType::Table, 0});
+  insertObject(connection_, {design.page, file::TablesContainer, design.name, file::ObjectType::Table, 0});
   if (!required.empty()) {
     file::PropertyBlock block;
     for (const auto& column : required) block.set(column, requiredProperty());
@@ -135,10 +134,12 @@ void Image::dropIndex(std::string_view tableName_, std::string_view name) {
 
 void Image::dropRules(Table& changed) {
   std::vector<std::string> commands;
-  auto query = connection_.prepare("SELECT 'DROP ' || type || ' ' || name FROM sqlite_master WHERE tbl_name = ?1 AND "
-                                   "type IN ('index', 'trigger')");
+  auto query = connection_.prepare(
+      "SELECT 'DROP ' || type || ' ' || name FROM sqlite_master WHERE tbl_name = ?1 AND "
+      "type IN ('index', 'trigger')");
   query.bind(1, std::string_view(image::tableName(changed.page)));
-  while (query.step()) commands.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(query.handle(), 0)));
+  while (query.step())
+    commands.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(query.handle(), 0)));
   query.reset();
   for (const auto& command : commands) connection_.execute(command);
   changed.guarded = false;

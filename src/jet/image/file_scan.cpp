@@ -29,8 +29,12 @@ struct ScanCursor : sqlite3_vtab_cursor {
   std::int64_t rowid = 0;
 };
 
-ScanTable& tableOf(sqlite3_vtab* table) { return *static_cast<ScanTable*>(table); }
-ScanCursor& cursorOf(sqlite3_vtab_cursor* cursor) { return *static_cast<ScanCursor*>(cursor); }
+ScanTable& tableOf(sqlite3_vtab* table) {
+  return *static_cast<ScanTable*>(table);
+}
+ScanCursor& cursorOf(sqlite3_vtab_cursor* cursor) {
+  return *static_cast<ScanCursor*>(cursor);
+}
 
 /// Runs `work`; a numbered error becomes SQLite's, in the text form that errorFromSqlite reads.
 template <typename Work>
@@ -110,7 +114,8 @@ int filter(sqlite3_vtab_cursor* base, int, const char* plan, int, sqlite3_value*
     auto& table = tableOf(base->pVtab);
     cursor.reader.reset();
     cursor.design = table.image->sharedDefinition(table.page);
-    cursor.reader.emplace(table.image->source(), *cursor.design, usedColumns(*cursor.design, plan ? plan : ""));
+    cursor.reader.emplace(table.image->source(), *cursor.design,
+                          usedColumns(*cursor.design, plan ? plan : ""));
     cursor.fields.emplace(table.image->source(), *cursor.design);
     cursor.rowid = 0;
     advance(cursor);
@@ -121,7 +126,9 @@ int next(sqlite3_vtab_cursor* base) {
   return guarded(&base->pVtab->zErrMsg, [&] { advance(cursorOf(base)); });
 }
 
-int atEnd(sqlite3_vtab_cursor* base) { return cursorOf(base).atEnd; }
+int atEnd(sqlite3_vtab_cursor* base) {
+  return cursorOf(base).atEnd;
+}
 
 int column(sqlite3_vtab_cursor* base, sqlite3_context* context, int index) {
   return guarded(&base->pVtab->zErrMsg, [&] {

@@ -14,7 +14,8 @@ std::string quoted(std::string_view text) {
   return result + "'";
 }
 
-/// Refuses a null in `column` with this error, in new rows (unless the engine fills them) and in changed ones.
+/// Refuses a null in `column` with this error, in new rows (unless the engine fills them) and in changed
+/// ones.
 void refuseNull(const Connection& connection, const file::TableDefinition& table, const file::Column& column,
                 int number, const std::string& description) {
   const std::string where = tableName(table.page), name = columnName(column.number);
@@ -23,7 +24,8 @@ void refuseNull(const Connection& connection, const file::TableDefinition& table
   const std::string trigger = "g" + where + name + "_" + std::to_string(number);
   if (!column.autoNumber())
     connection.execute("CREATE TRIGGER IF NOT EXISTS " + trigger + "i BEFORE INSERT ON " + where + body);
-  connection.execute("CREATE TRIGGER IF NOT EXISTS " + trigger + "u BEFORE UPDATE OF " + name + " ON " + where + body);
+  connection.execute("CREATE TRIGGER IF NOT EXISTS " + trigger + "u BEFORE UPDATE OF " + name + " ON " +
+                     where + body);
 }
 
 }  // namespace
@@ -44,7 +46,8 @@ void Image::guard(Table& table) {
     for (const auto& column : design.columns) {
       const auto* required = block.find(column.name, "Required");
       if (!required || required->data.empty() || required->data[0] == std::byte{0}) continue;
-      refuseNull(connection_, design, column, 3314, "Il campo " + design.name + "." + column.name + " è richiesto");
+      refuseNull(connection_, design, column, 3314,
+                 "Il campo " + design.name + "." + column.name + " è richiesto");
     }
   }
   for (const auto& column : design.columns) {

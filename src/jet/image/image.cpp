@@ -17,14 +17,15 @@ constexpr std::uint32_t SmallTable = 2000;
 /// A savepoint that is taken back unless kept.
 class Savepoint {
  public:
-  Savepoint(const Connection& connection, std::string name) : connection_(connection), name_(std::move(name)) {
+  Savepoint(const Connection& connection, std::string name)
+      : connection_(connection), name_(std::move(name)) {
     connection_.execute("SAVEPOINT " + name_);
   }
   ~Savepoint() {
     if (kept_) return;
     // Nothing more can be done about a failure here, and the error under way says what happened.
-    sqlite3_exec(connection_.handle(), ("ROLLBACK TO " + name_ + "; RELEASE " + name_).c_str(), nullptr, nullptr,
-                 nullptr);
+    sqlite3_exec(connection_.handle(), ("ROLLBACK TO " + name_ + "; RELEASE " + name_).c_str(), nullptr,
+                 nullptr, nullptr);
   }
   Savepoint(const Savepoint&) = delete;
   Savepoint& operator=(const Savepoint&) = delete;
@@ -39,7 +40,9 @@ class Savepoint {
   bool kept_ = false;
 };
 
-std::string levelName(std::size_t level) { return "level" + std::to_string(level); }
+std::string levelName(std::size_t level) {
+  return "level" + std::to_string(level);
+}
 
 }  // namespace
 
@@ -53,8 +56,8 @@ Image::Image(std::unique_ptr<file::PageFile> source) : source_(std::move(source)
     state_.tables.push_back(std::move(table));
   }
   indexNames();
-  sqlite3_create_function_v2(connection_.handle(), "jet_auto_number", 2, SQLITE_UTF8, this, &Image::autoNumber,
-                             nullptr, nullptr, nullptr);
+  sqlite3_create_function_v2(connection_.handle(), "jet_auto_number", 2, SQLITE_UTF8, this,
+                             &Image::autoNumber, nullptr, nullptr, nullptr);
   registerFileScan(*this);
 }
 
@@ -95,7 +98,9 @@ const file::TableDefinition* Image::definition(std::string_view name) {
   return found ? &definition(const_cast<Table&>(*found)) : nullptr;
 }
 
-const file::TableDefinition& Image::definition(std::uint32_t page) { return definition(table(page)); }
+const file::TableDefinition& Image::definition(std::uint32_t page) {
+  return definition(table(page));
+}
 
 std::shared_ptr<const file::TableDefinition> Image::sharedDefinition(std::uint32_t page) {
   auto& wanted = table(page);
@@ -105,7 +110,8 @@ std::shared_ptr<const file::TableDefinition> Image::sharedDefinition(std::uint32
 
 void Image::requireWritable() const {
   if (source_->readOnly())
-    throw runtime::Error(3027, Source, "Impossibile aggiornare: database di sola lettura - " + source_->path());
+    throw runtime::Error(3027, Source,
+                         "Impossibile aggiornare: database di sola lettura - " + source_->path());
 }
 
 void Image::createRows(const file::TableDefinition& definition) {
@@ -154,8 +160,8 @@ void Image::makeIndexes(const file::TableDefinition& design, const std::vector<s
     // The name tells the columns, so that an index dropped and made anew in the design gets its own.
     std::string name = "i" + std::to_string(design.page) + (unique ? "u" : "n");
     for (const auto& part : index.columns) name += "_" + std::to_string(part.column);
-    connection_.execute((unique ? "CREATE UNIQUE INDEX IF NOT EXISTS " : "CREATE INDEX IF NOT EXISTS ") + name +
-                        " ON " + tableName(design.page) + "(" + columns + ")");
+    connection_.execute((unique ? "CREATE UNIQUE INDEX IF NOT EXISTS " : "CREATE INDEX IF NOT EXISTS ") +
+                        name + " ON " + tableName(design.page) + "(" + columns + ")");
   }
 }
 
@@ -169,7 +175,8 @@ void Image::prepareToScan(std::uint32_t page) {
   auto& wanted = table(page);
   if (wanted.loaded || wanted.scanned) return;
   if (definition(wanted).rows < SmallTable) return load(wanted);
-  connection_.execute("CREATE VIRTUAL TABLE temp." + tableName(page) + " USING jet_file(" + std::to_string(page) + ")");
+  connection_.execute("CREATE VIRTUAL TABLE temp." + tableName(page) + " USING jet_file(" +
+                      std::to_string(page) + ")");
   wanted.scanned = true;
 }
 
@@ -181,7 +188,9 @@ void Image::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>
   if (!wanted.guarded) guard(wanted);
 }
 
-void Image::markChanged(std::uint32_t page) { table(page).rowsChanged = true; }
+void Image::markChanged(std::uint32_t page) {
+  table(page).rowsChanged = true;
+}
 
 void Image::begin() {
   connection_.execute("SAVEPOINT " + levelName(saved_.size()));
@@ -202,9 +211,10 @@ void Image::rollback() {
 }
 
 bool Image::changed() const {
-  return !state_.dropped.empty() || std::any_of(state_.tables.begin(), state_.tables.end(), [](const Table& table) {
-    return table.rowsChanged || table.designChanged || table.isNew;
-  });
+  return !state_.dropped.empty() ||
+         std::any_of(state_.tables.begin(), state_.tables.end(), [](const Table& table) {
+           return table.rowsChanged || table.designChanged || table.isNew;
+         });
 }
 
 void Image::write(platform::File& out) {
@@ -215,7 +225,8 @@ void Image::write(platform::File& out) {
     file::TableChange change{definition(table), nullptr};
     const auto number = state_.autoNumbers.find(table.page);
     if (number != state_.autoNumbers.end()) change.definition.autoNumber = number->second;
-    if (table.rowsChanged || table.isNew) change.rows = std::make_unique<ImageRows>(connection_, change.definition);
+    if (table.rowsChanged || table.isNew)
+      change.rows = std::make_unique<ImageRows>(connection_, change.definition);
     changes.tables.push_back(std::move(change));
   }
   file::writeChanged(*source_, std::move(changes), out);

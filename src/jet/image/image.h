@@ -22,19 +22,19 @@ namespace jet::image {
 /// One table as the image knows it. Copied when a transaction begins, so that a rollback puts it back.
 struct Table {
   std::string name;
-  std::uint32_t page = 0;   // first definition page: the table's id
-  std::uint32_t flags = 0;  // of its catalogue row
+  std::uint32_t page = 0;                                   // first definition page: the table's id
+  std::uint32_t flags = 0;                                  // of its catalogue row
   std::shared_ptr<const file::TableDefinition> definition;  // read when first asked for
-  bool loaded = false;         // rows lie in the image
-  bool scanned = false;        // t<page> stands for the rows in the file
-  bool guarded = false;        // unique indexes and rules stand in the image
-  bool rowsChanged = false;    // rows must be written anew
-  bool designChanged = false;  // definition must be written anew
-  bool isNew = false;          // not in the file yet
+  bool loaded = false;                                      // rows lie in the image
+  bool scanned = false;                                     // t<page> stands for the rows in the file
+  bool guarded = false;                                     // unique indexes and rules stand in the image
+  bool rowsChanged = false;                                 // rows must be written anew
+  bool designChanged = false;                               // definition must be written anew
+  bool isNew = false;                                       // not in the file yet
 };
 
-/// Tables and stored rows of one open `.mdb`. A table's rows are loaded when a statement first needs them; a table
-/// that nothing changed is carried over page by page when the file is saved.
+/// Tables and stored rows of one open `.mdb`. A table's rows are loaded when a statement first needs them; a
+/// table that nothing changed is carried over page by page when the file is saved.
 class Image {
  public:
   explicit Image(std::unique_ptr<file::PageFile> source);
@@ -51,19 +51,20 @@ class Image {
   const file::TableDefinition& definition(std::uint32_t page);
   std::shared_ptr<const file::TableDefinition> sharedDefinition(std::uint32_t page);
 
-  /// Makes table `t<page>` ready for a statement that compares, joins or sorts by the columns `compared`; indexes
-  /// that begin with one of them are made.
+  /// Makes table `t<page>` ready for a statement that compares, joins or sorts by the columns `compared`;
+  /// indexes that begin with one of them are made.
   void prepareToRead(std::uint32_t page, const std::vector<std::uint16_t>& compared);
   /// Makes `t<page>` ready for a statement that reads its rows once, in order: large tables stay in the file.
   void prepareToScan(std::uint32_t page);
-  /// Makes `t<page>` ready before rows are added, changed or deleted: unique and required indexes and Required fields are
-  /// watched from now on (3022, 3058, 3314), auto-numbers given out. Error 3027 in a read-only database.
+  /// Makes `t<page>` ready before rows are added, changed or deleted: unique and required indexes and
+  /// Required fields are watched from now on (3022, 3058, 3314), auto-numbers given out. Error 3027 in a
+  /// read-only database.
   void prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared);
   /// Notes that rows of the table have changed.
   void markChanged(std::uint32_t page);
 
-  /// Adds a table of this design (page, rows and maps are the image's business). Error 3010 if the name is taken.
-  /// `required`: names of the columns that must not be null.
+  /// Adds a table of this design (page, rows and maps are the image's business). Error 3010 if the name is
+  /// taken. `required`: names of the columns that must not be null.
   void createTable(file::TableDefinition design, const std::vector<std::string>& required);
   /// Error 3376 if there is none, 3281 while a relation stands on it.
   void dropTable(std::string_view name);

@@ -12,19 +12,31 @@ namespace {
 
 using file::ColumnType;
 
-// Memos that stay inside the row are compressed as the original engine does; longer ones lie outside and are plain.
+// Memos that stay inside the row are compressed as the original engine does; longer ones lie outside and are
+// plain.
 constexpr std::size_t CompressedMemoLength = 32;
 
 /// Bytes of a value of fixed size; 0 for the others.
 std::size_t fixedSize(ColumnType type) {
   switch (type) {
-    case ColumnType::Boolean: case ColumnType::Byte: return 1;
-    case ColumnType::Integer: return 2;
-    case ColumnType::Long: case ColumnType::Single: return 4;
-    case ColumnType::Currency: case ColumnType::Double: case ColumnType::Date: return 8;
-    case ColumnType::Guid: return 16;
-    case ColumnType::Numeric: return 17;
-    default: return 0;
+    case ColumnType::Boolean:
+    case ColumnType::Byte:
+      return 1;
+    case ColumnType::Integer:
+      return 2;
+    case ColumnType::Long:
+    case ColumnType::Single:
+      return 4;
+    case ColumnType::Currency:
+    case ColumnType::Double:
+    case ColumnType::Date:
+      return 8;
+    case ColumnType::Guid:
+      return 16;
+    case ColumnType::Numeric:
+      return 17;
+    default:
+      return 0;
   }
 }
 
@@ -83,19 +95,26 @@ struct ResultTarget {
 };
 
 template <typename Target>
-void give(Target target, const file::Header& header, const file::TableDefinition& table, const file::Column& column,
-          const file::FieldBytes& field, std::string& text) {
+void give(Target target, const file::Header& header, const file::TableDefinition& table,
+          const file::Column& column, const file::FieldBytes& field, std::string& text) {
   if (field.null) return target.null();
   checkSize(table, column, field.bytes.size());
   switch (column.type) {
-    case ColumnType::Boolean: return target.integer(field.bytes[0] != std::byte{0} ? -1 : 0);
-    case ColumnType::Byte: return target.integer(load<std::uint8_t>(field.bytes));
-    case ColumnType::Integer: return target.integer(load<std::int16_t>(field.bytes));
-    case ColumnType::Long: return target.integer(load<std::int32_t>(field.bytes));
-    case ColumnType::Currency: return target.integer(load<std::int64_t>(field.bytes));
-    case ColumnType::Single: return target.real(load<float>(field.bytes));
+    case ColumnType::Boolean:
+      return target.integer(field.bytes[0] != std::byte{0} ? -1 : 0);
+    case ColumnType::Byte:
+      return target.integer(load<std::uint8_t>(field.bytes));
+    case ColumnType::Integer:
+      return target.integer(load<std::int16_t>(field.bytes));
+    case ColumnType::Long:
+      return target.integer(load<std::int32_t>(field.bytes));
+    case ColumnType::Currency:
+      return target.integer(load<std::int64_t>(field.bytes));
+    case ColumnType::Single:
+      return target.real(load<float>(field.bytes));
     case ColumnType::Double:
-    case ColumnType::Date: return target.real(load<double>(field.bytes));
+    case ColumnType::Date:
+      return target.real(load<double>(field.bytes));
     case ColumnType::Numeric:
       text = decimalText(decimalFromBytes(field.bytes, column.scale));
       return target.text(text);
@@ -104,7 +123,10 @@ void give(Target target, const file::Header& header, const file::TableDefinition
       text.clear();
       file::appendText(*header.format, field.bytes, text, header.codePage);
       return target.text(text);
-    case ColumnType::Binary: case ColumnType::Ole: case ColumnType::Guid: case ColumnType::Raw:
+    case ColumnType::Binary:
+    case ColumnType::Ole:
+    case ColumnType::Guid:
+    case ColumnType::Raw:
       return target.blob(field.bytes);
   }
 }
@@ -117,7 +139,8 @@ void give(Target target, const file::Header& header, const file::TableDefinition
 
 template <typename T>
 T narrowed(std::int64_t value, const file::TableDefinition& table, const file::Column& column) {
-  if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max()) outOfRange(table, column);
+  if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
+    outOfRange(table, column);
   return static_cast<T>(value);
 }
 
@@ -125,18 +148,31 @@ T narrowed(std::int64_t value, const file::TableDefinition& table, const file::C
 
 const char* columnDeclaration(ColumnType type) {
   switch (type) {
-    case ColumnType::Boolean: return "INTEGER DEFAULT 0";  // never null
-    case ColumnType::Single: case ColumnType::Double: case ColumnType::Date: return "REAL";
-    case ColumnType::Text: case ColumnType::Memo: return "TEXT COLLATE JET";
-    case ColumnType::Numeric: return "TEXT";
-    case ColumnType::Binary: case ColumnType::Ole: case ColumnType::Guid: case ColumnType::Raw: return "BLOB";
-    default: return "INTEGER";
+    case ColumnType::Boolean:
+      return "INTEGER DEFAULT 0";  // never null
+    case ColumnType::Single:
+    case ColumnType::Double:
+    case ColumnType::Date:
+      return "REAL";
+    case ColumnType::Text:
+    case ColumnType::Memo:
+      return "TEXT COLLATE JET";
+    case ColumnType::Numeric:
+      return "TEXT";
+    case ColumnType::Binary:
+    case ColumnType::Ole:
+    case ColumnType::Guid:
+    case ColumnType::Raw:
+      return "BLOB";
+    default:
+      return "INTEGER";
   }
 }
 
 void FieldBinder::bind(sqlite3_stmt* statement, const file::Row& row) {
   for (std::size_t i = 0; i < table_.columns.size(); ++i)
-    give(BindTarget{statement, static_cast<int>(i + 1)}, header_, table_, table_.columns[i], row[i], texts_[i]);
+    give(BindTarget{statement, static_cast<int>(i + 1)}, header_, table_, table_.columns[i], row[i],
+         texts_[i]);
 }
 
 void FieldBinder::result(sqlite3_context* context, const file::Row& row, std::size_t column) {
@@ -173,13 +209,25 @@ file::FieldBytes ImageRows::encode(std::size_t index) {
     return std::string_view(data, static_cast<std::size_t>(sqlite3_column_bytes(statement, at)));
   };
   switch (column.type) {
-    case ColumnType::Byte: store(buffer, narrowed<std::uint8_t>(statement_.integer(at), table_, column)); break;
-    case ColumnType::Integer: store(buffer, narrowed<std::int16_t>(statement_.integer(at), table_, column)); break;
-    case ColumnType::Long: store(buffer, narrowed<std::int32_t>(statement_.integer(at), table_, column)); break;
-    case ColumnType::Currency: store(buffer, statement_.integer(at)); break;
-    case ColumnType::Single: store(buffer, static_cast<float>(sqlite3_column_double(statement, at))); break;
+    case ColumnType::Byte:
+      store(buffer, narrowed<std::uint8_t>(statement_.integer(at), table_, column));
+      break;
+    case ColumnType::Integer:
+      store(buffer, narrowed<std::int16_t>(statement_.integer(at), table_, column));
+      break;
+    case ColumnType::Long:
+      store(buffer, narrowed<std::int32_t>(statement_.integer(at), table_, column));
+      break;
+    case ColumnType::Currency:
+      store(buffer, statement_.integer(at));
+      break;
+    case ColumnType::Single:
+      store(buffer, static_cast<float>(sqlite3_column_double(statement, at)));
+      break;
     case ColumnType::Double:
-    case ColumnType::Date: store(buffer, sqlite3_column_double(statement, at)); break;
+    case ColumnType::Date:
+      store(buffer, sqlite3_column_double(statement, at));
+      break;
     case ColumnType::Numeric:
       buffer.resize(17);
       decimalToBytes(parseDecimal(text(), column.scale), std::span<std::byte, 17>(buffer.data(), 17));
@@ -201,8 +249,12 @@ file::FieldBytes ImageRows::encode(std::size_t index) {
   return {false, buffer};
 }
 
-std::string tableName(std::uint32_t page) { return "t" + std::to_string(page); }
+std::string tableName(std::uint32_t page) {
+  return "t" + std::to_string(page);
+}
 
-std::string columnName(std::uint16_t number) { return "c" + std::to_string(number); }
+std::string columnName(std::uint16_t number) {
+  return "c" + std::to_string(number);
+}
 
 }  // namespace jet::image

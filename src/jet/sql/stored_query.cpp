@@ -14,20 +14,20 @@ namespace {
 // Flag bits of the options row.
 constexpr std::int16_t AllColumns = 1, Distinct = 2, DistinctRow = 8, HasTop = 0x10, TopPercent = 0x20;
 // Flag of the kind row, by kind.
-const std::map<QueryKind, std::int16_t> KindFlags = {
-    {QueryKind::Select, 1}, {QueryKind::Append, 3},         {QueryKind::Update, 4},
-    {QueryKind::Delete, 5}, {QueryKind::DataDefinition, 7}, {QueryKind::Union, 9}};
+const std::map<QueryKind, std::int16_t> KindFlags = {{QueryKind::Select, 1},         {QueryKind::Append, 3},
+                                                     {QueryKind::Update, 4},         {QueryKind::Delete, 5},
+                                                     {QueryKind::DataDefinition, 7}, {QueryKind::Union, 9}};
 // Flag of an output row that is one of VALUES.
 constexpr std::int16_t ValueOutput = static_cast<std::int16_t>(0x8000);
 constexpr const char* UnionHalves[] = {"X7YZ_____1", "X7YZ_____2"};
 
 // Types of parameters by their name in the language.
 const std::map<std::string, std::int16_t, std::less<>> ParameterTypes = {
-    {"VALUE", 0},   {"BIT", 1},    {"YESNO", 1},      {"BOOLEAN", 1},  {"BYTE", 2},      {"SHORT", 3},
-    {"INTEGER", 4}, {"LONG", 4},   {"CURRENCY", 5},   {"MONEY", 5},    {"SINGLE", 6},    {"IEEESINGLE", 6},
-    {"DOUBLE", 7},  {"FLOAT", 7},  {"IEEEDOUBLE", 7}, {"DATETIME", 8}, {"DATE", 8},      {"TIME", 8},
-    {"BINARY", 9},  {"TEXT", 10},  {"STRING", 10},    {"CHAR", 10},    {"LONGBINARY", 11}, {"MEMO", 12},
-    {"LONGTEXT", 12}, {"GUID", 15}, {"DECIMAL", 16},  {"NUMERIC", 16}};
+    {"VALUE", 0},     {"BIT", 1},   {"YESNO", 1},      {"BOOLEAN", 1},  {"BYTE", 2},        {"SHORT", 3},
+    {"INTEGER", 4},   {"LONG", 4},  {"CURRENCY", 5},   {"MONEY", 5},    {"SINGLE", 6},      {"IEEESINGLE", 6},
+    {"DOUBLE", 7},    {"FLOAT", 7}, {"IEEEDOUBLE", 7}, {"DATETIME", 8}, {"DATE", 8},        {"TIME", 8},
+    {"BINARY", 9},    {"TEXT", 10}, {"STRING", 10},    {"CHAR", 10},    {"LONGBINARY", 11}, {"MEMO", 12},
+    {"LONGTEXT", 12}, {"GUID", 15}, {"DECIMAL", 16},   {"NUMERIC", 16}};
 
 [[noreturn]] void cannotKeep(const char* what) {
   throw runtime::Error(3129, "DAO.QueryDef", std::string("Istruzione SQL non memorizzabile: ") + what);
@@ -78,12 +78,14 @@ void addSources(Rows& rows, const tree::Source& source) {
              source.node);
 }
 
-/// The table of a join's side that is named in the row: the last one of the left side, the first of the right.
+/// The table of a join's side that is named in the row: the last one of the left side, the first of the
+/// right.
 std::string sideName(const tree::Source& source, bool left) {
   return std::visit(
-      Overloaded{[](const tree::TableSource& table) { return table.alias.empty() ? table.name : table.alias; },
-                 [](const tree::QuerySource& query) { return query.alias; },
-                 [&](const tree::Join& join) { return sideName(left ? *join.right : *join.left, left); }},
+      Overloaded{
+          [](const tree::TableSource& table) { return table.alias.empty() ? table.name : table.alias; },
+          [](const tree::QuerySource& query) { return query.alias; },
+          [&](const tree::Join& join) { return sideName(left ? *join.right : *join.left, left); }},
       source.node);
 }
 
@@ -141,7 +143,8 @@ void addSelect(Rows& rows, const tree::Select& select) {
   }
   if (select.distinct) options |= Distinct;
   if (select.distinctRow) options |= DistinctRow;
-  if (select.top) options = static_cast<std::int16_t>(options | HasTop | (select.top->percent ? TopPercent : 0));
+  if (select.top)
+    options = static_cast<std::int16_t>(options | HasTop | (select.top->percent ? TopPercent : 0));
   auto& row = rows.add(QueryRow::Options);
   row.flag = options;
   if (select.top) row.name1 = std::to_string(select.top->count);
@@ -266,19 +269,19 @@ StoredQuery takeApart(std::string_view sql) {
   addParameters(rows, statement.parameters);
   Rows clauses;
   std::optional<std::string> target, definition;
-  const QueryKind kind = std::visit(
-      Overloaded{[&](tree::Query& query) { return addQuery(clauses, query); },
-                 [&](const tree::Update& update) { return addUpdate(clauses, update); },
-                 [&](const tree::Delete& deletion) { return addDelete(clauses, deletion); },
-                 [&](tree::Insert& insert) {
-                   target = insert.table.text;
-                   return addInsert(clauses, insert);
-                 },
-                 [&](const auto&) {
-                   definition = std::string(sql) + '\0';
-                   return QueryKind::DataDefinition;
-                 }},
-      statement.body);
+  const QueryKind kind =
+      std::visit(Overloaded{[&](tree::Query& query) { return addQuery(clauses, query); },
+                            [&](const tree::Update& update) { return addUpdate(clauses, update); },
+                            [&](const tree::Delete& deletion) { return addDelete(clauses, deletion); },
+                            [&](tree::Insert& insert) {
+                              target = insert.table.text;
+                              return addInsert(clauses, insert);
+                            },
+                            [&](const auto&) {
+                              definition = std::string(sql) + '\0';
+                              return QueryKind::DataDefinition;
+                            }},
+                 statement.body);
   auto& row = rows.add(QueryRow::Kind);
   row.flag = KindFlags.at(kind);
   row.name1 = target;

@@ -11,13 +11,28 @@ namespace jet::sql {
 
 /// Kinds of query, as the catalogue's Flags tell them.
 enum class QueryKind : std::uint8_t {
-  Select = 0x00, Delete = 0x20, Update = 0x30, Append = 0x40, DataDefinition = 0x60, Union = 0x80
+  Select = 0x00,
+  Delete = 0x20,
+  Update = 0x30,
+  Append = 0x40,
+  DataDefinition = 0x60,
+  Union = 0x80
 };
 
 struct QueryRow {
   enum Attribute : std::uint8_t {
-    Start = 0, Kind = 1, Parameter = 2, Options = 3, Source = 5, Output = 6, Join = 7, Where = 8, GroupBy = 9,
-    Having = 10, OrderBy = 11, End = 255
+    Start = 0,
+    Kind = 1,
+    Parameter = 2,
+    Options = 3,
+    Source = 5,
+    Output = 6,
+    Join = 7,
+    Where = 8,
+    GroupBy = 9,
+    Having = 10,
+    OrderBy = 11,
+    End = 255
   };
   Attribute attribute = Start;
   std::uint32_t order = 1;  // counts from 1 within an attribute
@@ -30,8 +45,8 @@ struct StoredQuery {
   std::vector<QueryRow> rows;
 };
 
-/// Takes the text of a query apart. Error 3075 and kin for syntax, 3129 for what can't be kept as rows: a join over
-/// a sub-query, a union of more than two halves.
+/// Takes the text of a query apart. Error 3075 and kin for syntax, 3129 for what can't be kept as rows: a
+/// join over a sub-query, a union of more than two halves.
 StoredQuery takeApart(std::string_view sql);
 
 }  // namespace jet::sql
