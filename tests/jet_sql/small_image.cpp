@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "jet/image/connection.h"
 #include "jet/file/text_key.h"
+#include "jet/image/connection.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/syntax_error.h"

@@ -10,9 +10,9 @@
 /// Rows on their way between file, image and writer.
 namespace jet::file {
 
-/// One field of a row, in file form: numbers little endian; a Boolean one byte 0 or 1, never null; Text and Memo
-/// as stored (UTF-16LE, or compressed behind FF FE; Jet 3: code page bytes); OLE, Binary and Raw their bytes;
-/// Guid 16 and Numeric 17 bytes as the format has them. Points into a buffer of whoever made the row.
+/// One field of a row, in file form: numbers little endian; a Boolean one byte 0 or 1, never null; Text and
+/// Memo as stored (UTF-16LE, or compressed behind FF FE; Jet 3: code page bytes); OLE, Binary and Raw their
+/// bytes; Guid 16 and Numeric 17 bytes as the format has them. Points into a buffer of whoever made the row.
 struct FieldBytes {
   bool null = true;
   std::span<const std::byte> bytes;

@@ -23,7 +23,8 @@ bool isLow(char32_t unit) {
   return unit >= 0xDC00 && unit < 0xE000;
 }
 
-/// Joins surrogates on their way to UTF-8, across a change of mode too.
+/// Joins surrogates on their way to UTF-8, across a change of mode too. One that stands alone keeps its value
+/// in the three bytes that any unit gets, so that a row written back is the row that was read.
 class Utf16Decoder {
  public:
   explicit Utf16Decoder(std::string& out) : out_(out) {}
@@ -33,17 +34,17 @@ class Utf16Decoder {
       const char32_t high = high_;
       high_ = 0;
       if (isLow(unit)) return appendUtf8(0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00), out_);
-      appendUtf8(Replacement, out_);
+      appendUtf8(high, out_);
     }
     if (unit < 0x80)
       out_.push_back(static_cast<char>(unit));
     else if (isHigh(unit))
       high_ = unit;
     else
-      appendUtf8(isLow(unit) ? Replacement : unit, out_);
+      appendUtf8(unit, out_);
   }
   void end() {
-    if (high_ != 0) appendUtf8(Replacement, out_);
+    if (high_ != 0) appendUtf8(high_, out_);
   }
 
  private:
@@ -126,7 +127,7 @@ char32_t nextCharacter(std::string_view utf8, std::size_t& at) {
     value = value << 6 | (static_cast<unsigned char>(utf8[at++]) & 0x3Fu);
   }
   constexpr char32_t Least[] = {0, 0x80, 0x800, 0x10000};
-  const bool wrong = value < Least[more] || isHigh(value) || isLow(value) || value > 0x10FFFF;
+  const bool wrong = value < Least[more] || value > 0x10FFFF;
   return wrong ? Replacement : value;
 }
 

@@ -12,8 +12,8 @@
 namespace jet::file {
 
 /// Appends the UTF-8 of a Text or Memo field as the file holds it (FieldBytes); `codePage` is the header's,
-/// used by Jet 3. A lone surrogate becomes U+FFFD. Error 3343 for half a character, or for a character
-/// outside ASCII in a code page other than 1252.
+/// used by Jet 3. A lone surrogate keeps its value, in three bytes. Error 3343 for half a character, or for a
+/// character outside ASCII in a code page other than 1252.
 void appendText(const Format& format, std::span<const std::byte> field, std::string& out,
                 std::uint16_t codePage = 1252);
 /// The same for a name in a definition or property block, which is never compressed.
