@@ -107,39 +107,44 @@ void KeysetRecordset::CancelUpdate() {
 void KeysetRecordset::Update() {
   requireChangeable();
   if (mode_ == Mode::Browse) throw runtime::Error(3020, Source, "Update o CancelUpdate senza AddNew o Edit");
-  auto& image = session_->image();
-  const auto& table = image.definition(page());
   std::vector<std::size_t> given;
   for (std::size_t i = 0; i < edits_.size(); ++i)
     if (edits_[i]) given.push_back(i);
-  std::string sql;
-  if (mode_ == Mode::Edit) {
-    if (given.empty()) {
-      mode_ = Mode::Browse;
-      return;
-    }
-    for (const auto field : given)
-      sql += (sql.empty() ? "UPDATE " + image::tableName(page()) + " SET " : std::string(", ")) +
-             image::columnName(columns_[field]) + " = ?" + std::to_string(field + 1);
-    sql += " WHERE rowid = " + std::to_string(keys_[static_cast<std::size_t>(position_)]);
-  } else {
-    std::string names, values;
-    for (const auto field : given) {
-      names += (names.empty() ? "" : ", ") + image::columnName(columns_[field]);
-      values += (values.empty() ? "?" : ", ?") + std::to_string(field + 1);
-    }
-    sql = "INSERT INTO " + image::tableName(page()) +
-          (names.empty() ? " DEFAULT VALUES" : "(" + names + ") VALUES (" + values + ")");
-  }
+  if (mode_ == Mode::Add || !given.empty()) store(given);
+  mode_ = Mode::Browse;
+  fetched_ = false;
+}
+
+void KeysetRecordset::store(const std::vector<std::size_t>& given) {
+  auto& image = session_->image();
   image.prepareToChange(page(), {});
-  auto statement = image.connection().prepare(sql);
+  auto statement = image.connection().prepare(mode_ == Mode::Edit ? updateSql(given) : insertSql(given));
+  const auto& table = image.definition(page()).name;
   for (const auto field : given)
-    bindField(statement, static_cast<int>(field + 1), *edits_[field], column(field), table.name);
+    bindField(statement, static_cast<int>(field + 1), *edits_[field], column(field), table);
   statement.run();
   image.markChanged(page());
   if (mode_ == Mode::Add) keys_.push_back(sqlite3_last_insert_rowid(image.connection().handle()));
-  mode_ = Mode::Browse;
-  fetched_ = false;
+}
+
+std::string KeysetRecordset::updateSql(const std::vector<std::size_t>& given) const {
+  std::string assignments;
+  for (const auto field : given)
+    assignments += (assignments.empty() ? "" : ", ") + image::columnName(columns_[field]) + " = ?" +
+                   std::to_string(field + 1);
+  return "UPDATE " + image::tableName(page()) + " SET " + assignments +
+         " WHERE rowid = " + std::to_string(keys_[static_cast<std::size_t>(position_)]);
+}
+
+std::string KeysetRecordset::insertSql(const std::vector<std::size_t>& given) const {
+  const std::string insert = "INSERT INTO " + image::tableName(page());
+  if (given.empty()) return insert + " DEFAULT VALUES";
+  std::string names, values;
+  for (const auto field : given) {
+    names += (names.empty() ? "" : ", ") + image::columnName(columns_[field]);
+    values += (values.empty() ? "?" : ", ?") + std::to_string(field + 1);
+  }
+  return insert + "(" + names + ") VALUES (" + values + ")";
 }
 
 void KeysetRecordset::Delete() {

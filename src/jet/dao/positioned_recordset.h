@@ -80,6 +80,10 @@ class KeysetRecordset : public PositionedRecordset {
   /// Reads the current record; error 3167 if it was deleted, 3021 if there is none.
   void fetch() const;
   void requireChangeable() const;
+  /// Writes the edits of the fields `given` into the current record, or as a new one.
+  void store(const std::vector<std::size_t>& given);
+  std::string updateSql(const std::vector<std::size_t>& given) const;
+  std::string insertSql(const std::vector<std::size_t>& given) const;
   std::uint32_t page() const { return plan_.tables[0].page; }
   const file::Column& column(std::size_t field) const;
 

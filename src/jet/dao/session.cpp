@@ -9,17 +9,6 @@ namespace {
 
 constexpr char Source[] = "DAO.Database";
 
-/// The whole new file in place of the old one, open and locked.
-platform::File publish(image::Image& image, const std::string& path) {
-  try {
-    platform::Replacement replacement(path);
-    image.write(replacement.file());
-    return replacement.publish(platform::LockMode::Exclusive);
-  } catch (const platform::DiskError& error) {
-    throw file::fromDisk(error, path);
-  }
-}
-
 }  // namespace
 
 Session::Session(std::unique_ptr<file::PageFile> source)
@@ -40,14 +29,24 @@ StatementRunner& Session::runner() {
 
 void Session::save() {
   if (!image().changed()) return;
+  try {
+    image_->rebase(std::make_unique<file::PageFile>(publish(), sharing_, readOnly_));
+  } catch (const platform::DiskError& error) {
+    throw file::fromDisk(error, path_);
+  }
+}
+
+platform::File Session::publish() {
+  const bool shared = sharing_ == file::Sharing::Shared;
   auto& old = image_->source().file();
-  if (sharing_ == file::Sharing::Shared && !old.tryLock(platform::LockMode::Exclusive))
-    throw file::heldElsewhere(path_);
+  if (shared && !old.tryLock(platform::LockMode::Exclusive)) throw file::heldElsewhere(path_);
   if (!old.isStillAt(path_))
     throw runtime::Error(3197, Source, "Il database è stato modificato da un altro utente: " + path_);
-  auto written = publish(*image_, path_);
-  if (sharing_ == file::Sharing::Shared) written.tryLock(platform::LockMode::Shared);
-  image_->rebase(std::make_unique<file::PageFile>(std::move(written), sharing_, readOnly_));
+  platform::Replacement replacement(path_);
+  image_->write(replacement.file());
+  auto written = replacement.publish(platform::LockMode::Exclusive);
+  if (shared && !written.tryLock(platform::LockMode::Shared)) throw file::heldElsewhere(path_);
+  return written;
 }
 
 void Session::release() {

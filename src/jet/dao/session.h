@@ -31,6 +31,9 @@ class Session {
   bool closed = false;  // its Database is closed, and a transaction keeps it
 
  private:
+  /// Puts the whole new file in place of the old one; gives it open and locked as the old one was.
+  platform::File publish();
+
   std::string path_;
   file::Sharing sharing_;
   bool readOnly_;
