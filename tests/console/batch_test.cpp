@@ -77,23 +77,28 @@ TEST(Batch, RefusesWhatItCanNotBegin) {
 TEST(Batch, LeavesAFileThatIsNoUsableDatabaseAsItIs) {
   Office office;
   const std::string good = platform::readWholeFile(office.target);
-  std::string old = good;
-  old[0x14] = 0;  // the version of Jet 3
+  const auto with = [&](std::size_t place, char mask) {
+    std::string changed = good;
+    changed[place] = static_cast<char>(changed[place] ^ mask);
+    return changed;
+  };
   const struct {
     const char* name;
     std::string content;
-  } cases[] = {{"no database", std::string(8192, 'x')},
-               {"text", "Gentile collega,"},
-               {"empty", ""},
-               {"half a page", good.substr(0, 2000)},
-               {"truncated", good.substr(0, good.size() / 2)},
-               {"Jet 3", old}};
+    const char* number;
+  } cases[] = {{"no database", std::string(8192, 'x'), "3343"},
+               {"text", "Gentile collega,", "3343"},
+               {"empty", "", "3343"},
+               {"half a page", good.substr(0, 2000), "3343"},
+               {"truncated", good.substr(0, good.size() / 2 + 100), "3343"},
+               {"password", with(0x42, 'x'), "3031"}};
   for (const auto& test : cases) {
     SCOPED_TRACE(test.name);
     platform::writeWholeFile(office.target, test.content);
     const auto result = batch(office.batch());
     EXPECT_EQ(result.status, console::FailedUnchanged);
-    EXPECT_THAT(result.out, testing::ContainsRegex("\nErrore: [0-9]+\n[^\n]+\n\nAggiornamento annullato!\n"));
+    EXPECT_THAT(result.out, testing::ContainsRegex(std::string("\nErrore: ") + test.number +
+                                                   "\n[^\n]+\n\nAggiornamento annullato!\n"));
     EXPECT_EQ(platform::readWholeFile(office.target), test.content);
   }
 }
