@@ -50,11 +50,15 @@ Measure runChild(const std::vector<std::string>& command) {
   return {passed.count(), static_cast<double>(usage.ru_maxrss) / 1024};
 }
 
+Measure middle(std::vector<Measure> runs) {
+  std::sort(runs.begin(), runs.end(), [](const auto& a, const auto& b) { return a.seconds < b.seconds; });
+  return runs[runs.size() / 2];
+}
+
 Measure medianOf(int times, const std::vector<std::string>& command) {
   std::vector<Measure> runs;
   for (int i = 0; i < times; ++i) runs.push_back(runChild(command));
-  std::sort(runs.begin(), runs.end(), [](const auto& a, const auto& b) { return a.seconds < b.seconds; });
-  return runs[runs.size() / 2];
+  return middle(std::move(runs));
 }
 
 }  // namespace bench

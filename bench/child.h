@@ -15,7 +15,9 @@ struct Measure {
 /// with a message if the child fails: a figure of something that didn't happen is worth nothing.
 Measure runChild(const std::vector<std::string>& command);
 
-/// The run of the middle time among `times` of them; an odd number.
+/// The one of the middle time; an odd number of them.
+Measure middle(std::vector<Measure> runs);
+/// The run of the middle time among `times` of them.
 Measure medianOf(int times, const std::vector<std::string>& command);
 
 }  // namespace bench

@@ -26,7 +26,7 @@ std::string trimmed(std::string_view text) {
 std::string takeName(std::string& text) {
   const bool bracketed = text.starts_with('[') && text.find(']') != std::string::npos;
   const auto end = bracketed ? text.find(']') : text.find_first_of(blanks);
-  const std::string name = bracketed ? text.substr(1, end - 1) : text.substr(0, end);
+  std::string name = bracketed ? text.substr(1, end - 1) : text.substr(0, end);
   text = end == std::string::npos ? "" : trimmed(std::string_view(text).substr(end + (bracketed ? 1 : 0)));
   return name;
 }
