@@ -8,6 +8,29 @@
 
 namespace jet::file {
 
+std::size_t valueSize(ColumnType type) {
+  switch (type) {
+    case ColumnType::Boolean:
+    case ColumnType::Byte:
+      return 1;
+    case ColumnType::Integer:
+      return 2;
+    case ColumnType::Long:
+    case ColumnType::Single:
+      return 4;
+    case ColumnType::Currency:
+    case ColumnType::Double:
+    case ColumnType::Date:
+      return 8;
+    case ColumnType::Guid:
+      return 16;
+    case ColumnType::Numeric:
+      return 17;
+    default:
+      return 0;
+  }
+}
+
 std::optional<std::size_t> TableDefinition::find(std::string_view columnName) const {
   // The exact spelling is the usual case and costs no keys.
   for (std::size_t i = 0; i < columns.size(); ++i)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -34,6 +35,9 @@ constexpr bool isLongValue(ColumnType type) {
 constexpr bool isText(ColumnType type) {
   return type == ColumnType::Text || type == ColumnType::Memo;
 }
+
+/// Bytes of a field of the type in file form; 0 where they differ from value to value.
+std::size_t valueSize(ColumnType type);
 
 /// Row of a page that holds something: a record, a usage map. Page 0 row 0 means none.
 struct RowPointer {

@@ -17,29 +17,6 @@ constexpr std::size_t IndexColumns = 10;
 constexpr std::uint16_t NoColumn = 0xFFFF, EndMark = 0xFFFF;
 constexpr std::uint8_t SystemKind = 0x53;
 
-/// Bytes in the file of a value of the type, where they are the same for all columns.
-std::optional<std::size_t> sizeOf(ColumnType type) {
-  switch (type) {
-    case ColumnType::Byte:
-      return 1;
-    case ColumnType::Integer:
-      return 2;
-    case ColumnType::Long:
-    case ColumnType::Single:
-      return 4;
-    case ColumnType::Currency:
-    case ColumnType::Double:
-    case ColumnType::Date:
-      return 8;
-    case ColumnType::Guid:
-      return 16;
-    case ColumnType::Numeric:
-      return 17;
-    default:
-      return std::nullopt;
-  }
-}
-
 bool isKnown(std::uint8_t type) {
   return (type >= 1 && type <= 12) || (type >= 15 && type <= 17);
 }
@@ -176,7 +153,8 @@ class DefinitionParser {
       if (column.fixed() && (column.fixedOffset + column.length > static_cast<int>(format_.pageSize) ||
                              isLongValue(column.type)))
         wrong("posto errato");
-      if (column.fixed() && column.length != sizeOf(column.type).value_or(column.length))
+      if (column.fixed() && column.type != ColumnType::Boolean && valueSize(column.type) != 0 &&
+          column.length != valueSize(column.type))
         wrong("lunghezza errata");
       if (!column.fixed() && column.slot >= table_.variableColumns) wrong("posto errato");
     }

@@ -16,7 +16,8 @@ namespace {
 //   +0E       no primary: the value adds to the diacritic before
 //   '80       no primary: noted by its position with this byte
 //   ...=3     the same for three code units
-//   ...*254   for as many code units, each primary one above the one before; a last byte of FF is followed by 02
+//   ...*254   for as many code units, each primary one above the one before; a last byte of FF is followed by
+//   02
 // Code units that no word names count for nothing.
 // clang-format off
 constexpr std::string_view Words = R"(

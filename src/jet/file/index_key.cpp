@@ -117,31 +117,8 @@ void appendTextColumn(const Column& column, Value field, bool ascending, Bytes& 
   key.push_back(std::byte{0});
 }
 
-std::size_t fixedSize(ColumnType type) {
-  switch (type) {
-    case ColumnType::Boolean:
-    case ColumnType::Byte:
-      return 1;
-    case ColumnType::Integer:
-      return 2;
-    case ColumnType::Long:
-    case ColumnType::Single:
-      return 4;
-    case ColumnType::Currency:
-    case ColumnType::Double:
-    case ColumnType::Date:
-      return 8;
-    case ColumnType::Guid:
-      return 16;
-    case ColumnType::Numeric:
-      return 17;
-    default:
-      return 0;
-  }
-}
-
 void appendValue(const Column& column, Value value, bool ascending, Bytes& key) {
-  const std::size_t size = fixedSize(column.type);
+  const std::size_t size = valueSize(column.type);
   if (size != 0 && value.size() != size) damagedValue(column, value.size());
   switch (column.type) {
     case ColumnType::Boolean:

@@ -15,7 +15,7 @@ using file::LogicalIndex;
 using file::RealIndex;
 
 constexpr std::size_t MaxColumns = 255, MaxIndexes = 32, MaxIndexColumns = 10, MaxNameLength = 64;
-constexpr std::uint16_t DefaultTextSize = 255;
+constexpr std::uint16_t DefaultTextSize = 255, DefaultBinarySize = 510;
 
 [[noreturn]] void fail(int number, std::string description) {
   throw runtime::Error(number, "DAO.TableDef", std::move(description));
@@ -23,30 +23,9 @@ constexpr std::uint16_t DefaultTextSize = 255;
 
 /// Bytes that the definition gives as a column's length.
 std::uint16_t definitionLength(ColumnType type, std::uint16_t size) {
-  switch (type) {
-    case ColumnType::Boolean:
-    case ColumnType::Byte:
-      return 1;
-    case ColumnType::Integer:
-      return 2;
-    case ColumnType::Long:
-    case ColumnType::Single:
-      return 4;
-    case ColumnType::Currency:
-    case ColumnType::Double:
-    case ColumnType::Date:
-      return 8;
-    case ColumnType::Guid:
-      return 16;
-    case ColumnType::Numeric:
-      return 17;
-    case ColumnType::Text:
-      return static_cast<std::uint16_t>(2 * (size == 0 ? DefaultTextSize : size));
-    case ColumnType::Binary:
-      return size == 0 ? 510 : size;
-    default:
-      return 0;
-  }
+  if (type == ColumnType::Text) return static_cast<std::uint16_t>(2 * (size == 0 ? DefaultTextSize : size));
+  if (type == ColumnType::Binary) return size == 0 ? DefaultBinarySize : size;
+  return static_cast<std::uint16_t>(file::valueSize(type));
 }
 
 bool isVariable(ColumnType type) {

@@ -16,30 +16,6 @@ using file::ColumnType;
 // plain.
 constexpr std::size_t CompressedMemoLength = 32;
 
-/// Bytes of a value of fixed size; 0 for the others.
-std::size_t fixedSize(ColumnType type) {
-  switch (type) {
-    case ColumnType::Boolean:
-    case ColumnType::Byte:
-      return 1;
-    case ColumnType::Integer:
-      return 2;
-    case ColumnType::Long:
-    case ColumnType::Single:
-      return 4;
-    case ColumnType::Currency:
-    case ColumnType::Double:
-    case ColumnType::Date:
-      return 8;
-    case ColumnType::Guid:
-      return 16;
-    case ColumnType::Numeric:
-      return 17;
-    default:
-      return 0;
-  }
-}
-
 template <typename T>
 T load(std::span<const std::byte> bytes) {
   T value;
@@ -54,7 +30,7 @@ void store(std::vector<std::byte>& buffer, T value) {
 }
 
 void checkSize(const file::TableDefinition& table, const file::Column& column, std::size_t size) {
-  const std::size_t expected = fixedSize(column.type);
+  const std::size_t expected = file::valueSize(column.type);
   if (expected != 0 && size != expected)
     throw runtime::Error(3343, "DAO.Database",
                          "Valore di lunghezza errata - tabella " + table.name + " - campo " + column.name);
