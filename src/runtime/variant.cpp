@@ -6,15 +6,11 @@
 #include "runtime/date.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
+#include "runtime/overloaded.h"
 
 namespace runtime {
 
 namespace {
-
-template <class... Cases>
-struct Overloaded : Cases... {
-  using Cases::operator()...;
-};
 
 constexpr int singleDigits = 7;
 constexpr int doubleDigits = 15;

@@ -15,8 +15,8 @@ class FieldOwner {
   virtual std::string fieldName(std::size_t index) const = 0;
   virtual void renameField(std::size_t index, const std::string& name) = 0;
   virtual int fieldType(std::size_t index) const = 0;  // DataType
-  virtual int fieldSize(
-      std::size_t index) const = 0;  // text: characters; binary: bytes; else bytes of the type
+  /// Text: characters; binary: bytes; otherwise bytes of the type.
+  virtual int fieldSize(std::size_t index) const = 0;
   virtual int fieldAttributes(std::size_t index) const = 0;  // FieldAttribute bits
   virtual runtime::Variant fieldValue(std::size_t index) const = 0;
   virtual void setFieldValue(std::size_t index, const runtime::Variant& value) = 0;

@@ -2,19 +2,13 @@
 
 #include "jet/dao/values.h"
 #include "jet/sql/functions.h"
+#include "runtime/overloaded.h"
 
 namespace jet::dao {
 
 namespace {
 
 constexpr char Source[] = "DAO.Database";
-
-template <typename... Cases>
-struct Overloaded : Cases... {
-  using Cases::operator()...;
-};
-template <typename... Cases>
-Overloaded(Cases...) -> Overloaded<Cases...>;
 
 void bindAnswers(image::Statement& statement, const sql::RowStatement& plan, const Answers& answers) {
   for (std::size_t i = 0; i < plan.parameters.size(); ++i) {
@@ -80,13 +74,14 @@ image::Statement StatementRunner::prepareInto(const std::string& prefix, const s
 
 std::int64_t StatementRunner::execute(const sql::Statement& statement, const Answers& answers) {
   return std::visit(
-      Overloaded{[&](const sql::RowStatement& plan) { return change(plan, answers); },
-                 [&](const sql::CreateTable& table) { return create(table), std::int64_t{0}; },
-                 [&](const sql::CreateIndex& index) { return createIndex(index), std::int64_t{0}; },
-                 [&](const sql::DropTable& table) { return image_.dropTable(table.table), std::int64_t{0}; },
-                 [&](const sql::DropIndex& index) {
-                   return image_.dropIndex(index.table, index.name), std::int64_t{0};
-                 }},
+      runtime::Overloaded{
+          [&](const sql::RowStatement& plan) { return change(plan, answers); },
+          [&](const sql::CreateTable& table) { return create(table), std::int64_t{0}; },
+          [&](const sql::CreateIndex& index) { return createIndex(index), std::int64_t{0}; },
+          [&](const sql::DropTable& table) { return image_.dropTable(table.table), std::int64_t{0}; },
+          [&](const sql::DropIndex& index) {
+            return image_.dropIndex(index.table, index.name), std::int64_t{0};
+          }},
       statement);
 }
 

@@ -1,5 +1,4 @@
 // Changes of design: tables, indexes and columns made, renamed and dropped, with their catalogue rows.
-#include "jet/file/text.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 #include "jet/image/row_codec.h"

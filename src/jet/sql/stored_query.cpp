@@ -6,6 +6,7 @@
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/tree/print.h"
 #include "runtime/error.h"
+#include "runtime/overloaded.h"
 
 namespace jet::sql {
 
@@ -33,13 +34,6 @@ const std::map<std::string, std::int16_t, std::less<>> ParameterTypes = {
   throw runtime::Error(3129, "DAO.QueryDef", std::string("Istruzione SQL non memorizzabile: ") + what);
 }
 
-template <typename... Cases>
-struct Overloaded : Cases... {
-  using Cases::operator()...;
-};
-template <typename... Cases>
-Overloaded(Cases...) -> Overloaded<Cases...>;
-
 /// Collects the rows of one query.
 class Rows {
  public:
@@ -61,20 +55,20 @@ class Rows {
 };
 
 void addSources(Rows& rows, const tree::Source& source) {
-  std::visit(Overloaded{[&](const tree::TableSource& table) {
-                          auto& row = rows.add(QueryRow::Source);
-                          row.name1 = table.name;
-                          if (!table.alias.empty()) row.name2 = table.alias;
-                        },
-                        [&](const tree::QuerySource& query) {
-                          auto& row = rows.add(QueryRow::Source);
-                          row.expression = tree::print(*query.query);
-                          row.name2 = query.alias;
-                        },
-                        [&](const tree::Join& join) {
-                          addSources(rows, *join.left);
-                          addSources(rows, *join.right);
-                        }},
+  std::visit(runtime::Overloaded{[&](const tree::TableSource& table) {
+                                   auto& row = rows.add(QueryRow::Source);
+                                   row.name1 = table.name;
+                                   if (!table.alias.empty()) row.name2 = table.alias;
+                                 },
+                                 [&](const tree::QuerySource& query) {
+                                   auto& row = rows.add(QueryRow::Source);
+                                   row.expression = tree::print(*query.query);
+                                   row.name2 = query.alias;
+                                 },
+                                 [&](const tree::Join& join) {
+                                   addSources(rows, *join.left);
+                                   addSources(rows, *join.right);
+                                 }},
              source.node);
 }
 
@@ -82,7 +76,7 @@ void addSources(Rows& rows, const tree::Source& source) {
 /// right.
 std::string sideName(const tree::Source& source, bool left) {
   return std::visit(
-      Overloaded{
+      runtime::Overloaded{
           [](const tree::TableSource& table) { return table.alias.empty() ? table.name : table.alias; },
           [](const tree::QuerySource& query) { return query.alias; },
           [&](const tree::Join& join) { return sideName(left ? *join.right : *join.left, left); }},
@@ -269,19 +263,19 @@ StoredQuery takeApart(std::string_view sql) {
   addParameters(rows, statement.parameters);
   Rows clauses;
   std::optional<std::string> target, definition;
-  const QueryKind kind =
-      std::visit(Overloaded{[&](tree::Query& query) { return addQuery(clauses, query); },
-                            [&](const tree::Update& update) { return addUpdate(clauses, update); },
-                            [&](const tree::Delete& deletion) { return addDelete(clauses, deletion); },
-                            [&](tree::Insert& insert) {
-                              target = insert.table.text;
-                              return addInsert(clauses, insert);
-                            },
-                            [&](const auto&) {
-                              definition = std::string(sql) + '\0';
-                              return QueryKind::DataDefinition;
-                            }},
-                 statement.body);
+  const QueryKind kind = std::visit(
+      runtime::Overloaded{[&](tree::Query& query) { return addQuery(clauses, query); },
+                          [&](const tree::Update& update) { return addUpdate(clauses, update); },
+                          [&](const tree::Delete& deletion) { return addDelete(clauses, deletion); },
+                          [&](tree::Insert& insert) {
+                            target = insert.table.text;
+                            return addInsert(clauses, insert);
+                          },
+                          [&](const auto&) {
+                            definition = std::string(sql) + '\0';
+                            return QueryKind::DataDefinition;
+                          }},
+      statement.body);
   auto& row = rows.add(QueryRow::Kind);
   row.flag = KindFlags.at(kind);
   row.name1 = target;
