@@ -209,7 +209,7 @@ TEST(Tables, AreListedWithWhatIsComparedAndChanged) {
       "+ 1 > 2");
   ASSERT_EQ(statement.tables.size(), 2u);
   EXPECT_EQ(statement.tables[0].alias, "s");
-  EXPECT_TRUE(statement.tables[0].changed);
+  EXPECT_EQ(statement.tables[0].change, TouchedTable::Change::Update);
   EXPECT_EQ(statement.tables[0].compared, (std::vector<std::uint16_t>{0, 2}));
   EXPECT_EQ(statement.tables[1].page, 11u);
   EXPECT_EQ(statement.tables[1].compared, (std::vector<std::uint16_t>{1}));

@@ -48,7 +48,7 @@ void StatementRunner::ready(const sql::RowStatement& plan) {
   const bool onePass = plan.kind == sql::RowStatement::Kind::Select && plan.tables.size() == 1 &&
                        plan.tables[0].compared.empty();
   for (const auto& table : plan.tables) {
-    if (table.changed)
+    if (table.change != sql::TouchedTable::Change::None)
       image_.prepareToChange(table.page, table.compared);
     else if (onePass && plan.rowKeys == 0)
       image_.prepareToScan(table.page);
@@ -81,6 +81,9 @@ std::int64_t StatementRunner::execute(const sql::Statement& statement, const Ans
           [&](const sql::DropTable& table) { return image_.dropTable(table.table), std::int64_t{0}; },
           [&](const sql::DropIndex& index) {
             return image_.dropIndex(index.table, index.name), std::int64_t{0};
+          },
+          [](const auto&) -> std::int64_t {
+            throw runtime::Error(3219, Source, "Operazione non valida: modifica di struttura");
           }},
       statement);
 }
@@ -94,7 +97,7 @@ std::int64_t StatementRunner::change(const sql::RowStatement& plan, const Answer
   const std::int64_t affected = sqlite3_changes64(image_.connection().handle());
   if (affected > 0)
     for (const auto& table : plan.tables)
-      if (table.changed) image_.markChanged(table.page);
+      if (table.change != sql::TouchedTable::Change::None) image_.markChanged(table.page);
   return affected;
 }
 

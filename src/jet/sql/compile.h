@@ -23,6 +23,8 @@ class Schema {
   virtual const file::TableDefinition* findTable(std::string_view name) const = 0;
   /// The text of a stored query that can stand where a table stands; asked where no table has the name.
   virtual std::optional<std::string> findQuery(std::string_view) const { return std::nullopt; }
+  /// The expression that a new row gets in a column that is given no value; empty where there is none.
+  virtual std::string defaultOf(const file::TableDefinition&, const file::Column&) const { return {}; }
 };
 
 /// A parameter of a statement, declared by PARAMETERS or found as an unknown name; in order of appearance.
@@ -43,7 +45,10 @@ struct TouchedTable {
   std::uint32_t page = 0;               // TableDefinition::page
   std::string alias;                    // as the statement calls it
   std::vector<std::uint16_t> compared;  // Column::number of columns in conditions, joins, grouping or sorting
-  bool changed = false;                 // target of UPDATE, INSERT, DELETE
+  /// What happens to its rows.
+  enum class Change { None, Insert, Update, Delete };
+  Change change = Change::None;
+  std::vector<std::uint16_t> assigned;  // Column::number of the columns that an UPDATE gives values
 };
 
 /// SELECT, UPDATE, INSERT or DELETE as SQLite SQL over the image: table `t<page>`, columns `c<number>`,
@@ -60,8 +65,18 @@ struct RowStatement {
   /// FROM in order (the others belong to sub-queries); Null where an outer join found no row. Zero otherwise:
   /// grouping, DISTINCT, UNION, a query in FROM.
   std::size_t rowKeys = 0;
+  /// UPDATE, INSERT and DELETE in two steps, so that each row can be tried on its own: the rows of `gather`,
+  /// a SELECT, are kept as temp.jet_rows; then each of `apply`, one for each table that is changed, does its
+  /// part for what is there. The answers to the parameters are bound to all of them. `sql` is empty where
+  /// several tables are changed, so that the steps are the only way.
+  struct Steps {
+    std::string gather;
+    std::vector<std::string> apply;
+  };
+  std::optional<Steps> steps;
 };
 
+/// An index, or ALTER TABLE ... ADD CONSTRAINT of a key.
 struct CreateIndex {
   struct Part {
     std::string column;
@@ -72,19 +87,55 @@ struct CreateIndex {
   bool unique = false, primary = false, disallowNull = false, ignoreNull = false;
 };
 
+/// REFERENCES: rows of `table` point at rows of `parent`.
+struct CreateRelation {
+  std::string name, table, parent;
+  std::vector<std::string> columns;        // of `table`
+  std::vector<std::string> parentColumns;  // in the same order; empty: those of the parent's primary key
+  bool cascadeUpdate = false, cascadeDelete = false;
+};
+
+struct NewColumn {
+  std::string name;
+  file::ColumnType type = file::ColumnType::Text;
+  std::uint16_t size = 0;                  // Text: characters (255 if not told), Binary: bytes
+  std::uint8_t precision = 18, scale = 0;  // Numeric
+  bool autoNumber = false;
+  bool notNull = false;
+  std::string defaultValue;  // an expression; empty: none
+};
+
 /// CREATE TABLE; page numbers, slots and offsets are the image's business.
 struct CreateTable {
-  struct NewColumn {
-    std::string name;
-    file::ColumnType type = file::ColumnType::Text;
-    std::uint16_t size = 0;                  // Text: characters (255 if not told), Binary: bytes
-    std::uint8_t precision = 18, scale = 0;  // Numeric
-    bool autoNumber = false;
-    bool notNull = false;
-  };
   std::string table;
   std::vector<NewColumn> columns;
   std::vector<CreateIndex> indexes;  // of its constraints
+  std::vector<CreateRelation> relations;
+};
+
+/// ALTER TABLE ... ADD COLUMN.
+struct AddColumn {
+  std::string table;
+  NewColumn column;
+  std::vector<CreateIndex> indexes;
+  std::vector<CreateRelation> relations;
+};
+/// ALTER TABLE ... ALTER COLUMN: another type, size or rule; the values are converted.
+struct AlterColumn {
+  std::string table;
+  NewColumn column;
+};
+struct DropColumn {
+  std::string table, column;
+};
+/// ALTER TABLE ... DROP CONSTRAINT: an index or a relation of the table.
+struct DropConstraint {
+  std::string table, name;
+};
+/// SELECT ... INTO: a new table of the rows' columns.
+struct SelectInto {
+  std::string table;
+  RowStatement rows;
 };
 
 struct DropTable {
@@ -94,7 +145,8 @@ struct DropIndex {
   std::string table, name;
 };
 
-using Statement = std::variant<RowStatement, CreateTable, CreateIndex, DropTable, DropIndex>;
+using Statement = std::variant<RowStatement, CreateTable, CreateIndex, CreateRelation, AddColumn, AlterColumn,
+                               DropColumn, DropConstraint, SelectInto, DropTable, DropIndex>;
 
 struct Options {
   bool withRowKeys = false;

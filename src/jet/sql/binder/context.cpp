@@ -23,7 +23,7 @@ bound::Expression Context::parameter(const std::string& name) {
 
 unsigned Context::addSource(const file::TableDefinition* table, const std::string& alias) {
   tableOfSource_.push_back(table ? std::optional(tables_.size()) : std::nullopt);
-  if (table) tables_.push_back({table->page, alias, {}, false});
+  if (table) tables_.push_back({table->page, alias, {}, TouchedTable::Change::None, {}});
   return static_cast<unsigned>(tableOfSource_.size() - 1);
 }
 
@@ -36,8 +36,8 @@ void Context::noteCompared(const bound::Expression& expression) {
   if (std::ranges::find(compared, number) == compared.end()) compared.push_back(number);
 }
 
-void Context::noteChanged(unsigned source) {
-  tables_[*tableOfSource_[source]].changed = true;
+void Context::noteChanged(unsigned source, TouchedTable::Change change) {
+  tables_[*tableOfSource_[source]].change = change;
 }
 
 void Context::openStoredQuery(std::size_t position) {

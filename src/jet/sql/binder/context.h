@@ -26,7 +26,7 @@ class Context {
   unsigned addSource(const file::TableDefinition* table, const std::string& alias);
   /// Notes that `expression` is compared, grouped or sorted by, if it is a table's column.
   void noteCompared(const bound::Expression& expression);
-  void noteChanged(unsigned source);
+  void noteChanged(unsigned source, TouchedTable::Change change);
   const std::vector<TouchedTable>& tables() const { return tables_; }
 
   /// Opens one more stored query within those that are open. Error 3360 where they never end.

@@ -9,7 +9,7 @@ namespace {
 using file::ColumnType;
 
 /// Sizes that a type may be told, and the one it has untold.
-void setSize(const tree::TypeName& tree, CreateTable::NewColumn& column) {
+void setSize(const tree::TypeName& tree, NewColumn& column) {
   constexpr unsigned longestText = 255, longestBinary = 510, longestNumber = 28;
   const unsigned size = tree.size.value_or(longestText), scale = tree.scale.value_or(0);
   const auto require = [&](bool holds) {
@@ -47,7 +47,7 @@ Statement bindDefinition(const tree::CreateTable& tree) {
     const NamedType* type = findType(definition.type.name);
     if (!type)
       throw SyntaxError(ColumnDefinitionSyntax, definition.type.name, definition.type.place.position);
-    CreateTable::NewColumn column;
+    NewColumn column;
     column.name = definition.name;
     column.type = type->type;
     column.autoNumber = type->autoNumber;

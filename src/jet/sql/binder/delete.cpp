@@ -14,7 +14,7 @@ bound::Delete Binder::deletion(const tree::Delete& tree) {
   if (!target->table) throw SyntaxError(UpdateImpossible, target->name, position);
   deletion.target = target->source;
   deletion.page = target->table->page;
-  context_.noteChanged(deletion.target);
+  context_.noteChanged(deletion.target, TouchedTable::Change::Delete);
   deletion.where = clause(tree.where);
   return deletion;
 }

@@ -38,7 +38,7 @@ bound::Insert Binder::insert(const tree::Insert& tree) {
   const std::size_t position = tree.table.place.position;
   const file::TableDefinition* table = context_.schema().findTable(tree.table.text);
   if (!table) throw SyntaxError(UnknownTable, tree.table.text, position);
-  context_.noteChanged(context_.addSource(table, tree.table.text));
+  context_.noteChanged(context_.addSource(table, tree.table.text), TouchedTable::Change::Insert);
   bound::Insert insert;
   insert.page = table->page;
   std::vector<bound::Expression> values;

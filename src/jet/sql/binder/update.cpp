@@ -23,7 +23,7 @@ bound::Update Binder::update(const tree::Update& tree) {
   }
   update.target = target->source;
   update.page = target->table->page;
-  context_.noteChanged(update.target);
+  context_.noteChanged(update.target, TouchedTable::Change::Update);
   update.where = clause(tree.where);
   return update;
 }
