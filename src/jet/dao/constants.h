@@ -35,6 +35,18 @@ enum FieldAttribute : int {
   dbHyperlinkField = 32768,
 };
 
+enum QueryDefType : int {
+  dbQSelect = 0,
+  dbQCrosstab = 16,
+  dbQDelete = 32,
+  dbQUpdate = 48,
+  dbQAppend = 64,
+  dbQMakeTable = 80,
+  dbQDDL = 96,
+  dbQSQLPassThrough = 112,
+  dbQSetOperation = 128,
+};
+
 enum RelationAttribute : int {
   dbRelationUnique = 1,
   dbRelationDontEnforce = 2,
