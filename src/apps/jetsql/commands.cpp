@@ -31,6 +31,13 @@ std::string takeName(std::string& text) {
   return name;
 }
 
+/// Without carriage returns, and with a line feed at the end.
+std::string withLineFeeds(std::string text) {
+  std::erase(text, '\r');
+  if (!text.ends_with('\n')) text += '\n';
+  return text;
+}
+
 bool isSystemTable(const std::string& name) {
   static constexpr std::string_view prefix = "msys";
   return name.size() >= prefix.size() &&
@@ -81,11 +88,12 @@ void listRelations(Database& database, const std::string& arguments, Output& out
   }
 }
 
-void storeQuery(Database& database, const std::string& arguments, Output&) {
+/// Shows the text of a stored query, or stores one.
+void keepQuery(Database& database, const std::string& arguments, Output& output) {
   std::string sql = arguments;
   const std::string name = takeName(sql);
-  if (name.empty() || sql.empty())
-    throw runtime::Error(5, "jetsql", ".query vuole un nome e un'istruzione SQL");
+  if (name.empty()) throw runtime::Error(5, "jetsql", ".query vuole il nome di una query");
+  if (sql.empty()) return output.text(withLineFeeds(database.QueryDefs(name)->SQL()));
   database.CreateQueryDef(name, sql)->Close();
 }
 
@@ -94,7 +102,8 @@ constexpr Command table[] = {
     {".schema", "[TABELLA]", "mostra le istruzioni che creano la tabella, o tutte", showDesign},
     {".queries", "", "elenca le query memorizzate", listQueries},
     {".relations", "", "elenca le relazioni", listRelations},
-    {".query", "NOME SQL", "memorizza una query; un nome con spazi va tra parentesi quadre", storeQuery},
+    {".query", "NOME [SQL]", "mostra una query, o la memorizza; un nome con spazi va tra parentesi quadre",
+     keepQuery},
 };
 
 }  // namespace

@@ -41,6 +41,16 @@ enum TableAttribute : int {
   dbHiddenObject = 1,
   dbSystemObject = -2147483646,
   dbAttachedTable = 1073741824,
+enum QueryDefType : int {
+  dbQSelect = 0,
+  dbQCrosstab = 16,
+  dbQDelete = 32,
+  dbQUpdate = 48,
+  dbQAppend = 64,
+  dbQMakeTable = 80,
+  dbQDDL = 96,
+  dbQSQLPassThrough = 112,
+  dbQSetOperation = 128,
 };
 
 enum RelationAttribute : int {

@@ -1,8 +1,8 @@
 #include "jet/dao/session_database.h"
 
 #include "jet/dao/positioned_recordset.h"
+#include "jet/dao/query_defs.h"
 #include "jet/dao/sequential_recordset.h"
-#include "jet/dao/session_query_def.h"
 #include "jet/dao/tables.h"
 
 namespace jet::dao {
@@ -14,7 +14,6 @@ constexpr char Source[] = "DAO.Database";
 // Columns of MSysRelationships (t5), in the order of the query below.
 constexpr char RelationRows[] =
     "SELECT c0, c6, c4, c1, c7, c5 FROM t5 ORDER BY min(rowid) OVER (PARTITION BY c0), c3";
-constexpr char QueryNames[] = "SELECT c2 FROM t2 WHERE c3 = 5 AND substr(c2, 1, 1) <> '~' ORDER BY rowid";
 
 std::string text(const image::Statement& row, int column) {
   const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(row.handle(), column));
@@ -59,8 +58,12 @@ RecordsetPtr SessionDatabase::OpenRecordset(const std::string& source, Recordset
   requireOpen();
   const auto* table = session_->image().find(source);
   if (!table) {
-    if (type == dbOpenTable) throw runtime::Error(3078, Source, "Tabella inesistente: " + source);
-    return openRows(session_, source, {}, type, options);
+    const std::string statement = statementFor(*session_, source);
+    if (type == dbOpenTable) {
+      if (statement == source) throw runtime::Error(3078, Source, "Tabella inesistente: " + source);
+      throw runtime::Error(3219, Source, "Operazione non valida: " + source + " non è una tabella");
+    }
+    return openRows(session_, statement, {}, type, options);
   }
   // Nothing can change under a read-only database, so its rows need not be loaded to be read in order.
   if (session_->readOnly() && (type == dbOpenTable || type == dbOpenForwardOnly))
@@ -70,14 +73,13 @@ RecordsetPtr SessionDatabase::OpenRecordset(const std::string& source, Recordset
 
 QueryDefPtr SessionDatabase::CreateQueryDef(const std::string& name, const std::string& sql) {
   requireOpen();
-  if (!name.empty()) storeQuery(*session_, name, sql);
-  return std::make_shared<SessionQueryDef>(session_, sql);
+  return createQueryDef(session_, name, sql);
 }
 
 void SessionDatabase::Execute(const std::string& sql, int) {
   requireOpen();
   auto& runner = session_->runner();
-  affected_ = runner.execute(runner.compile(sql), {});
+  affected_ = runner.execute(runner.compile(statementFor(*session_, sql)), {});
 }
 
 std::vector<std::string> SessionDatabase::tableNames() const {
@@ -109,12 +111,17 @@ std::vector<Relation> SessionDatabase::Relations() const {
 
 std::vector<std::string> SessionDatabase::queryNames() const {
   requireOpen();
-  auto& image = session_->image();
-  image.prepareToRead(file::CatalogueTable, {});
-  std::vector<std::string> names;
-  auto rows = image.connection().prepare(QueryNames);
-  while (rows.step()) names.push_back(text(rows, 0));
-  return names;
+  return queryDefNames(*session_);
+}
+
+QueryDefPtr SessionDatabase::QueryDefs(std::string_view name) {
+  requireOpen();
+  return queryDef(session_, name);
+}
+
+void SessionDatabase::deleteQueryDef(std::string_view name) {
+  requireOpen();
+  dao::deleteQueryDef(*session_, name);
 }
 
 void SessionDatabase::Close() {

@@ -23,6 +23,8 @@ class SessionDatabase : public Database {
   TableDefPtr TableDefs(std::string_view name) override;
   std::vector<Relation> Relations() const override;
   std::vector<std::string> queryNames() const override;
+  QueryDefPtr QueryDefs(std::string_view name) override;
+  void deleteQueryDef(std::string_view name) override;
   void Close() override;
 
  private:

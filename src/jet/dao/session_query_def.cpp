@@ -15,22 +15,62 @@ void SessionQueryDef::requireOpen() const {
     throw runtime::Error(3420, Source, "Oggetto non valido: la query è chiusa");
 }
 
-const std::vector<sql::Parameter>& SessionQueryDef::parameters() {
+QueryObject SessionQueryDef::object() const {
   requireOpen();
-  if (!parameters_) {
-    const auto statement = session_->runner().compile(sql_);
-    const auto* rows = std::get_if<sql::RowStatement>(&statement);
-    parameters_ = rows ? rows->parameters : std::vector<sql::Parameter>{};
-    answers_.assign(parameters_->size(), std::nullopt);
-  }
-  return *parameters_;
+  auto object = findQueryObject(session_->image(), *storedId_);
+  if (!object) throw runtime::Error(3420, Source, "Oggetto non valido: la query è stata eliminata");
+  return *std::move(object);
+}
+
+std::string SessionQueryDef::Name() const {
+  return storedId_ ? object().name : std::string();
+}
+
+void SessionQueryDef::setName(const std::string& name) {
+  requireOpen();
+  if (!storedId_)
+    throw runtime::Error(3219, Source, "Operazione non valida: una query temporanea non ha nome");
+  session_->image().changeObject(*storedId_, name, object().flags);
+}
+
+int SessionQueryDef::Type() const {
+  requireOpen();
+  return static_cast<int>(storedId_ ? object().kind() : sql::takeApart(sql_).kind);
+}
+
+runtime::Variant SessionQueryDef::DateCreated() const {
+  return storedId_ ? runtime::Variant(object().created) : runtime::Variant(runtime::Null{});
+}
+
+runtime::Variant SessionQueryDef::LastUpdated() const {
+  return storedId_ ? runtime::Variant(object().updated) : runtime::Variant(runtime::Null{});
+}
+
+std::string SessionQueryDef::SQL() const {
+  return storedId_ ? queryText(session_->image(), object()) : sql_;
 }
 
 void SessionQueryDef::setSQL(const std::string& sql) {
   requireOpen();
-  sql_ = sql;
+  if (storedId_)
+    rewriteQuery(session_->image(), object(), sql);
+  else
+    sql_ = sql;
   parameters_.reset();
   answers_.clear();
+}
+
+const std::vector<sql::Parameter>& SessionQueryDef::parameters() {
+  requireOpen();
+  const std::string text = SQL();
+  if (!parameters_ || parametersOf_ != text) {
+    const auto statement = session_->runner().compile(text);
+    const auto* rows = std::get_if<sql::RowStatement>(&statement);
+    parameters_ = rows ? rows->parameters : std::vector<sql::Parameter>{};
+    parametersOf_ = text;
+    answers_.assign(parameters_->size(), std::nullopt);
+  }
+  return *parameters_;
 }
 
 void SessionQueryDef::setParameter(std::string_view name, const runtime::Variant& value) {
@@ -50,15 +90,23 @@ void SessionQueryDef::setParameter(std::size_t index, const runtime::Variant& va
   answers_[index] = value;
 }
 
-RecordsetPtr SessionQueryDef::OpenRecordset(RecordsetType type) {
+/// Answers hold for the text whose parameters they were given to.
+std::string SessionQueryDef::textToRun() {
   requireOpen();
-  return openRows(session_, sql_, answers_, type, 0);
+  std::string text = SQL();
+  if (text != parametersOf_) answers_.clear();
+  return text;
+}
+
+RecordsetPtr SessionQueryDef::OpenRecordset(RecordsetType type) {
+  const std::string text = textToRun();
+  return openRows(session_, text, answers_, type, 0);
 }
 
 void SessionQueryDef::Execute(int) {
-  requireOpen();
+  const std::string text = textToRun();
   auto& runner = session_->runner();
-  affected_ = runner.execute(runner.compile(sql_), answers_);
+  affected_ = runner.execute(runner.compile(text), answers_);
 }
 
 }  // namespace jet::dao

@@ -1,5 +1,6 @@
 #include "jet/dao/statement_runner.h"
 
+#include "jet/dao/stored_queries.h"
 #include "jet/dao/values.h"
 #include "jet/sql/functions.h"
 #include "runtime/overloaded.h"
@@ -38,6 +39,16 @@ image::IndexDesign indexDesign(const file::TableDefinition& table, const sql::Cr
 
 StatementRunner::StatementRunner(image::Image& image) : image_(image) {
   sql::registerFunctions(image.connection().handle());
+}
+
+std::optional<std::string> StatementRunner::findQuery(std::string_view name) const {
+  using sql::QueryKind;
+  const auto object = findQueryObject(image_, name);
+  if (!object) return std::nullopt;
+  const auto kind = object->kind();
+  const bool givesRows =
+      kind == QueryKind::Select || kind == QueryKind::Union || kind == QueryKind::Crosstab;
+  return givesRows ? std::optional(queryText(image_, *object)) : std::nullopt;
 }
 
 sql::Statement StatementRunner::compile(const std::string& text, bool withRowKeys) const {

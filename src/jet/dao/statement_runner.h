@@ -28,6 +28,7 @@ class StatementRunner : public sql::Schema {
   const file::TableDefinition* findTable(std::string_view name) const override {
     return image_.definition(name);
   }
+  std::optional<std::string> findQuery(std::string_view name) const override;
 
   sql::Statement compile(const std::string& text, bool withRowKeys = false) const;
   /// Makes the tables of `plan` ready. Error 3061 while a parameter is not answered.

@@ -75,8 +75,29 @@ std::uint32_t Image::createObject(const std::string& name, file::ObjectType type
   return id;
 }
 
-bool Image::nameTaken(std::string_view name) {
-  auto query = connection_.prepare("SELECT 1 FROM t2 WHERE c1 = ?1 AND c2 = ?2");
+void Image::changeObject(std::uint32_t id, const std::string& name, std::uint32_t flags) {
+  requireWritable();
+  checkName(name);
+  changeSystemTable(file::CatalogueTable);
+  if (nameTaken(name, id)) fail(3012, "Oggetto già presente: " + name);
+  auto update = connection_.prepare("UPDATE t2 SET c2 = ?2, c7 = ?3 WHERE c0 = ?1");
+  update.bind(1, std::int64_t{static_cast<std::int32_t>(id)});
+  update.bind(2, std::string_view(name));
+  update.bind(3, std::int64_t{static_cast<std::int32_t>(flags)});
+  update.run();
+  touchObject(connection_, id);
+}
+
+void Image::dropObject(std::uint32_t id) {
+  requireWritable();
+  changeSystemTable(file::CatalogueTable);
+  changeSystemTable(file::PermissionsTable);
+  deleteObject(connection_, id);
+}
+
+bool Image::nameTaken(std::string_view name, std::uint32_t except) {
+  auto query = connection_.prepare("SELECT 1 FROM t2 WHERE c1 = ?1 AND c2 = ?2 AND c0 <> ?3");
+  query.bind(3, std::int64_t{static_cast<std::int32_t>(except)});
   query.bind(1, static_cast<std::int64_t>(file::TablesContainer));
   query.bind(2, name);
   return query.step();

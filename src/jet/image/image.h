@@ -77,6 +77,11 @@ class Image {
   /// Adds an object without a page of its own (a query) in the container of tables and gives its id.
   /// Error 3012 if the name is taken.
   std::uint32_t createObject(const std::string& name, file::ObjectType type, std::uint32_t flags);
+  /// Sets name and flags of an object of the container of tables, and the time of its last change. Error 3012
+  /// if another object has the name.
+  void changeObject(std::uint32_t id, const std::string& name, std::uint32_t flags);
+  /// Removes an object without a page of its own, with its permissions.
+  void dropObject(std::uint32_t id);
   /// Makes a system table ready for rows to be added with plain statements, and notes the change.
   void changeSystemTable(std::uint32_t page);
   /// Properties of an object by its id.
@@ -114,7 +119,8 @@ class Image {
   void makeIndexes(const file::TableDefinition& definition, const std::vector<std::uint16_t>& compared,
                    bool changing);
   void guard(Table& table);
-  bool nameTaken(std::string_view name);
+  /// True if an object of the container of tables, other than `except`, has the name.
+  bool nameTaken(std::string_view name, std::uint32_t except = 0);
   /// Takes the indexes and rules of a table out of the image; they are made anew when needed.
   void dropRules(Table& table);
   /// A design that the file doesn't have yet.
