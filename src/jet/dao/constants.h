@@ -41,6 +41,8 @@ enum TableAttribute : int {
   dbHiddenObject = 1,
   dbSystemObject = -2147483646,
   dbAttachedTable = 1073741824,
+};
+
 enum QueryDefType : int {
   dbQSelect = 0,
   dbQCrosstab = 16,

@@ -37,7 +37,7 @@ void RowEditor::edit() {
 
 void RowEditor::add() {
   auto& image = session_->image();
-  for (const auto page : pages_) image.prepareToChange(page, {});
+  for (const auto page : pages_) image.prepareToChange(page, {}, {image::RowChange::Kind::Insert, {}});
   edits_.assign(fields_.size(), std::nullopt);
   if (!defaults_) findDefaults();
   for (auto& each : *defaults_) {
@@ -66,9 +66,10 @@ void RowEditor::findDefaults() {
         each.plan.sql = "SELECT jet_auto_number(" + std::to_string(table.page) + ", NULL)";
         each.plan.columns.push_back({column.name, sql::Type::Long, {}, {}, {}});
       } else {
-        const auto expression = runner.defaultOf(table, column);
+        auto expression = runner.defaultOf(table, column);
+        expression.erase(0, expression.find_first_not_of("= "));
         if (expression.empty()) continue;
-        each.plan = runner.selection("SELECT " + expression);
+        each.plan = runner.selection("SELECT (" + expression + ")");
       }
       for (std::size_t i = 0; i < fields_.size(); ++i)
         if (fields_[i].part == part && fields_[i].column == column.number) each.field = i;
@@ -142,7 +143,7 @@ void RowEditor::changePart(std::size_t part, std::int64_t rowid) {
     assignments += (assignments.empty() ? "" : ", ") + image::columnName(fields_[i].column) + " = ?" +
                    std::to_string(assigned.size() + 1);
   }
-  image.prepareToChange(pages_[part], {});
+  image.prepareToChange(pages_[part], {}, {image::RowChange::Kind::Update, assigned});
   auto& statement = prepared("UPDATE " + image::tableName(pages_[part]) + " SET " + assignments +
                              " WHERE rowid = ?1");
   statement.bind(1, rowid);
@@ -176,7 +177,7 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
   for (const auto& each : *defaults_)
     if (each.part == part && !each.field) values.emplace_back(each.column, &each.value);
 
-  image.prepareToChange(pages_[part], {});
+  image.prepareToChange(pages_[part], {}, {image::RowChange::Kind::Insert, {}});
   std::string names, places;
   for (const auto& [number, value] : values) {
     names += (names.empty() ? "" : ", ") + image::columnName(number);
@@ -197,7 +198,7 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
 
 void RowEditor::remove(std::size_t part, std::int64_t rowid) {
   auto& image = session_->image();
-  image.prepareToChange(pages_[part], {});
+  image.prepareToChange(pages_[part], {}, {image::RowChange::Kind::Delete, {}});
   auto& statement = prepared("DELETE FROM " + image::tableName(pages_[part]) + " WHERE rowid = ?1");
   statement.bind(1, rowid);
   statement.run();

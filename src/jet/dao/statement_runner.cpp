@@ -1,7 +1,7 @@
 #include "jet/dao/statement_runner.h"
 
 #include "jet/dao/stored_queries.h"
-#include "jet/dao/values.h"
+#include "jet/image/property_values.h"
 #include "jet/sql/functions.h"
 #include "runtime/overloaded.h"
 
@@ -10,15 +10,6 @@ namespace jet::dao {
 namespace {
 
 constexpr char Source[] = "DAO.Database";
-
-void bindAnswers(image::Statement& statement, const sql::RowStatement& plan, const Answers& answers) {
-  for (std::size_t i = 0; i < plan.parameters.size(); ++i) {
-    const auto& parameter = plan.parameters[i];
-    if (i >= answers.size() || !answers[i])
-      throw runtime::Error(3061, Source, "Troppo pochi parametri: manca " + parameter.name);
-    bindValue(statement, static_cast<int>(i + 1), *answers[i], parameter.type);
-  }
-}
 
 image::IndexDesign indexDesign(const file::TableDefinition& table, const sql::CreateIndex& index) {
   image::IndexDesign design;
@@ -55,38 +46,43 @@ sql::Statement StatementRunner::compile(const std::string& text, bool withRowKey
   return sql::compile(text, *this, {.withRowKeys = withRowKeys});
 }
 
-void StatementRunner::ready(const sql::RowStatement& plan) {
-  const bool onePass = plan.kind == sql::RowStatement::Kind::Select && plan.tables.size() == 1 &&
-                       plan.tables[0].compared.empty();
-  for (const auto& table : plan.tables) {
-    if (table.change != sql::TouchedTable::Change::None)
-      image_.prepareToChange(table.page, table.compared);
-    else if (onePass && plan.rowKeys == 0)
-      image_.prepareToScan(table.page);
-    else
-      image_.prepareToRead(table.page, table.compared);
-  }
+std::string StatementRunner::defaultOf(const file::TableDefinition& table, const file::Column& column) const {
+  return image::textProperty(image_.properties(table.page), column.name, "DefaultValue");
 }
 
-PreparedRows StatementRunner::prepare(sql::RowStatement plan, const Answers& answers) {
-  ready(plan);
-  auto statement = image_.connection().prepare(plan.sql);
-  bindAnswers(statement, plan, answers);
-  return {std::move(plan), std::move(statement)};
+sql::RowStatement StatementRunner::selection(const std::string& text, bool withRowKeys) const {
+  auto statement = compile(text, withRowKeys);
+  auto* rows = std::get_if<sql::RowStatement>(&statement);
+  if (!rows || rows->kind != sql::RowStatement::Kind::Select)
+    throw runtime::Error(3219, Source, "Operazione non valida: l'istruzione non restituisce record");
+  return std::move(*rows);
+}
+
+sql::RowStatement StatementRunner::change(sql::RowStatement plan) {
+  if (plan.kind == sql::RowStatement::Kind::Select)
+    throw runtime::Error(3065, Source, "Impossibile eseguire una query di selezione");
+  return plan;
+}
+
+image::Statement StatementRunner::prepare(const sql::RowStatement& plan, const Answers& answers) {
+  return prepareInto("", plan, answers);
 }
 
 image::Statement StatementRunner::prepareInto(const std::string& prefix, const sql::RowStatement& plan,
                                               const Answers& answers) {
-  ready(plan);
+  makeReady(image_, plan);
   auto statement = image_.connection().prepare(prefix + plan.sql);
   bindAnswers(statement, plan, answers);
   return statement;
 }
 
-std::int64_t StatementRunner::execute(const sql::Statement& statement, const Answers& answers) {
+std::int64_t StatementRunner::execute(sql::Statement statement, const Answers& answers,
+                                      bool failOnError) {
   return std::visit(
       runtime::Overloaded{
-          [&](const sql::RowStatement& plan) { return change(plan, answers); },
+          [&](sql::RowStatement& plan) {
+            return RowChanges(image_, change(std::move(plan))).run(answers, failOnError);
+          },
           [&](const sql::CreateTable& table) { return create(table), std::int64_t{0}; },
           [&](const sql::CreateIndex& index) { return createIndex(index), std::int64_t{0}; },
           [&](const sql::DropTable& table) { return image_.dropTable(table.table), std::int64_t{0}; },
@@ -97,51 +93,6 @@ std::int64_t StatementRunner::execute(const sql::Statement& statement, const Ans
             throw runtime::Error(3219, Source, "Operazione non valida: modifica di struttura");
           }},
       statement);
-}
-
-std::int64_t StatementRunner::change(const sql::RowStatement& plan, const Answers& answers) {
-  if (plan.kind == sql::RowStatement::Kind::Select)
-    throw runtime::Error(3065, Source, "Impossibile eseguire una query di selezione");
-  if (plan.sql.empty()) return changeRowByRow(plan, answers);
-  auto prepared = prepare(plan, answers);
-  // One SQLite statement changes all its rows or none.
-  prepared.statement.run();
-  const std::int64_t affected = sqlite3_changes64(image_.connection().handle());
-  if (affected > 0)
-    for (const auto& table : plan.tables)
-      if (table.change != sql::TouchedTable::Change::None) image_.markChanged(table.page);
-  return affected;
-}
-
-std::int64_t StatementRunner::changeRowByRow(const sql::RowStatement& plan, const Answers& answers) {
-  ready(plan);
-  image::Transaction whole(image_);
-  const auto& connection = image_.connection();
-  const auto run = [&](const std::string& sql) {
-    auto statement = connection.prepare(sql);
-    bindAnswers(statement, plan, answers);
-    statement.run();
-  };
-  run("CREATE TEMP TABLE jet_gathered AS " + plan.steps->gather);
-  connection.execute("CREATE TEMP TABLE jet_rows AS SELECT * FROM jet_gathered WHERE 0");
-  auto next = connection.prepare("INSERT INTO jet_rows SELECT * FROM jet_gathered WHERE rowid = ?1");
-  auto count = connection.prepare("SELECT count(*) FROM jet_gathered");
-  count.step();
-  const std::int64_t rows = count.integer(0);
-  count.reset();
-  for (std::int64_t row = 1; row <= rows; ++row) {
-    connection.execute("DELETE FROM jet_rows");
-    next.bind(1, row);
-    next.run();
-    for (const auto& sql : plan.steps->apply) run(sql);
-  }
-  next.reset();
-  connection.execute("DROP TABLE jet_rows");
-  connection.execute("DROP TABLE jet_gathered");
-  for (const auto& table : plan.tables)
-    if (table.change != sql::TouchedTable::Change::None) image_.markChanged(table.page);
-  whole.keep();
-  return rows;
 }
 
 void StatementRunner::create(const sql::CreateTable& table) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "jet/dao/object_properties.h"
-#include "jet/dao/session_database.h"
+#include "jet/dao/open_rows.h"
 #include "jet/dao/table_collections.h"
 #include "jet/dao/table_field.h"
 #include "jet/image/row_codec.h"
