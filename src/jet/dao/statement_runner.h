@@ -44,8 +44,6 @@ class StatementRunner : public sql::Schema {
  private:
   void ready(const sql::RowStatement& plan);
   std::int64_t change(const sql::RowStatement& plan, const Answers& answers);
-  void create(const sql::CreateTable& table);
-  void createIndex(const sql::CreateIndex& index);
 
   image::Image& image_;
 };
