@@ -37,8 +37,6 @@ class StatementRunner : public sql::Schema {
   image::Image& image() { return image_; }
 
  private:
-  void create(const sql::CreateTable& table);
-  void createIndex(const sql::CreateIndex& index);
 
   image::Image& image_;
 };
