@@ -27,12 +27,6 @@ file::CatalogueObject readObject(const Statement& row) {
   return object;
 }
 
-void run(const Connection& connection, const char* sql, std::uint32_t id) {
-  auto statement = connection.prepare(sql);
-  statement.bind(1, signedId(id));
-  statement.run();
-}
-
 }  // namespace
 
 std::vector<file::CatalogueObject> Image::objects(file::ObjectType type) {
