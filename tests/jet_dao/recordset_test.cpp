@@ -102,11 +102,11 @@ TEST_F(Recordsets, QueriesTakeParameters) {
   const auto db = workspace.OpenDatabase(path, true);
   const auto query = db->CreateQueryDef("", "PARAMETERS quale TEXT; SELECT a FROM t WHERE b = quale");
   EXPECT_EQ(errorOf([&] { query->OpenRecordset(); }), 3061);
-  EXPECT_EQ(errorOf([&] { query->setParameter("altro", 1); }), 3265);
-  query->setParameter("QUALE", "TRE ");
+  EXPECT_EQ(errorOf([&] { query->Parameters("altro"); }), 3265);
+  query->Parameters("QUALE").setValue("TRE ");
   EXPECT_EQ(office::rows(*query->OpenRecordset(dbOpenSnapshot)), "3");
   const auto update = db->CreateQueryDef("", "PARAMETERS n LONG; UPDATE t SET c = TRUE WHERE a >= n");
-  update->setParameter(0, "2");
+  update->Parameters(0).setValue("2");
   update->Execute();
   EXPECT_EQ(update->RecordsAffected(), 2);
 }

@@ -52,7 +52,7 @@ void refuseArguments(const std::string& arguments) {
 void listTables(Database& database, const std::string& arguments, Output& output) {
   refuseArguments(arguments);
   output.columns({"Name", "System"});
-  for (const auto& name : database.tableNames()) output.row({name, isSystemTable(name)});
+  for (const auto& each : database.TableDefs()) output.row({each->Name(), isSystemTable(each->Name())});
 }
 
 void showDesign(Database& database, const std::string& arguments, Output& output) {
@@ -63,8 +63,8 @@ void showDesign(Database& database, const std::string& arguments, Output& output
   if (!chosen.empty()) {
     text = designStatements(*database.TableDefs(chosen));
   } else {
-    for (const auto& name : database.tableNames()) {
-      if (!isSystemTable(name)) text += designStatements(*database.TableDefs(name));
+    for (const auto& each : database.TableDefs()) {
+      if (!isSystemTable(each->Name())) text += designStatements(*each);
     }
   }
   output.text(text);
@@ -73,7 +73,7 @@ void showDesign(Database& database, const std::string& arguments, Output& output
 void listQueries(Database& database, const std::string& arguments, Output& output) {
   refuseArguments(arguments);
   output.columns({"Name"});
-  for (const auto& name : database.queryNames()) output.row({name});
+  for (const auto& query : database.QueryDefs()) output.row({query->Name()});
 }
 
 void listRelations(Database& database, const std::string& arguments, Output& output) {
@@ -81,10 +81,10 @@ void listRelations(Database& database, const std::string& arguments, Output& out
   output.columns({"Name", "Table", "ForeignTable", "Attributes", "Fields"});
   for (const auto& relation : database.Relations()) {
     std::string fields;
-    for (const auto& pair : relation.Fields) {
-      fields += (fields.empty() ? "" : ", ") + pair.field + " = " + pair.foreignField;
+    for (const auto& pair : relation->Fields()) {
+      fields += (fields.empty() ? "" : ", ") + pair.Name() + " = " + pair.ForeignName();
     }
-    output.row({relation.Name, relation.Table, relation.ForeignTable, relation.Attributes, fields});
+    output.row({relation->Name(), relation->Table(), relation->ForeignTable(), relation->Attributes(), fields});
   }
 }
 

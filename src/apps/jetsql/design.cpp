@@ -35,6 +35,8 @@ std::string typeText(const Field& field) {
   if (field.Type() == dbLong && (field.Attributes() & dbAutoIncrField)) return "COUNTER";
   for (const auto& candidate : typeNames) {
     if (candidate.type != field.Type()) continue;
+    if (field.Type() == dbDecimal)
+      return "DECIMAL(" + std::to_string(field.precision()) + ", " + std::to_string(field.scale()) + ")";
     if (!candidate.sized) return candidate.name;
     return std::string(candidate.name) + "(" + std::to_string(field.Size()) + ")";
   }
@@ -45,18 +47,18 @@ std::string bracketed(const std::string& name) {
   return "[" + name + "]";
 }
 
-std::string indexStatement(const std::string& table, const Index& index) {
-  std::string text = std::string(index.Unique && !index.Primary ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
-                     bracketed(index.Name) + " ON " + bracketed(table) + " (";
+std::string indexStatement(const std::string& table, Index& index) {
+  std::string text = std::string(index.Unique() && !index.Primary() ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
+                     bracketed(index.Name()) + " ON " + bracketed(table) + " (";
   const char* separator = "";
-  for (const auto& part : index.Fields) {
-    text += separator + bracketed(part.name) + (part.descending ? " DESC" : "");
+  for (const auto& part : index.Fields()) {
+    text += separator + bracketed(part.Name()) + (part.Attributes() & dbDescending ? " DESC" : "");
     separator = ", ";
   }
   text += ")";
-  if (index.Primary) return text + " WITH PRIMARY;\n";
-  if (index.Required) return text + " WITH DISALLOW NULL;\n";
-  if (index.IgnoreNulls) return text + " WITH IGNORE NULL;\n";
+  if (index.Primary()) return text + " WITH PRIMARY;\n";
+  if (index.Required()) return text + " WITH DISALLOW NULL;\n";
+  if (index.IgnoreNulls()) return text + " WITH IGNORE NULL;\n";
   return text + ";\n";
 }
 
@@ -64,13 +66,16 @@ std::string indexStatement(const std::string& table, const Index& index) {
 
 std::string designStatements(TableDef& table) {
   std::string text = "CREATE TABLE " + bracketed(table.Name()) + " (";
-  for (std::size_t i = 0; i < table.fieldCount(); ++i) {
-    const auto field = table.Fields(i);
-    text += std::string(i ? "," : "") + "\n  " + bracketed(field.Name()) + " " + typeText(field);
+  const char* separator = "\n  ";
+  for (const auto& field : table.Fields()) {
+    text += separator + bracketed(field.Name()) + " " + typeText(field) +
+            (field.Required() ? " NOT NULL" : "") +
+            (field.DefaultValue().empty() ? "" : " DEFAULT " + field.DefaultValue());
+    separator = ",\n  ";
   }
   text += ");\n";
   for (const auto& index : table.Indexes()) {
-    if (!index.Foreign) text += indexStatement(table.Name(), index);
+    if (!index->Foreign()) text += indexStatement(table.Name(), *index);
   }
   return text;
 }

@@ -7,7 +7,6 @@
 namespace jetsql {
 namespace {
 
-constexpr int noSuchItem = 3265;
 constexpr int returnsRows = 3065;
 
 }  // namespace
@@ -34,18 +33,15 @@ void Shell::runStatement(const std::string& text) {
 
 void Shell::answerParameters(jet::dao::QueryDef& query) {
   for (auto& answer : answers_) {
-    try {
-      query.setParameter(answer.parameter.name, answer.parameter.value);
-      answer.used = true;
-    } catch (const runtime::Error& error) {
-      if (error.number() != noSuchItem) throw;
-    }
+    if (!query.Parameters().contains(answer.parameter.name)) continue;
+    query.Parameters(answer.parameter.name).setValue(answer.parameter.value);
+    answer.used = true;
   }
 }
 
 void Shell::printRows(jet::dao::Recordset& rows) {
   std::vector<std::string> names;
-  for (std::size_t i = 0; i < rows.fieldCount(); ++i) names.push_back(rows.Fields(i).Name());
+  for (const auto& field : rows.Fields()) names.push_back(field.Name());
   output_.columns(names);
   std::vector<runtime::Variant> values(names.size());
   for (; !rows.atEnd(); rows.MoveNext()) {
