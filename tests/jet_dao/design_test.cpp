@@ -105,7 +105,7 @@ TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
   Workspace workspace;
   const auto db = workspace.OpenDatabase(path, true);
   // The property Required went with the name.
-  EXPECT_EQ(errorOf([&] { db->Execute("UPDATE Ogni SET Testo = NULL"); }), 3314);
+  EXPECT_EQ(errorOf([&] { db->Execute("UPDATE Ogni SET Testo = NULL", dbFailOnError); }), 3314);
   db->TableDefs("Ogni")->Fields().Delete("m");
   db->TableDefs("Ogni")->Fields().Delete("si");
   db->Close();
