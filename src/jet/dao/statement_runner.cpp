@@ -78,6 +78,7 @@ std::int64_t StatementRunner::execute(const sql::Statement& statement, const Ans
 std::int64_t StatementRunner::change(const sql::RowStatement& plan, const Answers& answers) {
   if (plan.kind == sql::RowStatement::Kind::Select)
     throw runtime::Error(3065, Source, "Impossibile eseguire una query di selezione");
+  if (plan.sql.empty()) return changeRowByRow(plan, answers);
   auto prepared = prepare(plan, answers);
   // One SQLite statement changes all its rows or none.
   prepared.statement.run();
@@ -86,6 +87,37 @@ std::int64_t StatementRunner::change(const sql::RowStatement& plan, const Answer
     for (const auto& table : plan.tables)
       if (table.change != sql::TouchedTable::Change::None) image_.markChanged(table.page);
   return affected;
+}
+
+std::int64_t StatementRunner::changeRowByRow(const sql::RowStatement& plan, const Answers& answers) {
+  ready(plan);
+  image::Transaction whole(image_);
+  const auto& connection = image_.connection();
+  const auto run = [&](const std::string& sql) {
+    auto statement = connection.prepare(sql);
+    bindAnswers(statement, plan, answers);
+    statement.run();
+  };
+  run("CREATE TEMP TABLE jet_gathered AS " + plan.steps->gather);
+  connection.execute("CREATE TEMP TABLE jet_rows AS SELECT * FROM jet_gathered WHERE 0");
+  auto next = connection.prepare("INSERT INTO jet_rows SELECT * FROM jet_gathered WHERE rowid = ?1");
+  auto count = connection.prepare("SELECT count(*) FROM jet_gathered");
+  count.step();
+  const std::int64_t rows = count.integer(0);
+  count.reset();
+  for (std::int64_t row = 1; row <= rows; ++row) {
+    connection.execute("DELETE FROM jet_rows");
+    next.bind(1, row);
+    next.run();
+    for (const auto& sql : plan.steps->apply) run(sql);
+  }
+  next.reset();
+  connection.execute("DROP TABLE jet_rows");
+  connection.execute("DROP TABLE jet_gathered");
+  for (const auto& table : plan.tables)
+    if (table.change != sql::TouchedTable::Change::None) image_.markChanged(table.page);
+  whole.keep();
+  return rows;
 }
 
 }  // namespace jet::dao

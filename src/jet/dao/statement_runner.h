@@ -44,6 +44,7 @@ class StatementRunner : public sql::Schema {
  private:
   void ready(const sql::RowStatement& plan);
   std::int64_t change(const sql::RowStatement& plan, const Answers& answers);
+  std::int64_t changeRowByRow(const sql::RowStatement& plan, const Answers& answers);
 
   image::Image& image_;
 };
