@@ -6,6 +6,7 @@
 
 #include "jet/dao/session.h"
 #include "jet_dao/office.h"
+#include "platform/files.h"
 
 /// An image of a file on disk, worked on with SQL and with the image's own calls.
 namespace desk {
@@ -26,13 +27,12 @@ class Desk {
   std::string path(const std::string& name) const { return folder_.path(name); }
   std::uint32_t page(const std::string& table) { return image().find(table)->page; }
 
-  std::int64_t run(const std::string& sql) {
-    auto& runner = session_->runner();
-    return runner.execute(runner.compile(sql), {});
-  }
+  std::int64_t run(const std::string& sql) { return run(session_->runner().compile(sql)); }
+  std::int64_t run(const jet::sql::Statement& statement) { return session_->runner().execute(statement, {}); }
   /// Number of the error in which the statement ends, or 0.
-  int error(const std::string& sql) {
-    return office::errorOf([&] { run(sql); });
+  template <typename Statement>
+  int error(const Statement& statement) {
+    return office::errorOf([&] { run(statement); });
   }
   /// Rows of a SELECT, fields joined by '|', rows by blanks, as the image keeps them.
   std::string rows(const std::string& sql) {
@@ -68,6 +68,14 @@ class Desk {
     session_ = std::make_unique<jet::dao::Session>(
         std::make_unique<jet::file::PageFile>(path_, jet::file::Sharing::Exclusive, false));
   }
+  /// Saves, and goes on over a compact copy.
+  void compact() {
+    session_->save();
+    session_.reset();
+    jet::dao::DBEngine::CompactDatabase(path_, path_ + ".new");
+    platform::copyFile(path_ + ".new", path_);
+    abandon();
+  }
   /// What the checker has against the file, as it was last saved.
   std::string complaints(const std::string& options = "--strict") const {
     return office::complaints(path_, options);
@@ -80,9 +88,11 @@ class Desk {
 };
 
 /// The checker's complaints about several files, in one run of it.
-inline std::string complaints(const std::vector<std::string>& paths) {
+inline std::string complaints(const std::vector<std::string>& paths,
+                              const std::string& options = "--strict") {
   if (office::jetData().empty() || paths.empty()) return {};
-  std::string command = "python3 " + support::shellWord(office::jetData() + "/jet/jetcheck.py") + " --strict";
+  std::string command =
+      "python3 " + support::shellWord(office::jetData() + "/jet/jetcheck.py") + " " + options;
   for (const auto& path : paths) command += " " + office::system(path);
   const auto result = support::runCommand(command);
   return result.status == 0 ? std::string() : result.output + result.errors;
