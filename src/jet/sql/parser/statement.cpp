@@ -62,6 +62,7 @@ tree::Statement Parser::statement() {
 
 tree::ParameterDeclaration Parser::parameter() {
   std::string name = cursor_.expectName(ParametersSyntax);
+  name += path(ParametersSyntax);
   return {std::move(name), typeName(ParametersSyntax)};
 }
 
