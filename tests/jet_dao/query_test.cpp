@@ -18,7 +18,8 @@ using office::errorOf;
 using office::rows;
 
 const std::vector<std::string> Office = {
-    "CREATE TABLE ragioniere (cd_matr LONG CONSTRAINT pk PRIMARY KEY, ds_cognome TEXT(40), cd_comune TEXT(4))",
+    "CREATE TABLE ragioniere (cd_matr LONG CONSTRAINT pk PRIMARY KEY, ds_cognome TEXT(40), cd_comune "
+    "TEXT(4))",
     "CREATE TABLE comune (cd_comune TEXT(4), ds_comune TEXT(40))",
     "INSERT INTO ragioniere VALUES (1, 'Rossi', 'A001')",
     "INSERT INTO ragioniere VALUES (2, 'Bianchi', 'B002')",
@@ -48,11 +49,13 @@ class StoredQueries : public testing::Test {
 };
 
 TEST_F(StoredQueries, StandWhereATableStands) {
-  store("Con comune", "SELECT cd_matr, ds_cognome, ds_comune FROM ragioniere AS r INNER JOIN comune AS c ON "
-                      "r.cd_comune = c.cd_comune");
+  store("Con comune",
+        "SELECT cd_matr, ds_cognome, ds_comune FROM ragioniere AS r INNER JOIN comune AS c ON "
+        "r.cd_comune = c.cd_comune");
   store("Di Abano", "SELECT ds_cognome FROM [Con comune] WHERE ds_comune = 'Abano' ORDER BY ds_cognome DESC");
   store("Tutti i nomi", "SELECT ds_cognome AS nome FROM ragioniere UNION SELECT ds_comune FROM comune");
-  store("Per comune", "PARAMETERS parComune Text; SELECT cd_matr FROM ragioniere WHERE cd_comune = parComune");
+  store("Per comune",
+        "PARAMETERS parComune Text; SELECT cd_matr FROM ragioniere WHERE cd_comune = parComune");
   for (int pass = 0; pass < 2; ++pass) {
     EXPECT_EQ(read("Di Abano"), "Verdi Rossi");
     EXPECT_EQ(read("SELECT Count(*) FROM [tutti I nomi] WHERE nome LIKE 'B*'"), "2");
@@ -78,7 +81,8 @@ TEST_F(StoredQueries, ARingOfThemIsAnError) {
 }
 
 TEST_F(StoredQueries, ActionsRunByTheirName) {
-  store("Trasloca", "PARAMETERS parDa Text; UPDATE ragioniere SET cd_comune = 'B002' WHERE cd_comune = parDa");
+  store("Trasloca",
+        "PARAMETERS parDa Text; UPDATE ragioniere SET cd_comune = 'B002' WHERE cd_comune = parDa");
   store("Svuota comuni", "DELETE FROM comune");
   db_->Execute("Svuota comuni", dbFailOnError);
   EXPECT_EQ(db_->RecordsAffected(), 2);
@@ -105,8 +109,10 @@ TEST_F(StoredQueries, AreRewrittenInPlace) {
   EXPECT_EQ(query->Type(), dbQSelect);
 
   // Rows whose meaning nobody knows survive.
-  db_->Execute("INSERT INTO MSysQueries (ObjectId, Attribute, [Order], Expression) SELECT ObjectId, 77, [Order], 'x' "
-               "FROM MSysQueries WHERE Attribute = 0 AND ObjectId = " + before);
+  db_->Execute(
+      "INSERT INTO MSysQueries (ObjectId, Attribute, [Order], Expression) SELECT ObjectId, 77, [Order], 'x' "
+      "FROM MSysQueries WHERE Attribute = 0 AND ObjectId = " +
+      before);
   query->setSQL("UPDATE nessuna SET a = 1 WHERE b = [p]");
   EXPECT_EQ(query->Type(), dbQUpdate);
   EXPECT_EQ(id(), before);
@@ -161,9 +167,10 @@ TEST_F(StoredQueries, NothingIsStoredInAReadOnlyDatabase) {
 }
 
 TEST_F(StoredQueries, AreSeenByASecondReader) {
-  store("somme", "SELECT r.cd_comune AS codice, Count(*) AS quanti FROM ragioniere r INNER JOIN comune ON "
-                 "r.cd_comune = comune.cd_comune WHERE r.cd_matr > 1 GROUP BY r.cd_comune HAVING Count(*) > 2 "
-                 "ORDER BY r.cd_comune DESC");
+  store("somme",
+        "SELECT r.cd_comune AS codice, Count(*) AS quanti FROM ragioniere r INNER JOIN comune ON "
+        "r.cd_comune = comune.cd_comune WHERE r.cd_matr > 1 GROUP BY r.cd_comune HAVING Count(*) > 2 "
+        "ORDER BY r.cd_comune DESC");
   db_->Close();
   EXPECT_EQ(office::complaints(path_), "");
   // It renders neither joins nor grouping, and bytes only up to a zero; the rows it reads like any.
@@ -171,14 +178,16 @@ TEST_F(StoredQueries, AreSeenByASecondReader) {
             "SELECT r.cd_comune,Count(*) FROM [ragioniere],[comune] WHERE r.cd_matr > 1 "
             "ORDER BY r.cd_comune DESCENDING\n");
   const auto rows = office::exported(path_, "MSysQueries");
-  for (const char* row : {",7,,\"r\",\"comune\",\"r.cd_comune = comune.cd_comune\",1,", ",9,,,,\"r.cd_comune\",",
-                          ",10,,,,\"Count(*) > 2\",", ",6,,\"codice\",,\"r.cd_comune\",0,"})
+  for (const char* row :
+       {",7,,\"r\",\"comune\",\"r.cd_comune = comune.cd_comune\",1,", ",9,,,,\"r.cd_comune\",",
+        ",10,,,,\"Count(*) > 2\",", ",6,,\"codice\",,\"r.cd_comune\",0,"})
     EXPECT_NE(rows.find(row), std::string::npos) << row << "\n" << rows;
 }
 
-/// Rows of the stored queries of a file as lines, as far as a text can tell them: the order of sources that are
-/// joined, an options row without options, a start row's empty flag and the alias of a pivot's heading are left
-/// out, and with them the pass-through queries, which are made with a connection and not from a text.
+/// Rows of the stored queries of a file as lines, as far as a text can tell them: the order of sources that
+/// are joined, an options row without options, a start row's empty flag and the alias of a pivot's heading
+/// are left out, and with them the pass-through queries, which are made with a connection and not from a
+/// text.
 std::set<std::string> storedRows(Database& db) {
   enum Column { Name, Flags, Attribute, Order, Name1, Name2, Expression, Flag };
   const auto found = db.OpenRecordset(
@@ -188,7 +197,8 @@ std::set<std::string> storedRows(Database& db) {
   std::set<std::string> lines, joined;  // joins come before sources
   for (; !found->atEnd(); found->MoveNext()) {
     std::vector<std::string> fields;
-    for (std::size_t i = 0; i < found->fieldCount(); ++i) fields.push_back(office::text(found->Fields(i).Value()));
+    for (std::size_t i = 0; i < found->fieldCount(); ++i)
+      fields.push_back(office::text(found->Fields(i).Value()));
     const std::string name = fields[Name], attribute = fields[Attribute], flag = fields[Flag];
     const int kind = std::stoi(fields[Flags]) & 0xF0;
     if (kind == dbQSQLPassThrough || attribute == "0" || (attribute == "3" && flag == "0")) continue;
@@ -208,7 +218,8 @@ std::set<std::string> storedRows(Database& db) {
 std::vector<fs::path> corpusFiles() {
   std::vector<fs::path> files;
   for (const char* folder : {"/corpus/jet3", "/corpus/jet4"})
-    for (const auto& entry : fs::directory_iterator(office::jetData() + folder)) files.push_back(entry.path());
+    for (const auto& entry : fs::directory_iterator(office::jetData() + folder))
+      files.push_back(entry.path());
   return files;
 }
 
@@ -250,7 +261,8 @@ TEST(CorpusQueries, ComeBackRowForRow) {
     EXPECT_EQ(office::complaints(folder.path(file.filename().string())), "");
     for (const auto& name : names)
       EXPECT_EQ(rendered(folder.path(file.filename().string()), name),
-                rendered(platform::fromSystemPath(file.string()), name)) << name;
+                rendered(platform::fromSystemPath(file.string()), name))
+          << name;
     for (const auto& line : before) EXPECT_TRUE(after.contains(line)) << "lost: " << line;
     for (const auto& line : after) EXPECT_TRUE(before.contains(line)) << "new: " << line;
   }

@@ -1,8 +1,9 @@
+#include "jet/sql/stored/stored_query.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "jet/sql/stored/stored_query.h"
 #include "runtime/error.h"
 
 namespace jet::sql {
@@ -44,10 +45,12 @@ constexpr Text Texts[] = {
     {"SELECT *, a+1 AS [b c] FROM [Il nome] AS n", QueryKind::Select,
      "SELECT *, a+1 AS [b c]\nFROM [Il nome] AS n;\n"},
     {"SELECT DISTINCT TOP 5 PERCENT [Set], Sum( x ) s FROM T", QueryKind::Select, nullptr},
-    {"SELECT DISTINCT TOP 5 PERCENT [Set],T . [Order] AS [By]\n FROM T where a = ';FROM' and \"è\"<>[x ORDER BY]\t"
+    {"SELECT DISTINCT TOP 5 PERCENT [Set],T . [Order] AS [By]\n FROM T where a = ';FROM' and \"è\"<>[x ORDER "
+     "BY]\t"
      "order by a , b DESC,c ASC ;",
      QueryKind::Select,
-     "SELECT DISTINCT TOP 5 PERCENT [Set], T . [Order] AS [By]\nFROM T\nWHERE a = ';FROM' and \"è\"<>[x ORDER BY]\n"
+     "SELECT DISTINCT TOP 5 PERCENT [Set], T . [Order] AS [By]\nFROM T\nWHERE a = ';FROM' and \"è\"<>[x "
+     "ORDER BY]\n"
      "ORDER BY a, b DESC, c;\n"},
     {"SELECT DISTINCTROW Left(a, 2) FROM T GROUP BY Left(a, 2) HAVING Count(*) > 1", QueryKind::Select,
      "SELECT DISTINCTROW Left(a, 2)\nFROM T\nGROUP BY Left(a, 2)\nHAVING Count(*) > 1;\n"},
@@ -58,23 +61,27 @@ constexpr Text Texts[] = {
     {"SELECT a FROM T, (U LEFT JOIN V AS w ON U.x = w.x) INNER JOIN Z ON (U.y = Z.y) AND (w.k = Z.k)",
      QueryKind::Select,
      "SELECT a\nFROM T, (U LEFT JOIN V AS w ON U.x = w.x) INNER JOIN Z ON (U.y = Z.y) AND (w.k = Z.k);\n"},
-    {"SELECT a FROM U RIGHT OUTER JOIN (V INNER JOIN Z ON V.a = Z.a) ON ((U.x=V.x AND U.y BETWEEN V.a AND V.b))",
+    {"SELECT a FROM U RIGHT OUTER JOIN (V INNER JOIN Z ON V.a = Z.a) ON ((U.x=V.x AND U.y BETWEEN V.a AND "
+     "V.b))",
      QueryKind::Select,
-     "SELECT a\nFROM U RIGHT JOIN (V INNER JOIN Z ON V.a = Z.a) ON (U.x=V.x) AND (U.y BETWEEN V.a AND V.b);\n"},
+     "SELECT a\nFROM U RIGHT JOIN (V INNER JOIN Z ON V.a = Z.a) ON (U.x=V.x) AND (U.y BETWEEN V.a AND "
+     "V.b);\n"},
     {"SELECT a FROM U LEFT JOIN V ON U.x = V.x AND V.k = 'a'", QueryKind::Select,
      "SELECT a\nFROM U LEFT JOIN V ON U.x = V.x AND V.k = 'a';\n"},
     {"SELECT a FROM U INNER JOIN V ON U.x = V.x OR U.y = V.y WHERE EXISTS (SELECT 1 FROM Z WHERE Z.a = U.a)",
      QueryKind::Select,
      "SELECT a\nFROM U INNER JOIN V ON U.x = V.x OR U.y = V.y\nWHERE EXISTS (SELECT 1 FROM Z WHERE Z.a = "
      "U.a);\n"},
-    {"SELECT q.a FROM (SELECT a FROM T UNION SELECT b FROM U) AS q INNER JOIN V ON q.a = V.a", QueryKind::Select,
+    {"SELECT q.a FROM (SELECT a FROM T UNION SELECT b FROM U) AS q INNER JOIN V ON q.a = V.a",
+     QueryKind::Select,
      "SELECT q.a\nFROM (SELECT a FROM T UNION SELECT b FROM U) AS q INNER JOIN V ON q.a = V.a;\n"},
     {"SELECT Count(*) AS n FROM (SELECT DISTINCT a FROM T)", QueryKind::Select,
      "SELECT Count(*) AS n\nFROM (SELECT DISTINCT a FROM T) AS [%$##@_Alias];\n"},
     {"SELECT a FROM T UNION ALL SELECT b FROM U WHERE b > 0 UNION SELECT c FROM V ORDER BY a DESC",
      QueryKind::Union,
      "SELECT a FROM T UNION ALL SELECT b FROM U WHERE b > 0\nUNION SELECT c FROM V\nORDER BY a DESC;\n"},
-    {"SELECT a FROM T\r\nUNION ALL SELECT b FROM U", QueryKind::Union, "SELECT a FROM T\nUNION ALL SELECT b FROM U;\n"},
+    {"SELECT a FROM T\r\nUNION ALL SELECT b FROM U", QueryKind::Union,
+     "SELECT a FROM T\nUNION ALL SELECT b FROM U;\n"},
     {"UPDATE T SET a = 'x, y', T.[b c] = [p]*2, [d e] = NULL WHERE a IN ('SET', 'b')", QueryKind::Update,
      "UPDATE T SET a = 'x, y', T.[b c] = [p]*2, [d e] = NULL\nWHERE a IN ('SET', 'b');\n"},
     {"UPDATE T INNER JOIN U ON T.k = U.k SET T.a = U.a", QueryKind::Update,
@@ -88,7 +95,8 @@ constexpr Text Texts[] = {
     {"INSERT INTO T (a, b) SELECT x, Count(*) AS n FROM U GROUP BY x", QueryKind::Append,
      "INSERT INTO T ( a, b )\nSELECT x, Count(*) AS n\nFROM U\nGROUP BY x;\n"},
     {"INSERT INTO T SELECT * FROM U", QueryKind::Append, "INSERT INTO T\nSELECT *\nFROM U;\n"},
-    {"INSERT INTO T (a, b) SELECT * FROM U", QueryKind::Append, "INSERT INTO T ( a, b )\nSELECT *\nFROM U;\n"},
+    {"INSERT INTO T (a, b) SELECT * FROM U", QueryKind::Append,
+     "INSERT INTO T ( a, b )\nSELECT *\nFROM U;\n"},
     {"DROP TABLE [Il nome]", QueryKind::DataDefinition, "DROP TABLE [Il nome]"},
 };
 
@@ -127,10 +135,12 @@ TEST(StoredQuery, RowsAreThoseOfTheEngine) {
       {"SELECT a FROM T AS x, [U v] ORDER BY a DESC, b", Row::Source, {"5|T|x|-|-", "5|U v|-|-|-"}},
       {"SELECT a FROM T ORDER BY a DESC, b", Row::OrderBy, {"11|D|-|a|-", "11|-|-|b|-"}},
       // The last condition of a join comes first; inner joins come before outer ones.
-      {"SELECT a FROM (A LEFT JOIN C ON A.k = C.k) INNER JOIN B ON (C.k = B.m) AND (C.k = B.k)", Row::Join,
+      {"SELECT a FROM (A LEFT JOIN C ON A.k = C.k) INNER JOIN B ON (C.k = B.m) AND (C.k = B.k)",
+       Row::Join,
        {"7|A|C|A.k = C.k|2", "7|C|B|C.k = B.k|1", "7|C|B|C.k = B.m|1"}},
       {"SELECT a FROM A RIGHT JOIN (SELECT k FROM B) AS q ON A.k = q.k", Row::Join, {"7|A|q|A.k = q.k|3"}},
-      {"SELECT a FROM T UNION SELECT b FROM U UNION ALL SELECT c FROM V", Row::Source,
+      {"SELECT a FROM T UNION SELECT b FROM U UNION ALL SELECT c FROM V",
+       Row::Source,
        {"5|-|X7YZ_____1|SELECT a FROM T UNION SELECT b FROM U\r\n|-", "5|-|X7YZ_____2|SELECT c FROM V|-"}},
       {"SELECT a FROM T UNION ALL SELECT b FROM U", Row::Options, {"3|-|-|-|1"}},
       {"SELECT a FROM T UNION SELECT b FROM U", Row::Options, {"3|-|-|-|3"}},
@@ -140,7 +150,8 @@ TEST(StoredQuery, RowsAreThoseOfTheEngine) {
       {"PARAMETERS [x y] Text(30), n Short; SELECT [x y]", Row::Parameter, {"2|x y|-|-|10", "2|n|-|-|3"}},
       {"DELETE * FROM T", Row::Options, {"3|-|-|-|1"}},
   };
-  for (const auto& test : cases) EXPECT_EQ(rowsOf(takeApart(test.sql), test.attribute), test.rows) << test.sql;
+  for (const auto& test : cases)
+    EXPECT_EQ(rowsOf(takeApart(test.sql), test.attribute), test.rows) << test.sql;
 }
 
 int errorOf(const StoredQuery& query) {
@@ -158,9 +169,9 @@ TEST(StoredQuery, DamagedRowsGiveATextOrAnErrorAndNoMore) {
   EXPECT_EQ(putTogether(query), "SELECT ;\r\n");
   query.kind = static_cast<QueryKind>(0xF0);
   EXPECT_EQ(errorOf(query), 3129);
-  for (const auto kind : {QueryKind::Crosstab, QueryKind::Delete, QueryKind::Update, QueryKind::Append,
-                          QueryKind::MakeTable, QueryKind::DataDefinition, QueryKind::PassThrough,
-                          QueryKind::Union}) {
+  for (const auto kind :
+       {QueryKind::Crosstab, QueryKind::Delete, QueryKind::Update, QueryKind::Append, QueryKind::MakeTable,
+        QueryKind::DataDefinition, QueryKind::PassThrough, QueryKind::Union}) {
     query.kind = kind;
     EXPECT_EQ(errorOf(query), 0);
   }

@@ -30,15 +30,15 @@ class Database {
   virtual ~Database() = default;
   virtual const std::string& Name() const = 0;  // its path
 
-  /// `source` is the name of a table or of a stored query, or a SELECT. Error 3078 unknown table, 3061 parameters, 3075 and kin
-  /// syntax.
+  /// `source` is the name of a table or of a stored query, or a SELECT. Error 3078 unknown table, 3061
+  /// parameters, 3075 and kin syntax.
   virtual RecordsetPtr OpenRecordset(const std::string& source, RecordsetType type = dbOpenDynaset,
                                      int options = 0) = 0;
-  /// A temporary query where `name` is empty; else one that is stored. Error 3012 if the name is taken, 3075 and
-  /// kin for syntax; the tables it names need not exist.
+  /// A temporary query where `name` is empty; else one that is stored. Error 3012 if the name is taken, 3075
+  /// and kin for syntax; the tables it names need not exist.
   virtual QueryDefPtr CreateQueryDef(const std::string& name, const std::string& sql) = 0;
-  /// Runs a statement that returns no rows, or the stored query of that name: UPDATE, INSERT, DELETE or a change
-  /// of design. Error 3065 for a SELECT.
+  /// Runs a statement that returns no rows, or the stored query of that name: UPDATE, INSERT, DELETE or a
+  /// change of design. Error 3065 for a SELECT.
   virtual void Execute(const std::string& sql, int options = 0) = 0;
   virtual std::int64_t RecordsAffected() const = 0;  // of the last Execute
 
