@@ -68,6 +68,13 @@ std::string shown(sqlite3_stmt* statement, int column, Type type) {
   return readValue(sqlite3_column_value(statement, column), type).toText();
 }
 
+/// Expressions that new rows get in columns without a value.
+constexpr std::pair<std::string_view, const char*> defaults[] = {{"rate.stato", "\"N\""},
+                                                                 {"rate.data", "=DateSerial(2006, 1, 2)"},
+                                                                 {"rate.importo", "1 + 1.5"},
+                                                                 {"guasti.b", "1 +"},
+                                                                 {"guasti.c", "[a] + 1"}};
+
 /// Two members and their payments: 1 Anna pays twice, 2 bruno once, 3 Ezio never; one payment has no member.
 constexpr const char* content = R"(
   INSERT INTO t10 VALUES (1, 'Anna', 'Rossi', 1250000, -1, 38353.0, 'A', 0, 'prima', 1.5, 3),
@@ -76,6 +83,17 @@ constexpr const char* content = R"(
   INSERT INTO t11 VALUES (1, 1, 100000, 39000.0, '10.50'), (2, 1, 255000, 39001.0, '9.25'),
                          (3, 2, 50000, 39002.0, '100.00'), (4, 9, NULL, NULL, NULL);
 )";
+
+/// `sql` with literals in the places of parameters.
+std::string answered(std::string sql, const std::vector<std::string>& answers) {
+  for (std::size_t i = answers.size(); i > 0; --i) {
+    const std::string mark = "?" + std::to_string(i);
+    for (auto at = sql.find(mark); at != std::string::npos; at = sql.find(mark)) {
+      sql.replace(at, mark.size(), answers[i - 1]);
+    }
+  }
+  return sql;
+}
 
 }  // namespace
 
@@ -107,6 +125,12 @@ SmallImage::SmallImage() {
                  {"chiave", ColumnType::Guid},
                  {"dati", ColumnType::Binary, 4},
                  {"nome", ColumnType::Text, 20}}));
+  add(makeTable(13, "rate",
+                {{"id", ColumnType::Long},
+                 {"stato", ColumnType::Text, 2},
+                 {"data", ColumnType::Date},
+                 {"importo", ColumnType::Currency}}));
+  add(makeTable(14, "guasti", {{"a", ColumnType::Long}, {"b", ColumnType::Long}, {"c", ColumnType::Long}}));
   execute(content);
 }
 
@@ -122,7 +146,7 @@ void SmallImage::add(file::TableDefinition table) {
 
 void SmallImage::execute(const std::string& sql) {
   if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-    throw std::runtime_error(sqlite3_errmsg(connection_));
+    throw image::errorFromSqlite(connection_);
   }
 }
 
@@ -138,6 +162,37 @@ std::optional<std::string> SmallImage::findQuery(std::string_view name) const {
     return "PARAMETERS minimo Currency; SELECT id, nome AS chi FROM soci WHERE quota >= minimo;";
   if (name == "infinita") return "SELECT * FROM infinita;";
   return std::nullopt;
+}
+
+std::string SmallImage::defaultOf(const file::TableDefinition& table, const file::Column& column) const {
+  for (const auto& [name, value] : defaults) {
+    if (table.name + "." + column.name == name) return value;
+  }
+  return {};
+}
+
+std::string SmallImage::stepByRow(const RowStatement& statement, const std::vector<std::string>& answers) {
+  execute("CREATE TEMP TABLE gathered AS " + answered(statement.steps->gather, answers));
+  execute("CREATE TEMP TABLE jet_rows AS SELECT * FROM gathered WHERE 0");
+  sqlite3_stmt* count = nullptr;
+  sqlite3_prepare_v2(connection_, "SELECT count(*) FROM gathered", -1, &count, nullptr);
+  sqlite3_step(count);
+  const int rows = sqlite3_column_int(count, 0);
+  sqlite3_finalize(count);
+  int applied = 0;
+  std::string failures;
+  for (int row = 1; row <= rows; ++row) {
+    execute("DELETE FROM jet_rows");
+    execute("INSERT INTO jet_rows SELECT * FROM gathered WHERE rowid = " + std::to_string(row));
+    try {
+      for (const std::string& sql : statement.steps->apply) execute(answered(sql, answers));
+      ++applied;
+    } catch (const runtime::Error& error) {
+      failures += ", error " + std::to_string(error.number());
+    }
+  }
+  execute("DROP TABLE gathered; DROP TABLE jet_rows;");
+  return std::to_string(applied) + " applied" + failures;
 }
 
 void expectPrintsBack(const std::string& text) {
@@ -159,13 +214,11 @@ std::string SmallImage::run(const std::string& text, const std::vector<std::stri
 }
 
 std::string SmallImage::step(const RowStatement& statement, const std::vector<std::string>& answers) {
-  std::string sql = statement.sql;
-  for (std::size_t i = answers.size(); i > 0; --i) {
-    const std::string mark = "?" + std::to_string(i);
-    for (auto at = sql.find(mark); at != std::string::npos; at = sql.find(mark)) {
-      sql.replace(at, mark.size(), answers[i - 1]);
-    }
+  if (statement.sql.empty()) {
+    const std::string result = stepByRow(statement, answers);
+    return result.substr(0, result.find(' '));
   }
+  const std::string sql = answered(statement.sql, answers);
   sqlite3_stmt* prepared = nullptr;
   if (sqlite3_prepare_v2(connection_, sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK) {
     throw image::errorFromSqlite(connection_);

@@ -20,6 +20,7 @@ class SmallImage : public Schema {
 
   const file::TableDefinition* findTable(std::string_view name) const override;
   std::optional<std::string> findQuery(std::string_view name) const override;
+  std::string defaultOf(const file::TableDefinition& table, const file::Column& column) const override;
 
   /// Compiles and runs a statement whose parameters are answered by `answers` in order, as SQLite literals.
   /// Its rows as text, "a|b" each and "; " between them; the number of changed rows for another statement. An
@@ -33,6 +34,9 @@ class SmallImage : public Schema {
   }
   /// Rows of a compiled statement, or its count of changes. Throws the error of a step.
   std::string step(const RowStatement& statement, const std::vector<std::string>& answers);
+  /// Carries out a change in its two steps, each row on its own: "3 applied", and ", error <number>" behind
+  /// it for each that failed.
+  std::string stepByRow(const RowStatement& statement, const std::vector<std::string>& answers = {});
 
  private:
   void add(file::TableDefinition table);

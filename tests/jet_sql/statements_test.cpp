@@ -120,6 +120,35 @@ TEST_P(Changes, LeaveTheRowsOfTheEngine) {
   EXPECT_EQ(image.rows(GetParam().look), GetParam().rows);
 }
 
+TEST_P(Changes, LeaveTheSameRowsOneByOne) {
+  SmallImage image;
+  const RowStatement statement = image.compileRows(GetParam().statement);
+  const std::string changed = GetParam().changed, applied = image.stepByRow(statement);
+  EXPECT_EQ(applied.substr(0, applied.find(',')),
+            (changed.starts_with("error") ? "0" : changed) + std::string(" applied"))
+      << statement.steps->gather << "\n"
+      << statement.steps->apply.front();
+  EXPECT_EQ(image.rows(GetParam().look), GetParam().rows);
+}
+
+TEST(RowsOneByOne, FailAlone) {
+  const Change cases[] = {
+      {"UPDATE soci SET livello = cognome & '' WHERE id < 3", "0 applied, error 3421, error 3421",
+       "SELECT livello FROM soci", "3; 7; Null"},
+      {"UPDATE soci SET livello = IIf(id = 2, 'x', '4')", "2 applied, error 3421", "SELECT livello FROM soci",
+       "4; 7; 4"},
+      {"UPDATE soci SET altezza = 10 / (livello - 7) WHERE livello Is Not Null", "1 applied, error 11",
+       "SELECT altezza FROM soci", "-2,5; 2,5; Null"},
+      {"INSERT INTO tipi (nome) SELECT cognome & nome FROM soci WHERE id > 1 UNION SELECT 'corto' FROM soci",
+       "2 applied, error 3163", "SELECT nome FROM tipi", "corto; ROSSIbruno"},
+  };
+  for (const Change& row : cases) {
+    SmallImage image;
+    EXPECT_EQ(image.stepByRow(image.compileRows(row.statement)), row.changed) << row.statement;
+    EXPECT_EQ(image.rows(row.look), row.rows) << row.statement;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Updating, Changes,
     testing::Values(
@@ -139,18 +168,51 @@ INSTANTIATE_TEST_SUITE_P(
                "3", "SELECT importo FROM pagamenti", "13; 28,5; 12; Null"},
         Change{"UPDATE pagamenti SET peso = peso + 0.005 WHERE id < 3", "2", "SELECT peso FROM pagamenti",
                "10,5; 9,26; 100; Null"},
+        Change{"UPDATE soci AS s, pagamenti AS p SET s.quota = s.quota + p.importo WHERE s.id = p.socio", "3",
+               "SELECT quota FROM soci", "160,5; 55; Null"},
+        Change{"UPDATE soci AS s RIGHT JOIN pagamenti AS p ON s.id = p.socio SET s.Set = 'Z', p.data = "
+               "s.iscritto, "
+               "p.socio = s.livello WHERE p.id > 1",
+               "3",
+               "SELECT p.id, s.Set, p.data, p.socio FROM soci AS s, pagamenti AS p WHERE p.id + s.id = 4",
+               "3|Z|01/01/2006 18:00:00|7; 2|Z|01/01/2005|3; 1|Null|10/10/2006|1"},
+        Change{
+            "UPDATE soci SET nome = cognome, cognome = nome WHERE id IN (SELECT socio FROM pagamenti WHERE "
+            "importo > (SELECT Avg(importo) FROM pagamenti))",
+            "1", "SELECT nome, cognome FROM soci", "Rossi|Anna; bruno|ROSSI; Ezio|Bianchi"},
+        Change{
+            "UPDATE (soci s INNER JOIN tipi ON s.id = tipi.uno) LEFT JOIN (pagamenti p INNER JOIN soci t ON "
+            "p.socio = t.id) ON s.id = p.socio SET p.importo = 1",
+            "0", "SELECT importo FROM pagamenti", "10; 25,5; 5; Null"},
+        Change{"UPDATE (soci s INNER JOIN soci r ON s.cognome = r.cognome) LEFT JOIN (pagamenti p INNER JOIN "
+               "soci "
+               "t ON p.socio = t.id) ON r.id = p.socio SET p.importo = p.importo + 1 WHERE p.id < 3",
+               "4", "SELECT importo FROM pagamenti", "12; 27,5; 5; Null"},
+        Change{"UPDATE soci s LEFT JOIN rate r ON s.id = r.id SET r.id = s.id, r.data = s.iscritto WHERE "
+               "s.id > 1",
+               "2", "SELECT * FROM rate", "2|N|01/01/2006 18:00:00|2,5; 3|N|Null|2,5"},
         Change{"UPDATE soci SET livello = 40000", "error 6", "SELECT livello FROM soci", "3; 7; Null"},
         Change{"UPDATE soci SET livello = 'tre'", "error 3421", "SELECT livello FROM soci", "3; 7; Null"},
         Change{"UPDATE soci SET nome = 'undici lettere'", "error 3163", "SELECT nome FROM soci",
                "Anna; bruno; Ezio"}));
 
-INSTANTIATE_TEST_SUITE_P(Deleting, Changes,
-                         testing::Values(Change{"DELETE  * FROM soci", "3", "SELECT Count(*) FROM soci", "0"},
-                                         Change{"DELETE FROM soci WHERE nome = 'ANNA'", "1",
-                                                "SELECT nome FROM soci", "bruno; Ezio"},
-                                         Change{"DELETE pagamenti.* FROM pagamenti LEFT JOIN soci ON "
-                                                "pagamenti.socio = soci.id WHERE soci.id Is Null",
-                                                "1", "SELECT id FROM pagamenti", "1; 2; 3"}));
+INSTANTIATE_TEST_SUITE_P(
+    Deleting, Changes,
+    testing::Values(Change{"DELETE  * FROM soci", "3", "SELECT Count(*) FROM soci", "0"},
+                    Change{"DELETE FROM soci WHERE nome = 'ANNA'", "1", "SELECT nome FROM soci",
+                           "bruno; Ezio"},
+                    Change{"DELETE pagamenti.* FROM pagamenti LEFT JOIN soci ON "
+                           "pagamenti.socio = soci.id WHERE soci.id Is Null",
+                           "1", "SELECT id FROM pagamenti", "1; 2; 3"},
+                    Change{"DELETE p.* FROM soci AS s, pagamenti AS p WHERE p.importo < "
+                           "s.quota AND s.cognome LIKE 'r*'",
+                           "3", "SELECT id FROM pagamenti", "4"},
+                    Change{"DELETE s.* FROM soci s LEFT JOIN (pagamenti p INNER JOIN soci t ON "
+                           "p.socio = t.id) ON s.id = p.socio WHERE p.id IS NULL",
+                           "1", "SELECT id FROM soci", "1; 2"},
+                    Change{"DELETE t.* FROM soci s LEFT JOIN (pagamenti p INNER JOIN soci t ON "
+                           "p.socio = t.id) ON s.id = p.socio",
+                           "2", "SELECT id FROM soci", "3"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Inserting, Changes,
@@ -163,6 +225,12 @@ INSTANTIATE_TEST_SUITE_P(
                "SELECT id, socio FROM pagamenti WHERE id > 10", "12|2; 13|3"},
         Change{"INSERT INTO pagamenti SELECT TOP 1 livello AS socio, id FROM soci ORDER BY id DESC", "1",
                "SELECT id, socio FROM pagamenti WHERE id = 3", "3|2; 3|Null"},
+        Change{"INSERT INTO rate (id, stato) VALUES (1, Null)", "1", "SELECT * FROM rate",
+               "1|Null|02/01/2006|2,5"},
+        Change{"INSERT INTO rate (id, data) SELECT id, iscritto FROM soci", "3", "SELECT * FROM rate",
+               "1|N|01/01/2005|2,5; 2|N|01/01/2006 18:00:00|2,5; 3|N|Null|2,5"},
+        Change{"INSERT INTO rate (id) VALUES ((SELECT Max(id) FROM soci) + 1)", "1", "SELECT id FROM rate",
+               "4"},
         Change{"INSERT INTO tipi VALUES (255, 0.1, '{00112233-4455-6677-8899-AABBCCDDEEFF}', Null, 'x')", "1",
                "SELECT uno, mezzo, nome FROM tipi WHERE chiave = '{00112233-4455-6677-8899-aabbccddeeff}'",
                "255|0,1|x"}));
@@ -230,6 +298,12 @@ TEST(RowKeys, StandBehindTheColumnsWhereRowsAreRowsOfTables) {
        "p.socio "
        "WHERE s.id > 1",
        3, "2|2|3|3; 3|3|Null|Null"},
+      {"SELECT r.id, p.id FROM (soci s INNER JOIN soci r ON s.cognome = r.cognome) LEFT JOIN (pagamenti p "
+       "INNER "
+       "JOIN soci t ON p.socio = t.id) ON r.id = p.socio WHERE s.id <> 1 ORDER BY r.id, p.id",
+       4, "1|1|2|1|1|1; 1|2|2|1|2|1; 2|3|2|2|3|2; 3|Null|3|3|Null|Null"},
+      {"SELECT s.nome, p.id FROM pagamenti p, tipi t RIGHT JOIN soci s ON s.id = t.uno WHERE p.id = s.id", 3,
+       "Anna|1|1|Null|1; bruno|2|2|Null|2; Ezio|3|3|Null|3"},
       {"SELECT nome FROM soci WHERE id IN (SELECT socio FROM pagamenti)", 1, "Anna|1; bruno|2"},
       {"SELECT DISTINCT cognome FROM soci", 0, "Bianchi; Rossi"},
       {"SELECT Count(*) FROM soci", 0, "3"},

@@ -3,9 +3,11 @@
 /// Constants of the data access objects, with their published names and values.
 namespace jet::dao {
 
+/// 0 where a kind may be given: a table for a table's name, a dynaset for anything else.
 enum RecordsetType : int { dbOpenTable = 1, dbOpenDynaset = 2, dbOpenSnapshot = 4, dbOpenForwardOnly = 8 };
 
 enum RecordsetOption : int { dbReadOnly = 4 };
+enum EditModeType : int { dbEditNone = 0, dbEditInProgress = 1, dbEditAdd = 2 };
 enum ExecuteOption : int { dbFailOnError = 128 };
 
 enum DataType : int {
@@ -33,6 +35,12 @@ enum FieldAttribute : int {
   dbUpdatableField = 32,
   dbSystemField = 8192,
   dbHyperlinkField = 32768,
+};
+
+enum TableAttribute : int {
+  dbHiddenObject = 1,
+  dbSystemObject = -2147483646,
+  dbAttachedTable = 1073741824,
 };
 
 enum QueryDefType : int {

@@ -1,105 +1,203 @@
 #include "jet/dao/positioned_recordset.h"
 
-#include "jet/dao/values.h"
+#include <algorithm>
+#include <cstring>
 
 namespace jet::dao {
 
+namespace {
+
+struct Mark {
+  std::uint64_t family;
+  std::int64_t place;
+};
+
+std::uint64_t nextFamily() {
+  static std::uint64_t last = 0;
+  return ++last;
+}
+
+}  // namespace
+
+PositionedRecordset::PositionedRecordset(std::shared_ptr<Session> session, Origin origin,
+                                         std::vector<FieldInfo> fields)
+    : RecordsetBase(std::move(session), std::move(origin), std::move(fields)), family_(nextFamily()) {}
+
 void PositionedRecordset::restart() {
-  position_ = 0;
-  gone_ = false;
+  search_.reset();
+  family_ = nextFamily();
+  opened_ = count();
+  visited_ = 0;
+  lastModified_ = -1;
+  if (opened_ > 0)
+    goTo(0);
+  else
+    leave(Cursor::None);
+}
+
+void PositionedRecordset::becomeCloneOf(const PositionedRecordset& other) {
+  family_ = other.family_;
+  opened_ = other.opened_;
+  visited_ = opened_ > 0 ? 1 : 0;
+  narrowings_ = other.narrowings_;
+  leave(liveCount() > 0 ? Cursor::Before : Cursor::None);
+}
+
+void PositionedRecordset::goTo(std::int64_t place) {
+  cursor_ = Cursor::On;
+  place_ = place;
+  visited_ = std::max(visited_, place + 1);
   moved();
 }
 
-void PositionedRecordset::moveTo(std::int64_t position) {
-  position_ = position;
-  gone_ = false;
+void PositionedRecordset::leave(Cursor cursor) {
+  cursor_ = liveCount() > 0 ? cursor : Cursor::None;
+  if (cursor == Cursor::Behind) visited_ = count();
   moved();
+}
+
+std::int64_t PositionedRecordset::next(std::int64_t place) const {
+  do ++place;
+  while (place < count() && !filled(place));
+  return place;
+}
+
+std::int64_t PositionedRecordset::previous(std::int64_t place) const {
+  do --place;
+  while (place >= 0 && !filled(place));
+  return place;
+}
+
+std::int64_t PositionedRecordset::here() const {
+  requireOpen();
+  if (cursor_ == Cursor::Behind) return count();
+  return cursor_ == Cursor::On || cursor_ == Cursor::Deleted ? place_ : -1;
+}
+
+std::int64_t PositionedRecordset::requireRecord() const {
+  requireOpen();
+  if (cursor_ == Cursor::Deleted) recordDeleted();
+  if (cursor_ != Cursor::On) noCurrentRecord();
+  return place_;
+}
+
+void PositionedRecordset::deleted() {
+  moved();
+  cursor_ = Cursor::Deleted;
 }
 
 void PositionedRecordset::MoveFirst() {
   requireOpen();
-  if (count() == 0) noCurrentRecord();
-  moveTo(0);
+  if (liveCount() == 0) noCurrentRecord();
+  goTo(next(-1));
 }
 
 void PositionedRecordset::MoveLast() {
   requireOpen();
-  if (count() == 0) noCurrentRecord();
-  moveTo(count() - 1);
+  if (liveCount() == 0) noCurrentRecord();
+  visited_ = count();
+  goTo(previous(count()));
 }
 
 void PositionedRecordset::MoveNext() {
   requireOpen();
-  if (position_ >= count() && !gone_) noCurrentRecord();
-  moveTo(gone_ ? position_ : position_ + 1);
+  if (cursor_ == Cursor::None || cursor_ == Cursor::Behind) noCurrentRecord();
+  const auto place = next(here());
+  if (place < count())
+    goTo(place);
+  else
+    leave(Cursor::Behind);
 }
 
 void PositionedRecordset::MovePrevious() {
   requireOpen();
-  if (position_ < 0) noCurrentRecord();
-  moveTo(position_ - 1);
+  if (cursor_ == Cursor::None || cursor_ == Cursor::Before) noCurrentRecord();
+  const auto place = previous(here());
+  if (place >= 0)
+    goTo(place);
+  else
+    leave(Cursor::Before);
 }
 
-SnapshotRecordset::SnapshotRecordset(std::shared_ptr<Session> session, sql::RowStatement plan,
-                                     Answers answers)
-    : PositionedRecordset(session, resultFields(plan, session->runner())),
-      plan_(std::move(plan)),
-      answers_(std::move(answers)) {
-  fill();
+void PositionedRecordset::Move(std::int64_t rows) {
+  if (rows == 0) goTo(requireRecord());
+  bool first = true;
+  for (; rows > 0 && (first || !atEnd()); --rows, first = false) MoveNext();
+  for (; rows < 0 && (first || !BOF()); ++rows, first = false) MovePrevious();
 }
 
-SnapshotRecordset::~SnapshotRecordset() {
-  drop();
-}
-
-void SnapshotRecordset::fill() {
-  static std::uint64_t number = 0;
-  auto& runner = session_->runner();
-  const auto& connection = runner.image().connection();
-  drop();
-  const std::string table = "temp.s" + std::to_string(++number);
-  std::string columns;
-  for (std::size_t i = 0; i < plan_.columns.size(); ++i) columns += (i ? ", v" : "v") + std::to_string(i);
-  connection.execute("CREATE TABLE " + table + "(" + columns + ")");
-  table_ = table;
-  runner.prepareInto("INSERT INTO " + table + " ", plan_, answers_).run();
-  auto size = connection.prepare("SELECT count(*) FROM " + table);
-  size.step();
-  count_ = size.integer(0);
-  fetch_ = connection.prepare("SELECT * FROM " + table + " WHERE rowid = ?1");
-  restart();
-}
-
-void SnapshotRecordset::drop() {
-  fetch_ = {};
-  if (table_.empty() || session_->released()) return;
-  // A scratch table that can't be dropped goes with the connection.
-  sqlite3_exec(session_->image().connection().handle(), ("DROP TABLE IF EXISTS " + table_).c_str(), nullptr,
-               nullptr, nullptr);
-  table_.clear();
-}
-
-void SnapshotRecordset::moved() {
-  fetch_.reset();
-  if (!onRecord()) return;
-  fetch_.bind(1, position_ + 1);
-  fetch_.step();
-}
-
-runtime::Variant SnapshotRecordset::fieldValue(std::size_t index) const {
+std::int64_t PositionedRecordset::RecordCount() const {
   requireOpen();
-  if (!onRecord()) noCurrentRecord();
-  return fromImage(fetch_, static_cast<int>(index), fields_[index].type);
+  return std::min(visited_, opened_) - holes() + (count() - opened_);
 }
 
-void SnapshotRecordset::Requery() {
+std::int64_t PositionedRecordset::AbsolutePosition() const {
   requireOpen();
-  fill();
+  if (cursor_ != Cursor::On) return -1;
+  if (holes() == 0) return place_;
+  std::int64_t position = 0;
+  for (std::int64_t place = 0; place < place_; ++place) position += filled(place);
+  return position;
 }
 
-void SnapshotRecordset::Close() {
-  drop();
-  open_ = false;
+void PositionedRecordset::setAbsolutePosition(std::int64_t position) {
+  requireOpen();
+  if (position < 0 || position >= liveCount())
+    throw runtime::Error(3001, "DAO.Recordset", "Posizione fuori del recordset: " + std::to_string(position));
+  std::int64_t place = holes() == 0 ? position : next(-1);
+  if (holes() > 0)
+    while (position-- > 0) place = next(place);
+  goTo(place);
+}
+
+runtime::Bytes PositionedRecordset::bookmarkOf(std::int64_t place) const {
+  const Mark mark{family_, place};
+  runtime::Bytes bytes(sizeof mark);
+  std::memcpy(bytes.data(), &mark, sizeof mark);
+  return bytes;
+}
+
+runtime::Bytes PositionedRecordset::Bookmark() const {
+  return bookmarkOf(requireRecord());
+}
+
+runtime::Bytes PositionedRecordset::LastModified() const {
+  requireOpen();
+  if (lastModified_ < 0) noCurrentRecord();
+  return bookmarkOf(lastModified_);
+}
+
+void PositionedRecordset::setBookmark(const runtime::Bytes& bookmark) {
+  requireOpen();
+  Mark mark{};
+  if (bookmark.size() != sizeof mark) invalidBookmark();
+  std::memcpy(&mark, bookmark.data(), sizeof mark);
+  if (mark.family != family_ || mark.place < 0 || mark.place >= count()) invalidBookmark();
+  if (!filled(mark.place)) recordDeleted();
+  goTo(mark.place);
+}
+
+RecordSearch& PositionedRecordset::search() {
+  if (!search_) search_ = makeSearch();
+  extendSearch(*search_);
+  return *search_;
+}
+
+void PositionedRecordset::find(const std::string& criteria, std::int64_t from, bool forward) {
+  requireOpen();
+  const auto found = search().find(criteria, from, forward, [this](auto place) { return filled(place); });
+  noMatch_ = !found;
+  if (found) goTo(*found);
+}
+
+std::vector<std::int64_t> PositionedRecordset::narrowed(const Narrowing& narrowing) {
+  return search().all(narrowing.filter, narrowing.sort);
+}
+
+std::vector<PositionedRecordset::Narrowing> PositionedRecordset::narrowings() const {
+  auto result = narrowings_;
+  if (!filter_.empty() || !sort_.empty()) result.push_back({filter_, sort_});
+  return result;
 }
 
 }  // namespace jet::dao

@@ -1,104 +1,95 @@
 #pragma once
 
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "jet/dao/record_search.h"
 #include "jet/dao/recordset_base.h"
 
 namespace jet::dao {
 
-/// A recordset whose records have places 0..n-1 that can be gone to directly.
+/// A recordset whose records have places 0..n-1 that can be gone to directly. A record that the recordset
+/// deletes leaves its place empty, so that the others keep theirs.
 class PositionedRecordset : public RecordsetBase {
  public:
-  using RecordsetBase::RecordsetBase;
+  PositionedRecordset(std::shared_ptr<Session> session, Origin origin, std::vector<FieldInfo> fields);
 
-  bool BOF() const override { return requireOpen(), position_ < 0 || count() == 0; }
-  bool atEnd() const override { return requireOpen(), position_ >= count(); }
+  bool BOF() const override { return requireOpen(), cursor_ == Cursor::Before || cursor_ == Cursor::None; }
+  bool atEnd() const override { return requireOpen(), cursor_ == Cursor::Behind || cursor_ == Cursor::None; }
   void MoveFirst() override;
   void MoveNext() override;
   void MovePrevious() override;
   void MoveLast() override;
-  std::int64_t RecordCount() const override { return requireOpen(), count(); }
+  void Move(std::int64_t rows) override;
+  std::int64_t RecordCount() const override;
+  std::int64_t AbsolutePosition() const override;
+  void setAbsolutePosition(std::int64_t position) override;
+  bool Bookmarkable() const override { return requireOpen(), true; }
+  runtime::Bytes Bookmark() const override;
+  void setBookmark(const runtime::Bytes& bookmark) override;
+  runtime::Bytes LastModified() const override;
+  void FindFirst(const std::string& criteria) override { find(criteria, -1, true); }
+  void FindNext(const std::string& criteria) override { find(criteria, here(), true); }
+  void FindPrevious(const std::string& criteria) override { find(criteria, here(), false); }
+  void FindLast(const std::string& criteria) override { find(criteria, count(), false); }
+  std::string Filter() const override { return requireOpen(), filter_; }
+  void setFilter(const std::string& condition) override { requireOpen(), filter_ = condition; }
+  std::string Sort() const override { return requireOpen(), sort_; }
+  void setSort(const std::string& order) override { requireOpen(), sort_ = order; }
 
  protected:
-  virtual std::int64_t count() const = 0;
+  /// A Filter and a Sort that an OpenRecordset on a recordset has put on top of the query.
+  struct Narrowing {
+    std::string filter, sort;
+  };
+
+  virtual std::int64_t count() const = 0;  // of places
+  virtual bool filled(std::int64_t) const { return true; }
+  virtual std::int64_t holes() const { return 0; }  // places that are empty
   /// The cursor has come to another record, or to none.
   virtual void moved() = 0;
+  virtual std::unique_ptr<RecordSearch> makeSearch() = 0;
+  /// Brings the search up to date with records added since.
+  virtual void extendSearch(RecordSearch&) {}
+
   /// Stands at the first record of a newly filled recordset.
   void restart();
-  /// True on a record that is there.
-  bool onRecord() const { return !gone_ && position_ >= 0 && position_ < count(); }
+  /// Error 3021 without a current record, 3167 if it was deleted here.
+  std::int64_t requireRecord() const;
+  bool onRecord() const { return cursor_ == Cursor::On; }
+  void deleted();                          // the current record was
+  void touched(std::int64_t place) { lastModified_ = place; }
+  /// The places that remain, in their order, of a newly filled recordset.
+  std::vector<std::int64_t> narrowed(const Narrowing& narrowing);
+  std::vector<Narrowing> narrowings() const;
+  void closeSearch() { search_.reset(); }
+  /// A clone finds the same records by the same bookmarks, and stands on none.
+  void becomeCloneOf(const PositionedRecordset& other);
 
-  std::int64_t position_ = 0;
-  /// The current record was deleted: position_ already names the one behind it.
-  bool gone_ = false;
-
- private:
-  void moveTo(std::int64_t position);
-};
-
-/// Rows kept as they were when the query ran.
-class SnapshotRecordset : public PositionedRecordset {
- public:
-  SnapshotRecordset(std::shared_ptr<Session> session, sql::RowStatement plan, Answers answers);
-  ~SnapshotRecordset() override;
-  runtime::Variant fieldValue(std::size_t index) const override;
-  void Requery() override;
-  void Close() override;
+  std::vector<Narrowing> narrowings_;
 
  private:
-  std::int64_t count() const override { return count_; }
-  void moved() override;
-  void fill();
-  void drop();
+  enum class Cursor { None, Before, On, Deleted, Behind };
 
-  sql::RowStatement plan_;
-  Answers answers_;
-  std::string table_;  // of the image, holds the rows
-  image::Statement fetch_;
-  std::int64_t count_ = 0;
+  void goTo(std::int64_t place);
+  void leave(Cursor cursor);
+  std::int64_t next(std::int64_t place) const;
+  std::int64_t previous(std::int64_t place) const;
+  std::int64_t here() const;
+  std::int64_t liveCount() const { return count() - holes(); }
+  void find(const std::string& criteria, std::int64_t from, bool forward);
+  RecordSearch& search();
+  runtime::Bytes bookmarkOf(std::int64_t place) const;
+
+  Cursor cursor_ = Cursor::None;
+  std::int64_t place_ = 0;          // while on a record, or on a deleted one
+  std::int64_t visited_ = 0;        // places come to
+  std::int64_t opened_ = 0;         // places that there were at the start
+  std::int64_t lastModified_ = -1;  // a place
+  std::uint64_t family_;            // of this recordset and its clones
+  std::string filter_, sort_;
+  std::unique_ptr<RecordSearch> search_;
 };
-
-/// Rows of one table by their keys: each is read when the cursor comes to it, and can be changed.
-class KeysetRecordset : public PositionedRecordset {
- public:
-  /// `plan` was compiled with row keys and yields columns of one table only.
-  KeysetRecordset(std::shared_ptr<Session> session, sql::RowStatement plan, Answers answers, bool readOnly);
-  runtime::Variant fieldValue(std::size_t index) const override;
-  void setFieldValue(std::size_t index, const runtime::Variant& value) override;
-  void Edit() override;
-  void AddNew() override;
-  void Update() override;
-  void CancelUpdate() override;
-  void Delete() override;
-  void Requery() override;
-  void Close() override;
-
- private:
-  enum class Mode { Browse, Edit, Add };
-
-  std::int64_t count() const override { return static_cast<std::int64_t>(keys_.size()); }
-  void moved() override;
-  void fill();
-  /// Reads the current record; error 3167 if it was deleted, 3021 if there is none.
-  void fetch() const;
-  void requireChangeable() const;
-  /// Writes the edits of the fields `given` into the current record, or as a new one.
-  void store(const std::vector<std::size_t>& given);
-  std::string updateSql(const std::vector<std::size_t>& given) const;
-  std::string insertSql(const std::vector<std::size_t>& given) const;
-  std::uint32_t page() const { return plan_.tables[0].page; }
-  const file::Column& column(std::size_t field) const;
-
-  sql::RowStatement plan_;
-  Answers answers_;
-  bool readOnly_;
-  std::vector<std::uint16_t> columns_;  // Column::number of each field
-  std::vector<std::int64_t> keys_;
-  mutable image::Statement fetch_;
-  mutable bool fetched_ = false;
-  Mode mode_ = Mode::Browse;
-  Answers edits_;  // by field
-};
-
-/// True if `plan` yields plain columns of one table, each row by its key.
-bool hasKeyset(const sql::RowStatement& plan);
 
 }  // namespace jet::dao

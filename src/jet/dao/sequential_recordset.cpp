@@ -1,7 +1,6 @@
 #include "jet/dao/sequential_recordset.h"
 
 #include "jet/dao/values.h"
-#include "jet/file/values.h"
 
 namespace jet::dao {
 
@@ -11,23 +10,21 @@ void SequentialRecordset::start() {
   if (onRecord_) visited_ = 1;
 }
 
-void SequentialRecordset::MoveFirst() {
+void SequentialRecordset::requireRecord() const {
   requireOpen();
-  if (visited_ == 0) noCurrentRecord();
-  if (visited_ == 1 && onRecord_) return;
-  rewind();
-  start();
+  if (!onRecord_) noCurrentRecord();
 }
 
 void SequentialRecordset::MoveNext() {
-  requireOpen();
-  if (!onRecord_) noCurrentRecord();
+  requireRecord();
   onRecord_ = step();
   if (onRecord_) ++visited_;
 }
 
-void SequentialRecordset::MoveLast() {
-  invalidOperation();
+void SequentialRecordset::Move(std::int64_t rows) {
+  requireOpen();
+  if (rows < 0) invalidOperation();
+  for (bool first = true; rows > 0 && (first || onRecord_); --rows, first = false) MoveNext();
 }
 
 void SequentialRecordset::Requery() {
@@ -36,63 +33,48 @@ void SequentialRecordset::Requery() {
   start();
 }
 
-ForwardRecordset::ForwardRecordset(std::shared_ptr<Session> session, sql::RowStatement plan,
-                                   const Answers& answers)
-    : SequentialRecordset(session, resultFields(plan, session->runner())),
-      rows_(session->runner().prepare(std::move(plan), answers)) {
+ForwardRecordset::ForwardRecordset(std::shared_ptr<Session> session, Origin origin, sql::RowStatement plan,
+                                   Answers answers)
+    : SequentialRecordset(session, std::move(origin), resultFields(plan, session->runner())),
+      plan_(std::move(plan)),
+      answers_(std::move(answers)) {
+  rewind();
   start();
 }
 
+void ForwardRecordset::rewind() {
+  rows_ = {};
+  rows_ = session_->runner().prepare(plan_, answers_);
+}
+
 runtime::Variant ForwardRecordset::fieldValue(std::size_t index) const {
-  requireOpen();
-  if (!onRecord_) noCurrentRecord();
-  return fromImage(rows_.statement, static_cast<int>(index), fields_[index].type);
+  requireRecord();
+  return fromImage(rows_, static_cast<int>(index), fields_[index].type);
 }
 
 void ForwardRecordset::Close() {
-  rows_.statement = {};
+  rows_ = {};
   open_ = false;
 }
 
-FileRecordset::FileRecordset(std::shared_ptr<Session> session, std::uint32_t page)
-    : SequentialRecordset(session, {}), table_(session->image().sharedDefinition(page)) {
-  fields_ = tableFields(*table_, order_);
+FileRecordset::FileRecordset(std::shared_ptr<Session> session, Origin origin, std::uint32_t page)
+    : SequentialRecordset(session, std::move(origin), tableFields(session->image().definition(page))),
+      page_(page) {
   rewind();
   start();
 }
 
 void FileRecordset::rewind() {
-  reader_.emplace(session_->image().source(), *table_);
+  rows_.emplace(session_->image(), page_);
 }
 
 runtime::Variant FileRecordset::fieldValue(std::size_t index) const {
-  requireOpen();
-  if (!onRecord_) noCurrentRecord();
-  const auto& header = session_->image().source().header();
-  const auto position = order_[index];
-  return file::toVariant(*header.format, header.codePage, table_->columns[position], row_[position]);
-}
-
-// Going back is rare here and reads the table again from its start.
-void FileRecordset::MovePrevious() {
-  requireOpen();
-  if (visited_ == 0) noCurrentRecord();
-  const auto wanted = onRecord_ ? visited_ - 1 : visited_;
-  rewind();
-  visited_ = 0;
-  onRecord_ = false;
-  while (visited_ < wanted && (onRecord_ = step())) ++visited_;
-}
-
-void FileRecordset::MoveLast() {
-  requireOpen();
-  if (visited_ == 0) noCurrentRecord();
-  while (onRecord_) MoveNext();
-  MovePrevious();
+  requireRecord();
+  return rows_->value(index);
 }
 
 void FileRecordset::Close() {
-  reader_.reset();
+  rows_.reset();
   open_ = false;
 }
 

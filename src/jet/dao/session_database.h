@@ -16,15 +16,17 @@ class SessionDatabase : public Database {
 
   const std::string& Name() const override { return session_->path(); }
   RecordsetPtr OpenRecordset(const std::string& source, RecordsetType type, int options) override;
-  QueryDefPtr CreateQueryDef(const std::string& name, const std::string& sql) override;
   void Execute(const std::string& sql, int options) override;
   std::int64_t RecordsAffected() const override { return affected_; }
-  std::vector<std::string> tableNames() const override;
-  TableDefPtr TableDefs(std::string_view name) override;
-  std::vector<Relation> Relations() const override;
-  std::vector<std::string> queryNames() const override;
-  QueryDefPtr QueryDefs(std::string_view name) override;
-  void deleteQueryDef(std::string_view name) override;
+
+  TableDefCollection TableDefs() override;
+  RelationCollection Relations() override;
+  QueryDefCollection QueryDefs() override;
+  TableDefPtr CreateTableDef(const std::string& name) override;
+  RelationPtr CreateRelation(const std::string& name, const std::string& table,
+                             const std::string& foreignTable, int attributes) override;
+  QueryDefPtr CreateQueryDef(const std::string& name, const std::string& sql) override;
+  Property CreateProperty(const std::string& name, int type, const runtime::Variant& value) override;
   void Close() override;
 
  private:
@@ -34,9 +36,5 @@ class SessionDatabase : public Database {
   std::function<void(Session&)> onClose_;
   std::int64_t affected_ = 0;
 };
-
-/// Opens the rows of a compiled SELECT in the way `type` asks for. Error 3065 for another statement.
-RecordsetPtr openRows(const std::shared_ptr<Session>& session, const std::string& sql, const Answers& answers,
-                      RecordsetType type, int options);
 
 }  // namespace jet::dao

@@ -1,12 +1,30 @@
 #include "jet/dao/session_query_def.h"
 
-#include "jet/dao/session_database.h"
+#include "jet/dao/open_rows.h"
+#include "jet/dao/values.h"
 
 namespace jet::dao {
 
 namespace {
 
 constexpr char Source[] = "DAO.QueryDef";
+
+/// QueryDef.Parameters
+class QueryParameters : public CollectionSource<Parameter> {
+ public:
+  explicit QueryParameters(std::shared_ptr<SessionQueryDef> query) : query_(std::move(query)) {}
+  const char* title() const override { return "DAO.Parameters"; }
+  std::size_t count() const override { return query_->parameterCount(); }
+  Parameter at(std::size_t position) const override { return Parameter(query_, position); }
+  std::optional<std::size_t> find(std::string_view name) const override {
+    for (std::size_t i = 0; i < count(); ++i)
+      if (file::sameName(query_->parameterName(i), name)) return i;
+    return std::nullopt;
+  }
+
+ private:
+  std::shared_ptr<SessionQueryDef> query_;
+};
 
 }  // namespace
 
@@ -56,57 +74,80 @@ void SessionQueryDef::setSQL(const std::string& sql) {
     rewriteQuery(session_->image(), object(), sql);
   else
     sql_ = sql;
-  parameters_.reset();
+  compiled_.reset();
   answers_.clear();
 }
 
-const std::vector<sql::Parameter>& SessionQueryDef::parameters() {
+const std::vector<sql::Parameter>& SessionQueryDef::Compiled::parameters() const {
+  static const std::vector<sql::Parameter> none;
+  const auto* rows = std::get_if<sql::RowStatement>(&statement);
+  return rows ? rows->parameters : none;
+}
+
+SessionQueryDef::Compiled& SessionQueryDef::compiled() {
   requireOpen();
-  const std::string text = SQL();
-  if (!parameters_ || parametersOf_ != text) {
-    const auto statement = session_->runner().compile(text);
-    const auto* rows = std::get_if<sql::RowStatement>(&statement);
-    parameters_ = rows ? rows->parameters : std::vector<sql::Parameter>{};
-    parametersOf_ = text;
-    answers_.assign(parameters_->size(), std::nullopt);
-  }
-  return *parameters_;
+  if (compiled_ && compiled_->generation == session_->image().generation()) return *compiled_;
+  auto text = SQL();
+  // Answers hold for the text whose parameters they were given to.
+  if (!compiled_ || compiled_->text != text) answers_.clear();
+  compiled_.reset();
+  auto statement = session_->runner().compile(text);
+  compiled_.emplace(Compiled{session_->image().generation(), std::move(text), std::move(statement), {}});
+  answers_.resize(compiled_->parameters().size());
+  return *compiled_;
 }
 
-void SessionQueryDef::setParameter(std::string_view name, const runtime::Variant& value) {
-  const auto& known = parameters();
-  for (std::size_t i = 0; i < known.size(); ++i)
-    if (file::sameName(known[i].name, name)) {
-      answers_[i] = value;
-      return;
-    }
-  throw runtime::Error(3265, "DAO.Parameters", "Elemento inesistente nell'insieme: " + std::string(name));
+const sql::Parameter& SessionQueryDef::parameter(std::size_t index) {
+  const auto& known = compiled().parameters();
+  if (index >= known.size())
+    throw runtime::Error(3420, "DAO.Parameter", "Oggetto non valido: la query ha un altro testo");
+  return known[index];
 }
 
-void SessionQueryDef::setParameter(std::size_t index, const runtime::Variant& value) {
-  if (index >= parameters().size())
-    throw runtime::Error(3265, "DAO.Parameters",
-                         "Elemento inesistente nell'insieme: " + std::to_string(index));
+int SessionQueryDef::parameterType(std::size_t index) {
+  const auto type = parameter(index).type;
+  return type == sql::Type::Variant ? static_cast<int>(dbText) : dataType(type);
+}
+
+runtime::Variant SessionQueryDef::parameterValue(std::size_t index) {
+  parameter(index);
+  return answers_[index].value_or(runtime::Variant());
+}
+
+void SessionQueryDef::setParameterValue(std::size_t index, const runtime::Variant& value) {
+  parameter(index);
   answers_[index] = value;
 }
 
-/// Answers hold for the text whose parameters they were given to.
-std::string SessionQueryDef::textToRun() {
+ParameterCollection SessionQueryDef::Parameters() {
   requireOpen();
-  std::string text = SQL();
-  if (text != parametersOf_) answers_.clear();
-  return text;
+  return ParameterCollection(std::make_shared<QueryParameters>(shared_from_this()));
 }
 
-RecordsetPtr SessionQueryDef::OpenRecordset(RecordsetType type) {
-  const std::string text = textToRun();
-  return openRows(session_, text, answers_, type, 0);
+RecordsetPtr SessionQueryDef::OpenRecordset(RecordsetType type, int options) {
+  const auto& query = compiled();
+  return openRows(session_, storedId_ ? Name() : query.text, query.text, answers_, type, options);
 }
 
-void SessionQueryDef::Execute(int) {
-  const std::string text = textToRun();
-  auto& runner = session_->runner();
-  affected_ = runner.execute(runner.compile(text), answers_);
+void SessionQueryDef::Execute(int options) {
+  auto& query = compiled();
+  const bool failOnError = options & dbFailOnError;
+  auto* rows = std::get_if<sql::RowStatement>(&query.statement);
+  if (!rows) {
+    affected_ = session_->runner().execute(query.statement, answers_, failOnError);
+    return;
+  }
+  if (!query.changes) {
+    query.changes.emplace(session_->image(), StatementRunner::change(*rows));
+    // Making the tables ready is no change of the design.
+    query.generation = session_->image().generation();
+  }
+  affected_ = query.changes->run(answers_, failOnError);
+}
+
+void SessionQueryDef::Close() {
+  compiled_.reset();
+  open_ = false;
 }
 
 }  // namespace jet::dao

@@ -7,7 +7,9 @@
 namespace jet::dao {
 
 /// A QueryDef over a session, temporary or stored; compiled when first used.
-class SessionQueryDef : public QueryDef {
+class SessionQueryDef : public QueryDef,
+                        public ParameterOwner,
+                        public std::enable_shared_from_this<SessionQueryDef> {
  public:
   SessionQueryDef(std::shared_ptr<Session> session, std::string sql)
       : session_(std::move(session)), sql_(std::move(sql)) {}
@@ -21,25 +23,38 @@ class SessionQueryDef : public QueryDef {
   runtime::Variant LastUpdated() const override;
   std::string SQL() const override;
   void setSQL(const std::string& sql) override;
-  void setParameter(std::string_view name, const runtime::Variant& value) override;
-  void setParameter(std::size_t index, const runtime::Variant& value) override;
-  RecordsetPtr OpenRecordset(RecordsetType type) override;
+  ParameterCollection Parameters() override;
+  using QueryDef::Parameters;
+  RecordsetPtr OpenRecordset(RecordsetType type, int options) override;
   void Execute(int options) override;
   std::int64_t RecordsAffected() const override { return affected_; }
-  void Close() override { open_ = false; }
+  void Close() override;
+
+  std::string parameterName(std::size_t index) override { return parameter(index).name; }
+  int parameterType(std::size_t index) override;
+  runtime::Variant parameterValue(std::size_t index) override;
+  void setParameterValue(std::size_t index, const runtime::Variant& value) override;
+  std::size_t parameterCount() { return compiled().parameters().size(); }
 
  private:
   void requireOpen() const;
   /// Error 3420 if the query was deleted.
   QueryObject object() const;
-  const std::vector<sql::Parameter>& parameters();
-  std::string textToRun();
+  /// The query as it was compiled for the design that the image has now.
+  struct Compiled {
+    std::uint64_t generation = 0;  // Image::generation()
+    std::string text;
+    sql::Statement statement;
+    std::optional<RowChanges> changes;  // once it was executed
+    const std::vector<sql::Parameter>& parameters() const;
+  };
+  Compiled& compiled();
+  const sql::Parameter& parameter(std::size_t index);
 
   std::shared_ptr<Session> session_;
   std::string sql_;  // of a temporary query
   std::optional<std::uint32_t> storedId_;
-  std::optional<std::vector<sql::Parameter>> parameters_;
-  std::string parametersOf_;  // the text that has them
+  std::optional<Compiled> compiled_;
   Answers answers_;
   std::int64_t affected_ = 0;
   bool open_ = true;

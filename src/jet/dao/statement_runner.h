@@ -5,20 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "jet/image/image.h"
-#include "jet/sql/compile.h"
-#include "runtime/variant.h"
+#include "jet/dao/row_changes.h"
 
 namespace jet::dao {
-
-/// Answers to a statement's parameters, in their order; those not answered are empty.
-using Answers = std::vector<std::optional<runtime::Variant>>;
-
-/// A statement over rows, ready to be stepped.
-struct PreparedRows {
-  sql::RowStatement plan;
-  image::Statement statement;
-};
 
 /// Compiles Jet SQL against an image and carries it out.
 class StatementRunner : public sql::Schema {
@@ -29,24 +18,25 @@ class StatementRunner : public sql::Schema {
     return image_.definition(name);
   }
   std::optional<std::string> findQuery(std::string_view name) const override;
+  std::string defaultOf(const file::TableDefinition& table, const file::Column& column) const override;
 
   sql::Statement compile(const std::string& text, bool withRowKeys = false) const;
+  /// Error 3219 for what isn't a SELECT.
+  sql::RowStatement selection(const std::string& text, bool withRowKeys = false) const;
+  /// Error 3065 for a SELECT.
+  static sql::RowStatement change(sql::RowStatement plan);
   /// Makes the tables of `plan` ready. Error 3061 while a parameter is not answered.
-  PreparedRows prepare(sql::RowStatement plan, const Answers& answers);
+  image::Statement prepare(const sql::RowStatement& plan, const Answers& answers);
   /// The same for `plan` wrapped into another statement (an INSERT that keeps a snapshot).
   image::Statement prepareInto(const std::string& prefix, const sql::RowStatement& plan,
                                const Answers& answers);
-  /// Carries out a statement that returns no rows, whole or not at all; gives the number of rows affected.
-  /// Error 3065 for a SELECT.
-  std::int64_t execute(const sql::Statement& statement, const Answers& answers);
+  /// Carries out a statement that returns no rows; gives the number of rows affected. `failOnError` as
+  /// RowChanges::run has it. Error 3065 for a SELECT.
+  std::int64_t execute(sql::Statement statement, const Answers& answers, bool failOnError);
 
   image::Image& image() { return image_; }
 
  private:
-  void ready(const sql::RowStatement& plan);
-  std::int64_t change(const sql::RowStatement& plan, const Answers& answers);
-  void create(const sql::CreateTable& table);
-  void createIndex(const sql::CreateIndex& index);
 
   image::Image& image_;
 };

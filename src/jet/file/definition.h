@@ -76,6 +76,7 @@ struct Column {
 struct IndexColumn {
   std::uint16_t column = 0;  // Column::number
   bool ascending = true;
+  bool operator==(const IndexColumn&) const = default;
 };
 
 /// A tree of keys in the file.

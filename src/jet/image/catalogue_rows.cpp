@@ -1,7 +1,6 @@
 #include "jet/image/catalogue_rows.h"
 
 #include <array>
-#include <vector>
 
 #include "jet/file/format.h"
 #include "platform/clock.h"
@@ -14,11 +13,16 @@ using Bytes = std::vector<std::byte>;
 
 // Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c4 DateCreate, c5 DateUpdate, c6 Owner,
 // c7 Flags, c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2 ACM, c3 FInheritable. Of MSysRelationships
-// (t5): c4 szObject, c5 szColumn, c6 szReferencedObject, c7 szReferencedColumn.
+// (t5): c0 szRelationship, c1 grbit, c2 ccolumn, c3 icolumn, c4 szObject, c5 szColumn, c6 szReferencedObject,
+// c7 szReferencedColumn; "referenced" is the parent's side.
 constexpr char InsertObject[] =
     "INSERT INTO t2 (c0, c1, c2, c3, c4, c5, c6, c7) VALUES (?1, ?2, ?3, ?4, ?5, ?5, ?6, ?7)";
 constexpr char InsertPermission[] = "INSERT INTO t3 (c0, c1, c2, c3) VALUES (?1, ?2, ?3, 0)";
 constexpr char InheritedPermissions[] = "SELECT c1, c2 FROM t3 WHERE c0 = ?1 AND c3 <> 0 ORDER BY rowid";
+constexpr char RelationRows[] =
+    "SELECT c0, c6, c4, c1, c7, c5 FROM t5 ORDER BY min(rowid) OVER (PARTITION BY c0), c3";
+constexpr char InsertRelation[] =
+    "INSERT INTO t5 (c0, c1, c2, c3, c4, c5, c6, c7) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)";
 constexpr char OwnerOfDatabase[] = "SELECT c6 FROM t2 WHERE c0 = ?1";
 
 // The creator's id, 02 04, and the user Admin's, 03 01, are kept under one cipher of two bytes.
@@ -115,12 +119,12 @@ void touchObject(const Connection& connection, std::uint32_t id) {
 }
 
 file::PropertyBlock readProperties(const Connection& connection, const file::Format& format,
-                                   std::uint32_t id) {
+                                   std::uint16_t codePage, std::uint32_t id) {
   auto query = connection.prepare("SELECT c14 FROM t2 WHERE c0 = ?1");
   query.bind(1, signedId(id));
   if (!query.step() || query.null(0)) return {};
   const Bytes block = blob(query, 0);
-  return block.empty() ? file::PropertyBlock() : file::PropertyBlock(format, block);
+  return block.empty() ? file::PropertyBlock() : file::PropertyBlock(format, block, codePage);
 }
 
 void writeProperties(const Connection& connection, std::uint32_t id, const file::PropertyBlock& properties) {
@@ -133,14 +137,58 @@ void writeProperties(const Connection& connection, std::uint32_t id, const file:
   update.run();
 }
 
-void renameInRelations(const Connection& connection, const std::string& table, std::string_view column,
-                       const std::string& newName) {
+std::vector<RelationDesign> readRelations(const Connection& connection) {
+  std::vector<RelationDesign> relations;
+  auto rows = connection.prepare(RelationRows);
+  while (rows.step()) {
+    const std::string name = rows.text(0);
+    if (relations.empty() || relations.back().name != name)
+      relations.push_back(
+          {name, rows.text(1), rows.text(2), static_cast<std::uint32_t>(rows.integer(3)), {}});
+    relations.back().pairs.push_back({rows.text(4), rows.text(5)});
+  }
+  return relations;
+}
+
+void insertRelation(const Connection& connection, const RelationDesign& relation) {
+  auto insert = connection.prepare(InsertRelation);
+  for (std::size_t i = 0; i < relation.pairs.size(); ++i) {
+    insert.bind(1, std::string_view(relation.name));
+    insert.bind(2, signedId(relation.attributes));
+    insert.bind(3, static_cast<std::int64_t>(relation.pairs.size()));
+    insert.bind(4, static_cast<std::int64_t>(i));
+    insert.bind(5, std::string_view(relation.foreignTable));
+    insert.bind(6, std::string_view(relation.pairs[i].foreignColumn));
+    insert.bind(7, std::string_view(relation.table));
+    insert.bind(8, std::string_view(relation.pairs[i].column));
+    insert.run();
+  }
+}
+
+void deleteRelation(const Connection& connection, const std::string& name) {
+  auto remove = connection.prepare("DELETE FROM t5 WHERE c0 = ?1");
+  remove.bind(1, std::string_view(name));
+  remove.run();
+}
+
+void renameColumnInRelations(const Connection& connection, const std::string& table, std::string_view column,
+                             const std::string& newName) {
   for (const char* sql : {"UPDATE t5 SET c5 = ?3 WHERE c4 = ?1 AND c5 = ?2",
                           "UPDATE t5 SET c7 = ?3 WHERE c6 = ?1 AND c7 = ?2"}) {
     auto update = connection.prepare(sql);
     update.bind(1, std::string_view(table));
     update.bind(2, column);
     update.bind(3, std::string_view(newName));
+    update.run();
+  }
+}
+
+void renameTableInRelations(const Connection& connection, std::string_view table,
+                            const std::string& newName) {
+  for (const char* sql : {"UPDATE t5 SET c4 = ?2 WHERE c4 = ?1", "UPDATE t5 SET c6 = ?2 WHERE c6 = ?1"}) {
+    auto update = connection.prepare(sql);
+    update.bind(1, table);
+    update.bind(2, std::string_view(newName));
     update.run();
   }
 }

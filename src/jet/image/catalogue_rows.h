@@ -4,10 +4,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "jet/file/catalogue.h"
 #include "jet/file/properties.h"
 #include "jet/image/connection.h"
+#include "jet/image/relation_design.h"
 
 /// Rows of the system tables that tell of an object, changed in the image like any rows. The system tables
 /// they name must be loaded; the caller marks them as changed.
@@ -22,11 +24,16 @@ void touchObject(const Connection& connection, std::uint32_t id);
 
 /// The object's property block; empty if it has none.
 file::PropertyBlock readProperties(const Connection& connection, const file::Format& format,
-                                   std::uint32_t id);
+                                   std::uint16_t codePage, std::uint32_t id);
 void writeProperties(const Connection& connection, std::uint32_t id, const file::PropertyBlock& properties);
 
-/// Renames a column in the rows of the relations that name it.
-void renameInRelations(const Connection& connection, const std::string& table, std::string_view column,
-                       const std::string& newName);
+/// All relations in the order in which they were made.
+std::vector<RelationDesign> readRelations(const Connection& connection);
+void insertRelation(const Connection& connection, const RelationDesign& relation);
+void deleteRelation(const Connection& connection, const std::string& name);
+/// Renames a column, or a table, in the rows of the relations that name it.
+void renameColumnInRelations(const Connection& connection, const std::string& table, std::string_view column,
+                             const std::string& newName);
+void renameTableInRelations(const Connection& connection, std::string_view table, const std::string& newName);
 
 }  // namespace jet::image

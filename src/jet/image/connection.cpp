@@ -12,7 +12,7 @@ constexpr char Source[] = "DAO.Database";
 // Cache of the scratch database; what is larger goes to a temporary file.
 constexpr char Settings[] =
     "PRAGMA cache_size = -24576; PRAGMA synchronous = OFF; PRAGMA temp_store = FILE;"
-    "PRAGMA foreign_keys = OFF; PRAGMA recursive_triggers = OFF;";
+    "PRAGMA foreign_keys = OFF; PRAGMA recursive_triggers = ON;";
 
 /// SQLite's words for what goes beyond one of its limits or a number's range.
 struct Limit {
@@ -93,6 +93,12 @@ void Statement::run() {
 void Statement::bind(int parameter, std::string_view value) {
   sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "", value.size(),
                       SQLITE_TRANSIENT, SQLITE_UTF8);
+}
+
+std::string Statement::text(int column) const {
+  const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(handle_.get(), column));
+  return data ? std::string(data, static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column)))
+              : std::string();
 }
 
 Connection::Connection() {

@@ -34,6 +34,7 @@ class Statement {
   void bindNull(int parameter) { sqlite3_bind_null(handle_.get(), parameter); }
 
   std::int64_t integer(int column) const { return sqlite3_column_int64(handle_.get(), column); }
+  std::string text(int column) const;
   bool null(int column) const { return sqlite3_column_type(handle_.get(), column) == SQLITE_NULL; }
 
   sqlite3_stmt* handle() const { return handle_.get(); }

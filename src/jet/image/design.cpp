@@ -32,11 +32,12 @@ bool isVariable(ColumnType type) {
   return type == ColumnType::Text || type == ColumnType::Binary || file::isLongValue(type);
 }
 
-bool hasRelation(const file::TableDefinition& table, std::size_t real) {
-  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(),
-                     [&](const LogicalIndex& index) {
-                       return index.real == real && index.kind == LogicalIndex::Kind::Relation;
-                     });
+std::vector<LogicalIndex>::iterator indexNamed(file::TableDefinition& table, std::string_view name) {
+  const auto found =
+      std::find_if(table.logicalIndexes.begin(), table.logicalIndexes.end(),
+                   [&](const LogicalIndex& index) { return file::sameName(index.name, name); });
+  if (found == table.logicalIndexes.end()) fail(3372, "Indice inesistente: " + std::string(name));
+  return found;
 }
 
 }  // namespace
@@ -70,14 +71,10 @@ void addColumn(file::TableDefinition& table, Column column) {
 
 void addIndex(file::TableDefinition& table, const IndexDesign& design) {
   checkName(design.name);
-  if (table.realIndexes.size() >= MaxIndexes) fail(3626, "Troppi indici nella tabella " + table.name);
+  requireRoomForIndex(table);
   if (design.columns.empty() || design.columns.size() > MaxIndexColumns)
     fail(3290, "Numero di campi non valido nell'indice " + design.name);
-  for (const auto& part : design.columns) {
-    const auto& column = table.columns[*table.findNumber(part.column)];
-    if (column.type == ColumnType::Ole || column.type == ColumnType::Raw)
-      fail(3290, "Il campo " + column.name + " non può stare in un indice");
-  }
+  for (const auto& part : design.columns) checkIndexable(table.columns[*table.findNumber(part.column)]);
   std::uint32_t number = 0;
   for (const auto& index : table.logicalIndexes) {
     if (file::sameName(index.name, design.name)) fail(3284, "Indice già presente: " + design.name);
@@ -101,18 +98,53 @@ void addIndex(file::TableDefinition& table, const IndexDesign& design) {
 }
 
 void removeIndex(file::TableDefinition& table, std::string_view name) {
-  const auto found =
-      std::find_if(table.logicalIndexes.begin(), table.logicalIndexes.end(),
-                   [&](const LogicalIndex& index) { return file::sameName(index.name, name); });
-  if (found == table.logicalIndexes.end()) fail(3372, "Indice inesistente: " + std::string(name));
+  const auto found = indexNamed(table, name);
   const auto real = found->real;
-  if (hasRelation(table, real)) fail(3281, "L'indice " + found->name + " è usato da una relazione");
-  table.logicalIndexes.erase(found);
-  const auto stillNamed = [&](const LogicalIndex& index) { return index.real == real; };
-  if (std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(), stillNamed)) return;
+  bool onlyForeign = found->kind != LogicalIndex::Kind::Relation, shared = false;
+  for (const auto& index : table.logicalIndexes) {
+    if (index.real != real || &index == &*found) continue;
+    shared = true;
+    if (index.kind == LogicalIndex::Kind::Relation && index.side == LogicalIndex::Side::Primary)
+      onlyForeign = false;
+  }
+  if (!onlyForeign) fail(3281, "L'indice " + found->name + " è usato da una relazione");
+  removeLogical(table, static_cast<std::size_t>(found - table.logicalIndexes.begin()));
+  const auto ordinary = [&](const LogicalIndex& index) {
+    return index.real == real && index.kind != LogicalIndex::Kind::Relation;
+  };
+  // A relation alone asks of its foreign side neither that values are unique nor that there are any.
+  if (shared && std::ranges::none_of(table.logicalIndexes, ordinary))
+    table.realIndexes[real].flags = RealIndex::Jet4Mark;
+}
+
+void removeLogical(file::TableDefinition& table, std::size_t position) {
+  const auto real = table.logicalIndexes[position].real;
+  table.logicalIndexes.erase(table.logicalIndexes.begin() + static_cast<std::ptrdiff_t>(position));
+  if (std::ranges::find(table.logicalIndexes, real, &LogicalIndex::real) != table.logicalIndexes.end())
+    return;
   table.realIndexes.erase(table.realIndexes.begin() + real);
   for (auto& index : table.logicalIndexes)
     if (index.real > real) --index.real;
+}
+
+void renameIndex(file::TableDefinition& table, std::string_view name, const std::string& newName) {
+  checkName(newName);
+  const auto renamed = indexNamed(table, name);
+  if (renamed->kind == LogicalIndex::Kind::Relation)
+    fail(3281, "L'indice " + renamed->name + " è di una relazione");
+  for (const auto& index : table.logicalIndexes)
+    if (&index != &*renamed && file::sameName(index.name, newName))
+      fail(3284, "Indice già presente: " + newName);
+  renamed->name = newName;
+}
+
+void requireRoomForIndex(const file::TableDefinition& table) {
+  if (table.realIndexes.size() >= MaxIndexes) fail(3626, "Troppi indici nella tabella " + table.name);
+}
+
+void checkIndexable(const Column& column) {
+  if (column.type == ColumnType::Ole || column.type == ColumnType::Raw)
+    fail(3290, "Il campo " + column.name + " non può stare in un indice");
 }
 
 std::string indexNameOf(const file::TableDefinition& table, std::size_t real) {
@@ -126,11 +158,6 @@ bool isIndexed(const file::TableDefinition& table, std::uint16_t columnNumber) {
     return std::any_of(index.columns.begin(), index.columns.end(),
                        [&](const file::IndexColumn& part) { return part.column == columnNumber; });
   });
-}
-
-bool isRelated(const file::TableDefinition& table) {
-  return std::any_of(table.logicalIndexes.begin(), table.logicalIndexes.end(),
-                     [](const LogicalIndex& index) { return index.kind == LogicalIndex::Kind::Relation; });
 }
 
 void checkName(std::string_view name) {

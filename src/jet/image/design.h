@@ -24,15 +24,23 @@ struct IndexDesign {
 /// Appends a real index with its name. Error 3284 if the table has the name, 3283 for a second primary key,
 /// 3626 beyond 32 indexes, 3290 for a column that can't be indexed or more than ten.
 void addIndex(file::TableDefinition& table, const IndexDesign& design);
-/// Error 3372 if there is none, 3281 while a relation uses it.
+/// Error 3372 if there is none, 3281 while a relation uses it; on the foreign side a relation goes on with an
+/// index of its own.
 void removeIndex(file::TableDefinition& table, std::string_view name);
+
+/// Errors 3372, 3284, 3125, 3281 for a relation's own.
+void renameIndex(file::TableDefinition& table, std::string_view name, const std::string& newName);
+/// Removes the logical index at this position, and its real index if nothing else uses that.
+void removeLogical(file::TableDefinition& table, std::size_t position);
+/// Error 3626 beyond 32 indexes.
+void requireRoomForIndex(const file::TableDefinition& table);
+/// Error 3290 for a type that indexes can't have.
+void checkIndexable(const file::Column& column);
 
 /// A name of real index `real`, for messages.
 std::string indexNameOf(const file::TableDefinition& table, std::size_t real);
 /// True if a real index has the column.
 bool isIndexed(const file::TableDefinition& table, std::uint16_t columnNumber);
-/// True if a relation stands on one of the table's indexes.
-bool isRelated(const file::TableDefinition& table);
 /// Error 3125 for a name that is empty, longer than 64 characters, or holds . ! ` [ ] or a control character.
 void checkName(std::string_view name);
 

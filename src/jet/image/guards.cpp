@@ -28,6 +28,18 @@ void refuseNull(const Connection& connection, const file::TableDefinition& table
                      where + body);
 }
 
+/// Drops what belongs to t<page> of these types.
+void dropMatching(const Connection& connection, std::uint32_t page, const std::string& types) {
+  std::vector<std::string> commands;
+  auto query = connection.prepare(
+      "SELECT 'DROP ' || type || ' ' || name FROM sqlite_master WHERE tbl_name = ?1 AND type IN (" + types +
+      ")");
+  query.bind(1, std::string_view(tableName(page)));
+  while (query.step()) commands.push_back(query.text(0));
+  query.reset();
+  for (const auto& command : commands) connection.execute(command);
+}
+
 }  // namespace
 
 void Image::guard(Table& table) {
@@ -59,6 +71,27 @@ void Image::guard(Table& table) {
                         std::to_string(table.page) + ", NEW." + name + ") WHERE rowid = NEW.rowid; END");
   }
   table.guarded = true;
+}
+
+void Image::dropTriggers(Table& table) {
+  ++generation_;
+  if (table.guarded) dropMatching(connection_, table.page, "'trigger'");
+  table.guarded = false;
+}
+
+void Image::dropRules(Table& table) {
+  ++generation_;
+  if (table.made) dropMatching(connection_, table.page, "'index', 'trigger'");
+  table.guarded = false;
+}
+
+void Image::dropTriggersAround(const Table& table) {
+  for (const auto& relation : relations()) {
+    if (!file::sameName(relation.table, table.name) && !file::sameName(relation.foreignTable, table.name))
+      continue;
+    for (const auto& name : {relation.table, relation.foreignTable})
+      if (find(name)) dropTriggers(tableNamed(name, 3078));
+  }
 }
 
 void Image::autoNumber(sqlite3_context* context, int, sqlite3_value** values) {

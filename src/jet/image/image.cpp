@@ -4,6 +4,7 @@
 
 #include "jet/file/table_reader.h"
 #include "jet/image/file_scan.h"
+#include "jet/image/linked_table.h"
 #include "jet/image/row_codec.h"
 
 namespace jet::image {
@@ -48,8 +49,11 @@ std::string levelName(std::size_t level) {
 
 Image::Image(std::unique_ptr<file::PageFile> source) : source_(std::move(source)) {
   for (auto& object : file::readCatalogue(*source_)) {
-    if (object.type != file::ObjectType::Table) continue;
+    const bool link =
+        object.type == file::ObjectType::LinkedTable || object.type == file::ObjectType::OdbcTable;
+    if (!link && object.type != file::ObjectType::Table) continue;
     Table table;
+    table.link = link;
     table.name = std::move(object.name);
     table.page = object.id;
     table.flags = object.flags;
@@ -87,6 +91,7 @@ Table& Image::tableNamed(std::string_view name, int errorNumber) {
 }
 
 const file::TableDefinition& Image::definition(Table& table) {
+  if (table.link) return linkedDefinition(table);
   if (!table.definition)
     table.definition =
         std::make_shared<const file::TableDefinition>(file::readDefinition(*source_, table.page, table.name));
@@ -114,34 +119,62 @@ void Image::requireWritable() const {
                          "Impossibile aggiornare: database di sola lettura - " + source_->path());
 }
 
-void Image::createRows(const file::TableDefinition& definition) {
-  if (definition.columns.empty())
-    throw runtime::Error(3343, Source, "Tabella senza campi: " + definition.name);
-  std::string sql = "CREATE TABLE " + tableName(definition.page) + "(";
-  for (const auto& column : definition.columns)
+void Image::makeRows(Table& table) {
+  if (table.made) return;
+  const auto& design = definition(table);
+  if (design.columns.empty()) throw runtime::Error(3343, Source, "Tabella senza campi: " + design.name);
+  std::string sql = "CREATE TABLE main." + tableName(table.page) + "(";
+  for (const auto& column : design.columns)
     sql += columnName(column.number) + " " + columnDeclaration(column.type) + ",";
   sql.back() = ')';
   connection_.execute(sql);
+  table.made = true;
 }
 
 void Image::load(Table& table) {
   if (table.loaded) return;
   const auto& design = definition(table);
+  const bool made = table.made;
   Savepoint savepoint(connection_, "load");
-  if (table.scanned) connection_.execute("DROP TABLE temp." + tableName(table.page));
-  createRows(design);
-  std::string sql = "INSERT INTO " + tableName(table.page) + " VALUES (?";
-  for (std::size_t i = 1; i < design.columns.size(); ++i) sql += ",?";
-  auto insert = connection_.prepare(sql + ")");
-  FieldBinder binder(*source_, design);
-  file::TableReader reader(*source_, design);
-  for (file::Row row; reader.next(row);) {
-    binder.bind(insert.handle(), row);
-    insert.run();
+  try {
+    if (table.scanned) connection_.execute("DROP TABLE temp." + tableName(table.page));
+    makeRows(table);
+    if (table.link)
+      loadFrom(openLinked(table.linked->path), table.linked->source, table);
+    else
+      loadFrom(*source_, design, table);
+  } catch (...) {
+    table.made = made;
+    throw;
   }
   savepoint.keep();
   table.loaded = true;
   table.scanned = false;
+}
+
+void Image::loadFrom(const file::PageFile& pages, const file::TableDefinition& design, const Table& table) {
+  std::string sql = "INSERT INTO main." + tableName(table.page) + " VALUES (?";
+  for (std::size_t i = 1; i < design.columns.size(); ++i) sql += ",?";
+  auto insert = connection_.prepare(sql + ")");
+  FieldBinder binder(pages, design);
+  file::TableReader reader(pages, design);
+  for (file::Row row; reader.next(row);) {
+    binder.bind(insert.handle(), row);
+    insert.run();
+  }
+}
+
+void Image::dropScan(Table& table) {
+  ++generation_;
+  if (table.scanned) connection_.execute("DROP TABLE temp." + tableName(table.page));
+  table.scanned = false;
+}
+
+void Image::dropRows(Table& table) {
+  ++generation_;
+  dropScan(table);
+  if (table.made) connection_.execute("DROP TABLE main." + tableName(table.page));
+  table.made = table.loaded = table.guarded = false;
 }
 
 void Image::makeIndexes(const file::TableDefinition& design, const std::vector<std::uint16_t>& compared,
@@ -174,15 +207,18 @@ void Image::prepareToRead(std::uint32_t page, const std::vector<std::uint16_t>& 
 void Image::prepareToScan(std::uint32_t page) {
   auto& wanted = table(page);
   if (wanted.loaded || wanted.scanned) return;
-  if (definition(wanted).rows < SmallTable) return load(wanted);
+  if (definition(wanted).rows < SmallTable || wanted.link) return load(wanted);
   connection_.execute("CREATE VIRTUAL TABLE temp." + tableName(page) + " USING jet_file(" +
                       std::to_string(page) + ")");
   wanted.scanned = true;
 }
 
-void Image::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared) {
+void Image::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared,
+                            const RowChange&) {
   requireWritable();
   auto& wanted = table(page);
+  if (wanted.link)
+    throw runtime::Error(3027, Source, "Impossibile aggiornare una tabella collegata: " + wanted.name);
   load(wanted);
   makeIndexes(*wanted.definition, compared, true);
   if (!wanted.guarded) guard(wanted);
@@ -203,6 +239,7 @@ void Image::commit() {
 }
 
 void Image::rollback() {
+  ++generation_;
   const std::string level = levelName(saved_.size() - 1);
   connection_.execute("ROLLBACK TO " + level);
   connection_.execute("RELEASE " + level);
@@ -233,6 +270,7 @@ void Image::write(platform::File& out) {
 }
 
 void Image::rebase(std::unique_ptr<file::PageFile> source) {
+  ++generation_;
   source_ = std::move(source);
   freePages_.reset();
   state_.dropped.clear();

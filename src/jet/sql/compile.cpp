@@ -33,22 +33,28 @@ class Compilation {
 
   Statement compileBody(const tree::Update& tree) {
     const bound::Update update = Binder(context_, nullptr).update(tree);
-    return finish(RowStatement::Kind::Update, translator_.update(update));
+    return change(RowStatement::Kind::Update, translator_.update(update));
   }
 
   Statement compileBody(const tree::Delete& tree) {
     const bound::Delete deletion = Binder(context_, nullptr).deletion(tree);
-    return finish(RowStatement::Kind::Delete, translator_.deletion(deletion));
+    return change(RowStatement::Kind::Delete, translator_.deletion(deletion));
   }
 
   Statement compileBody(const tree::Insert& tree) {
     const bound::Insert insert = Binder(context_, nullptr).insert(tree);
-    return finish(RowStatement::Kind::Insert, translator_.insert(insert));
+    return change(RowStatement::Kind::Insert, translator_.insert(insert));
   }
 
   template <class Definition>
   Statement compileBody(const Definition& tree) {
     return bindDefinition(tree);
+  }
+
+  RowStatement change(RowStatement::Kind kind, Translator::Change change) const {
+    RowStatement result = finish(kind, std::move(change.sql));
+    result.steps = std::move(change.steps);
+    return result;
   }
 
   RowStatement finish(RowStatement::Kind kind, std::string sql) const {

@@ -66,9 +66,12 @@ struct RowStatement {
   /// grouping, DISTINCT, UNION, a query in FROM.
   std::size_t rowKeys = 0;
   /// UPDATE, INSERT and DELETE in two steps, so that each row can be tried on its own: the rows of `gather`,
-  /// a SELECT, are kept as temp.jet_rows; then each of `apply`, one for each table that is changed, does its
-  /// part for what is there. The answers to the parameters are bound to all of them. `sql` is empty where
-  /// several tables are changed, so that the steps are the only way.
+  /// a SELECT, are kept; then, for one of them after the other as the only row of temp.jet_rows, each of
+  /// `apply` does its part. What a row assigns is computed and converted
+  /// by `apply`, from the row as the rows before have left it. The answers to the parameters are bound to all
+  /// statements. `sql` is empty where the steps are the only way: several tables are changed, a join may
+  /// reach a row twice whose new value is made from its old one, or an outer join finds no row to change, so
+  /// that one is added.
   struct Steps {
     std::string gather;
     std::vector<std::string> apply;

@@ -37,6 +37,7 @@ constexpr Description descriptions[] = {
     {SubqueryColumns, "La sottoquery deve restituire un solo campo"},
     {InsertCountDiffers, "Il numero dei valori non corrisponde a quello dei campi di destinazione"},
     {TooComplex, "Espressione troppo complessa"},
+    {UnknownReference, "Riferimento sconosciuto nel valore predefinito"},
     {TypesDiffer, "Tipi di dati non corrispondenti nell'espressione criterio"},
 };
 

@@ -33,6 +33,7 @@ enum StatementError : int {
   SubqueryColumns = 3306,
   InsertCountDiffers = 3346,
   TooComplex = 3360,
+  UnknownReference = 3387,
   TypesDiffer = 3464,
 };
 

@@ -17,6 +17,15 @@ class Binder {
   bound::Delete deletion(const tree::Delete& deletion);
   bound::Insert insert(const tree::Insert& insert);
 
+  // default_value.cpp
+  /// What a new row gets in the columns that are not among `assigned`. `position`: of the table's name in the
+  /// statement. Error 3387 for an expression that names something.
+  std::vector<bound::Assignment> defaults(const file::TableDefinition& table,
+                                          const std::vector<bound::Assignment>& assigned,
+                                          std::size_t position);
+  std::optional<bound::Expression> defaultValue(const file::TableDefinition& table,
+                                                const file::Column& column, std::size_t position);
+
   // select.cpp
   bound::Select select(const tree::Select& select);
   /// The keys of the query whose only part this binder has bound as `select`.

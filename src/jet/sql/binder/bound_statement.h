@@ -81,12 +81,19 @@ struct Assignment {
   Expression value;
 };
 
-/// Changes the rows of source `target`, one of `from`.
-struct Update {
-  std::vector<Source> from;
-  unsigned target = 0;
+/// A table of FROM whose rows an UPDATE changes. Where an outer join may find no row of it, one is added, of
+/// the assigned values and `defaults`.
+struct Target {
+  unsigned source = 0;
   std::uint32_t page = 0;
   std::vector<Assignment> assignments;
+  bool optional = false;
+  std::vector<Assignment> defaults;
+};
+
+struct Update {
+  std::vector<Source> from;
+  std::vector<Target> targets;
   std::optional<Expression> where;
 };
 
@@ -97,10 +104,10 @@ struct Delete {
   std::optional<Expression> where;
 };
 
-/// Adds a row of the assigned values for each row of `rows`; one row where that is not there.
+/// Adds a row of the assigned values and `defaults` for each row of `rows`; one row where that is not there.
 struct Insert {
   std::uint32_t page = 0;
-  std::vector<Assignment> assignments;
+  std::vector<Assignment> assignments, defaults;
   std::optional<QuerySource> rows;
 };
 

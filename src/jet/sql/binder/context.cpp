@@ -40,6 +40,11 @@ void Context::noteChanged(unsigned source, TouchedTable::Change change) {
   tables_[*tableOfSource_[source]].change = change;
 }
 
+void Context::noteAssigned(unsigned source, std::uint16_t column) {
+  auto& assigned = tables_[*tableOfSource_[source]].assigned;
+  if (std::ranges::find(assigned, column) == assigned.end()) assigned.push_back(column);
+}
+
 void Context::openStoredQuery(std::size_t position) {
   constexpr unsigned maximumOpen = 20;
   if (++openQueries_ > maximumOpen) throw SyntaxError(TooComplex, "", position);

@@ -27,6 +27,7 @@ class Context {
   /// Notes that `expression` is compared, grouped or sorted by, if it is a table's column.
   void noteCompared(const bound::Expression& expression);
   void noteChanged(unsigned source, TouchedTable::Change change);
+  void noteAssigned(unsigned source, std::uint16_t column);
   const std::vector<TouchedTable>& tables() const { return tables_; }
 
   /// Opens one more stored query within those that are open. Error 3360 where they never end.

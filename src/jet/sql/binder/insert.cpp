@@ -60,6 +60,7 @@ bound::Insert Binder::insert(const tree::Insert& tree) {
   for (std::size_t i = 0; i < columns.size(); ++i) {
     insert.assignments.push_back({columns[i]->number, store(std::move(values[i]), *columns[i])});
   }
+  insert.defaults = defaults(*table, insert.assignments, position);
   return insert;
 }
 

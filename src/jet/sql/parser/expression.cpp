@@ -80,6 +80,16 @@ struct MakeNode {
 
 }  // namespace
 
+Expression Parser::wholeExpression() {
+  Expression whole = expression();
+  if (cursor_.peek().kind != Token::Kind::End) cursor_.fail(ExpressionSyntax);
+  return whole;
+}
+
+Expression parseExpression(std::string_view text) {
+  return Parser(text).wholeExpression();
+}
+
 Expression Parser::expression(int minimum) {
   const Level level(*this);
   Expression left = operand();

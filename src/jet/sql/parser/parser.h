@@ -14,6 +14,8 @@ class Parser {
 
   /// The whole text as one statement, a closing semicolon allowed. Throws SyntaxError.
   tree::Statement statement();
+  /// The whole text as one expression.
+  tree::Expression wholeExpression();
 
  private:
   // statement.cpp
@@ -88,5 +90,6 @@ class Parser {
 };
 
 tree::Statement parse(std::string_view text);
+tree::Expression parseExpression(std::string_view text);
 
 }  // namespace jet::sql

@@ -41,17 +41,19 @@ Sql Translator::translate(const bound::InList& node, Type) {
 }
 
 Sql Translator::translate(const bound::InQuery& node, Type) {
-  return {within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" +
-              query(*node.query, Shape{}) + ")",
-          Strength::Equality};
+  return gathered([&]() -> Sql {
+    return {within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" +
+                query(*node.query, Shape{}) + ")",
+            Strength::Equality};
+  });
 }
 
 Sql Translator::translate(const bound::Exists& node, Type) {
-  return {"EXISTS (" + query(*node.query, Shape{}) + ")"};
+  return gathered([&]() -> Sql { return {"EXISTS (" + query(*node.query, Shape{}) + ")"}; });
 }
 
 Sql Translator::translate(const bound::Subquery& node, Type) {
-  return {"(" + query(*node.query, Shape{}) + ")"};
+  return gathered([&]() -> Sql { return {"(" + query(*node.query, Shape{}) + ")"}; });
 }
 
 }  // namespace jet::sql

@@ -58,7 +58,9 @@ Sql Translator::value(const Expression& expression) {
 
 Sql Translator::ordered(const Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
-  return column && column->collated ? value(expression) : withCollation(value(expression), expression.type);
+  const bool lost = gathering_ && column && column->source != gathering_->target;
+  return column && column->collated && !lost ? value(expression)
+                                             : withCollation(value(expression), expression.type);
 }
 
 std::string Translator::list(const std::vector<Expression>& expressions) {
@@ -83,6 +85,7 @@ Sql Translator::translate(const bound::Literal& node, Type) {
 }
 
 Sql Translator::translate(const bound::Column& node, Type) {
+  if (gathering_) return {gathered(node)};
   return {"a" + std::to_string(node.source) + "." + node.name};
 }
 

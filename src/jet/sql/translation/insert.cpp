@@ -2,18 +2,32 @@
 
 namespace jet::sql {
 
-std::string Translator::insert(const bound::Insert& insert) {
+std::string Translator::insertInto(std::uint32_t page, const std::vector<bound::Assignment>& assignments,
+                                   const std::vector<bound::Assignment>& defaults) {
   std::string columns, values;
-  for (const bound::Assignment& assignment : insert.assignments) {
-    columns += (columns.empty() ? "c" : ", c") + std::to_string(assignment.column);
-    values += (values.empty() ? "" : ", ") + value(assignment.value).text;
+  for (const auto* list : {&assignments, &defaults}) {
+    for (const bound::Assignment& assignment : *list) {
+      columns += (columns.empty() ? "c" : ", c") + std::to_string(assignment.column);
+      values += (values.empty() ? "" : ", ") + value(assignment.value).text;
+    }
   }
-  std::string text = "INSERT INTO t" + std::to_string(insert.page) + " (" + columns + ") SELECT " + values;
+  return "INSERT INTO t" + std::to_string(page) + " (" + columns + ") SELECT " + values;
+}
+
+Translator::Change Translator::insert(const bound::Insert& insert) {
+  std::string rows;
   if (insert.rows) {
-    text += " FROM (" + query(*insert.rows->query, Shape{true, true, false}) + ") AS a" +
-            std::to_string(insert.rows->source);
+    rows = " FROM (" + query(*insert.rows->query, Shape{true, true, false}) + ") AS a" +
+           std::to_string(insert.rows->source);
   }
-  return text;
+  Change change{insertInto(insert.page, insert.assignments, insert.defaults) + rows, {}};
+  Gathering gathering;
+  gathering_ = &gathering;
+  change.steps.apply.push_back(insertInto(insert.page, insert.assignments, insert.defaults) +
+                               " FROM temp.jet_rows AS u");
+  gathering_ = nullptr;
+  change.steps.gather = "SELECT " + gatheredList({}, gathering) + rows;
+  return change;
 }
 
 }  // namespace jet::sql

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "jet/sql/binder/bound_statement.h"
+#include "jet/sql/compile.h"
 
 namespace jet::sql {
 
@@ -30,12 +32,17 @@ class Translator {
   /// How many rowids query() has put behind the columns.
   std::size_t rowKeys() const { return rowKeys_; }
 
-  std::string update(const bound::Update& update);
-  std::string deletion(const bound::Delete& deletion);
-  std::string insert(const bound::Insert& insert);
+  /// A statement that changes rows, in one step (empty where that can't be) and in two.
+  struct Change {
+    std::string sql;
+    RowStatement::Steps steps;
+  };
+  Change update(const bound::Update& update);
+  Change deletion(const bound::Delete& deletion);
+  Change insert(const bound::Insert& insert);
 
  private:
-  /// FROM, and the tables whose rowids its rows can name (none where one of them can't be named).
+  /// FROM, and its tables; none where a query stands among them.
   struct From {
     std::string text;
     std::vector<unsigned> tables;
@@ -90,10 +97,38 @@ class Translator {
 
   // source.cpp
   From from(const std::vector<bound::Source>& sources);
-  From source(const bound::Source& source);
+  From source(const bound::Source& source, bool enclosed);
+  /// The rowid of a table of FROM.
+  std::string rowid(unsigned source) const;
   std::string where(const std::optional<bound::Expression>& condition);
 
+  // update.cpp, insert.cpp
+  std::string assignments(const bound::Target& target);
+  void applyUpdate(const bound::Target& target, std::size_t key, Change& change);
+  /// INSERT ... SELECT without FROM.
+  std::string insertInto(std::uint32_t page, const std::vector<bound::Assignment>& assignments,
+                         const std::vector<bound::Assignment>& defaults);
+
+  /// While an expression is translated for a row that is applied on its own: a column of the row that it
+  /// changes is read from its table, as it is by then; every other column, and a sub-query, was gathered.
+  struct Gathering {
+    std::optional<unsigned> target;
+    std::uint32_t page = 0;
+    std::vector<std::string> columns;  // in SQL; v1, v2, ... of temp.jet_rows
+    bool readsTarget = false;
+  };
+  // gathering.cpp
+  std::string gathered(const bound::Column& column);
+  /// A sub-query, which is evaluated when the rows are gathered.
+  Sql gathered(const std::function<Sql()>& subquery);
+  static std::string gatheredAs(Gathering& gathering, std::string text);
+  /// The keys of targets as k1, k2, ... and what else was gathered, for the list of a SELECT.
+  std::string gatheredList(const std::vector<unsigned>& targets, const Gathering& gathering) const;
+
   std::size_t rowKeys_ = 0;
+  /// Tables of FROM that stand in parentheses, by source number.
+  std::vector<bool> enclosed_;
+  Gathering* gathering_ = nullptr;
   /// Rowid that tells the order of the rows of the SELECT being translated, or "0".
   std::string firstKey_ = "0";
 };
@@ -103,9 +138,6 @@ Sql booleanValue(Sql condition);
 
 /// A text as SQLite writes it.
 std::string quoted(std::string_view text);
-
-/// The rowid of a source, a column of it.
-std::string rowid(unsigned source);
 
 /// SQL with the order in which values of `type` are compared.
 Sql withCollation(Sql sql, Type type);

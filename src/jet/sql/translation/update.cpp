@@ -2,21 +2,52 @@
 
 namespace jet::sql {
 
-/// Over joins the new values are gathered first, so that no row is found by what another one has become.
-std::string Translator::update(const bound::Update& update) {
-  const From source = from(update.from);
-  const bool joined = source.tables.size() != 1;
-  const std::string table = "t" + std::to_string(update.page);
-  std::string assignments, values;
-  for (std::size_t i = 0; i < update.assignments.size(); ++i) {
-    const std::string text = value(update.assignments[i].value).text, name = "v" + std::to_string(i + 1);
-    values += ", " + text + " AS " + name;
-    assignments += (i ? ", c" : "c") + std::to_string(update.assignments[i].column) + " = " +
-                   (joined ? "u." + name : text);
+std::string Translator::assignments(const bound::Target& target) {
+  std::string text;
+  for (const bound::Assignment& assignment : target.assignments) {
+    text += (text.empty() ? "c" : ", c") + std::to_string(assignment.column) + " = " +
+            value(assignment.value).text;
   }
-  if (!joined) return "UPDATE " + source.text + " SET " + assignments + where(update.where);
-  return "UPDATE " + table + " SET " + assignments + " FROM (SELECT " + rowid(update.target) + " AS k" +
-         values + " FROM " + source.text + where(update.where) + ") AS u WHERE " + table + ".rowid = u.k";
+  return text;
+}
+
+/// The statements that change the row of a target, known by the gathered column k<key>.
+void Translator::applyUpdate(const bound::Target& target, std::size_t key, Change& change) {
+  const std::string table = "t" + std::to_string(target.page), name = "u.k" + std::to_string(key);
+  gathering_->target = target.source, gathering_->page = target.page;
+  change.steps.apply.push_back("UPDATE " + table + " SET " + assignments(target) +
+                               " FROM temp.jet_rows AS u WHERE " + table + ".rowid = " + name);
+  if (!target.optional) return;
+  gathering_->target.reset();
+  change.steps.apply.push_back(insertInto(target.page, target.assignments, target.defaults) +
+                               " FROM temp.jet_rows AS u WHERE " + name + " IS NULL");
+}
+
+Translator::Change Translator::update(const bound::Update& update) {
+  const From source = from(update.from);
+  Change change;
+  Gathering gathering;
+  gathering_ = &gathering;
+  std::vector<unsigned> targets;
+  bool stepsOnly = update.targets.size() > 1;
+  for (const bound::Target& target : update.targets) {
+    targets.push_back(target.source);
+    applyUpdate(target, targets.size(), change);
+    stepsOnly |= target.optional;
+  }
+  gathering_ = nullptr;
+  change.steps.gather =
+      "SELECT " + gatheredList(targets, gathering) + " FROM " + source.text + where(update.where);
+  if (source.tables.size() == 1) {
+    change.sql =
+        "UPDATE " + source.text + " SET " + assignments(update.targets.front()) + where(update.where);
+  } else if (!stepsOnly && !gathering.readsTarget) {
+    // In one step a row that the join finds twice gets the last of its values, as it would row by row.
+    const std::string name = "temp.jet_rows";
+    change.sql = change.steps.apply.front();
+    change.sql.replace(change.sql.find(name), name.size(), "(" + change.steps.gather + ")");
+  }
+  return change;
 }
 
 }  // namespace jet::sql
