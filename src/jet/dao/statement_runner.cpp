@@ -1,6 +1,7 @@
 #include "jet/dao/statement_runner.h"
 
 #include "jet/dao/values.h"
+#include "jet/sql/domain.h"
 #include "jet/sql/functions.h"
 #include "runtime/overloaded.h"
 
@@ -38,6 +39,11 @@ image::IndexDesign indexDesign(const file::TableDefinition& table, const sql::Cr
 
 StatementRunner::StatementRunner(image::Image& image) : image_(image) {
   sql::registerFunctions(image.connection().handle());
+  sql::registerDomainFunction(image.connection().handle(), [this](const std::string& text) {
+    auto plan = std::get<sql::RowStatement>(compile(text));
+    ready(plan);
+    return plan;
+  });
 }
 
 sql::Statement StatementRunner::compile(const std::string& text, bool withRowKeys) const {
