@@ -11,6 +11,8 @@ namespace runtime::pattern {
 
 namespace {
 
+constexpr int singleDigits = 7, doubleDigits = 15;
+
 /// The digits of a number, the first one not zero: 0.d1d2d3... * 10^point.
 class Digits {
  public:
@@ -20,14 +22,14 @@ class Digits {
                    [&](std::uint8_t number) { whole(number, 0, false); },
                    [&](std::int16_t number) { whole(std::abs(number), 0, number < 0); },
                    [&](std::int32_t number) { whole(std::abs(std::int64_t{number}), 0, number < 0); },
-                   [&](float number) { real(static_cast<double>(number), 7); },
-                   [&](double number) { real(number, 15); },
+                   [&](float number) { real(static_cast<double>(number), singleDigits); },
+                   [&](double number) { real(number, doubleDigits); },
                    [&](Currency money) {
                      const bool below = money.tenThousandths < 0;
                      const auto amount = static_cast<std::uint64_t>(money.tenThousandths);
                      whole(below ? 0 - amount : amount, 4, below);
                    },
-                   [&](Date date) { real(date.days, 15); },
+                   [&](Date date) { real(date.days, doubleDigits); },
                    [&](const Decimal& number) { whole(number.magnitude, number.scale, number.negative); },
                    [](const auto&) {},
                },
@@ -63,16 +65,26 @@ class Digits {
 
   void whole(Wide magnitude, int scale, bool negative) {
     negative_ = negative;
-    for (Wide rest = magnitude; rest != 0; rest /= 10) ++count_;
-    for (auto place = static_cast<std::size_t>(count_); place-- > 0; magnitude /= 10)
-      digits_[place] = static_cast<char>('0' + static_cast<int>(magnitude % 10));
+    if (magnitude <= UINT64_MAX) {  // nearly always, and dividing 128 bits is slow
+      char* end = std::to_chars(digits_.data(), digits_.data() + digits_.size(),
+                                static_cast<std::uint64_t>(magnitude))
+                      .ptr;
+      count_ = magnitude == 0 ? 0 : static_cast<int>(end - digits_.data());
+    } else {
+      for (Wide rest = magnitude; rest != 0; rest /= 10) ++count_;
+      for (auto place = static_cast<std::size_t>(count_); place-- > 0; magnitude /= 10)
+        digits_[place] = static_cast<char>('0' + static_cast<int>(magnitude % 10));
+    }
     point_ = count_ - scale;
     dropZeros();
   }
 
   void real(double value, int significant) {
+    constexpr double exact = 1e15;
     negative_ = value < 0;
     if (value == 0) return;
+    if (significant == doubleDigits && std::abs(value) < exact && value == std::trunc(value))
+      return whole(static_cast<std::uint64_t>(std::abs(value)), 0, negative_);
     char buffer[40];
     const char* end = std::to_chars(buffer, buffer + sizeof buffer, std::abs(value),
                                     std::chars_format::scientific, significant - 1)

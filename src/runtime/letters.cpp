@@ -51,7 +51,9 @@ std::string toUtf8(std::u32string_view text) {
 
 char32_t lowerCase(char32_t c) {
   bool capitalIsOdd = false;
-  if (within(c, U'A', U'Z') || (within(c, 0xC0, 0xDE) && c != 0xD7)) return c + 0x20;
+  if (within(c, U'A', U'Z')) return c + 0x20;
+  if (c < 0x80) return c;
+  if (within(c, 0xC0, 0xDE) && c != 0xD7) return c + 0x20;
   if (c < 0x100) return c;
   if (c == 0x178) return 0xFF;
   if (alternates(c, capitalIsOdd)) return (c & 1) == capitalIsOdd ? c + 1 : c;
@@ -61,7 +63,9 @@ char32_t lowerCase(char32_t c) {
 
 char32_t upperCase(char32_t c) {
   bool capitalIsOdd = false;
-  if (within(c, U'a', U'z') || (within(c, 0xE0, 0xFE) && c != 0xF7)) return c - 0x20;
+  if (within(c, U'a', U'z')) return c - 0x20;
+  if (c < 0x80) return c;
+  if (within(c, 0xE0, 0xFE) && c != 0xF7) return c - 0x20;
   if (c == 0xFF) return 0x178;
   if (c < 0x100) return c;
   if (alternates(c, capitalIsOdd)) return (c & 1) == capitalIsOdd ? c : c - 1;

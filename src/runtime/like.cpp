@@ -9,8 +9,15 @@ namespace {
 
 constexpr std::size_t none = std::string_view::npos;
 
+/// The small letter of an ASCII character, -1 for another.
+int asciiLetter(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte >= 0x80 ? -1 : byte >= 'A' && byte <= 'Z' ? byte | 0x20 : byte;
+}
+
 /// The first character as a piece of the text.
 std::string_view frontOf(std::string_view text) {
+  if (asciiLetter(text.front()) >= 0) return text.substr(0, 1);
   std::string_view rest = text;
   takeCharacter(rest);
   return text.substr(0, text.size() - rest.size());
@@ -23,6 +30,8 @@ std::string_view takeFront(std::string_view& text) {
 }
 
 bool areEqual(std::string_view a, std::string_view b, TextOrder order) {
+  const int left = asciiLetter(a.front()), right = asciiLetter(b.front());
+  if (left >= 0 && right >= 0) return left == right;
   return a == b || order(a, b) == 0;
 }
 

@@ -31,6 +31,22 @@ std::size_t count(std::int64_t value, std::int64_t least) {
   return static_cast<std::size_t>(value);
 }
 
+bool isAscii(char c) {
+  return static_cast<unsigned char>(c) < 0x80;
+}
+
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
+
+/// False where texts that begin with these bytes can't begin with the same letter, which is nearly
+/// everywhere.
+bool mayBegin(char text, char part, Compare compare) {
+  if (isAscii(text) != isAscii(part)) return false;
+  if (compare == Compare::Exact) return text == part;
+  return !isAscii(text) || lower(text) == lower(part);
+}
+
 /// Bytes of `text` that `part` covers at its front, nothing where it does not begin with it.
 std::size_t frontLength(std::string_view text, std::string_view part, Compare compare) {
   constexpr std::size_t none = std::string_view::npos;
@@ -51,7 +67,7 @@ struct Match {
 /// The first `part` from byte `from` on; at the text's end with size 0 where there is none.
 Match find(std::string_view text, std::string_view part, std::size_t from, Compare compare) {
   for (std::size_t at = from; at < text.size(); ++at) {
-    if (continues(text[at])) continue;
+    if (continues(text[at]) || (!part.empty() && !mayBegin(text[at], part[0], compare))) continue;
     const std::size_t size = frontLength(text.substr(at), part, compare);
     if (size != std::string_view::npos) return {at, size};
   }
@@ -62,7 +78,14 @@ template <char32_t (*change)(char32_t)>
 std::string changed(std::string_view text) {
   std::string result;
   result.reserve(text.size());
-  while (!text.empty()) appendUtf8(change(takeCharacter(text)), result);
+  while (!text.empty()) {
+    if (isAscii(text.front())) {
+      result += static_cast<char>(change(static_cast<char32_t>(text.front())));
+      text.remove_prefix(1);
+    } else {
+      appendUtf8(change(takeCharacter(text)), result);
+    }
+  }
   return result;
 }
 

@@ -202,5 +202,42 @@ TEST(Aggregates, TellTheSpreadOfTheirRows) {
   EXPECT_EQ(image.rows("SELECT Var(importo), VarP(peso) FROM pagamenti WHERE id < 3"), "120,125|0,390625");
 }
 
+TEST(Domains, GiveOneValueOfAnotherTable) {
+  const Case cases[] = {
+      {"SELECT DLookup('nome', 'soci', 'id = 2')", "bruno"},
+      {"SELECT DLookup('nome & cognome', '[soci]', 'id' & ' > 2')", "EzioBianchi"},
+      {"SELECT DLookup('nome', 'soci', 'id = 99')", "Null"},
+      {"SELECT DCount('*', 'pagamenti') & DCount('data', 'pagamenti') & DCount('*', 'pagamenti', 'socio = "
+       "9')",
+       "431"},
+      {"SELECT DSum('importo', 'pagamenti'), DMin('data', 'pagamenti'), DMax('importo', 'pagamenti', 'socio "
+       "= 1')",
+       "40,5|10/10/2006|25,5"},
+      {"SELECT DAvg('importo', 'pagamenti', 'socio = 1'), DVarP('id', 'pagamenti'), DStDev('id', 'soci')",
+       "17,75|1,25|1"},
+      {"SELECT DFirst('nome', 'soci') & DLast('nome', 'soci')", "AnnaEzio"},
+      {"SELECT nome, DSum('importo', 'pagamenti', 'socio = ' & id) FROM soci",
+       "Anna|35,5; bruno|5; Ezio|Null"},
+      {"SELECT id, DLookup('quota', 'soci', 'nome = ''' & nome & '''') FROM soci WHERE id < 3",
+       "1|125; 2|50"},
+      {"SELECT DCount('*', nome) FROM (SELECT 'soci' AS nome) AS x", "3"},
+      {"SELECT id FROM soci WHERE DCount('*', 'pagamenti', 'socio = ' & id) > 1", "1"},
+      {"SELECT nome FROM soci WHERE id = DMax('id', 'soci', 'id IN (SELECT socio FROM pagamenti)')", "bruno"},
+      {"SELECT DLookup('nome', 'soci', 'id = ' & Null & '1')", "Anna"},
+      {"SELECT DLookup('nome', 'soci', 'id =')", "error 3075 at 7"},
+      {"SELECT DLookup('nome', 'soci', 'id = ' & id) FROM (SELECT Null AS id) AS x", "error 3075"},
+      {"SELECT DLookup('nome', 'assente')", "error 3078 at 7"},
+      {"SELECT DLookup('nome', 'soci', 'ignoto = ' & id) FROM soci WHERE id = 1", "error 3061"},
+      {"SELECT DLookup(Null, 'soci')", "error 94"},
+      {"SELECT DSum('importo')", "error 3085 at 7"},
+  };
+  SmallImage image;
+  for (const Case& row : cases) EXPECT_EQ(image.run(row.expression), row.value) << row.expression;
+  EXPECT_EQ(typeOfExpression(image, "DLookup('quota', 'soci', 'id = ' & soci.id)"), "Currency");
+  EXPECT_EQ(image.run("UPDATE soci SET quota = DSum('importo', 'pagamenti', 'socio = ' & id) WHERE id < 3"),
+            "2");
+  EXPECT_EQ(image.run("SELECT quota FROM soci"), "35,5; 5; Null");
+}
+
 }  // namespace
 }  // namespace jet::sql::test

@@ -4,6 +4,7 @@
 
 #include "jet/file/text_key.h"
 #include "jet/image/connection.h"
+#include "jet/sql/domain.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/syntax_error.h"
@@ -101,6 +102,7 @@ SmallImage::SmallImage() {
   sqlite3_open(":memory:", &connection_);
   sqlite3_create_collation_v2(connection_, "JET", SQLITE_UTF8, nullptr, compare, nullptr);
   registerFunctions(connection_);
+  registerDomainFunction(connection_, [this](const std::string& text) { return compileRows(text); });
   add(makeTable(10, "soci",
                 {{"id", ColumnType::Long},
                  {"nome", ColumnType::Text, 20},

@@ -3,6 +3,7 @@
 #include "jet/dao/design_runner.h"
 #include "jet/dao/stored_queries.h"
 #include "jet/image/property_values.h"
+#include "jet/sql/domain.h"
 #include "jet/sql/functions.h"
 #include "runtime/overloaded.h"
 
@@ -16,6 +17,11 @@ constexpr char Source[] = "DAO.Database";
 
 StatementRunner::StatementRunner(image::Image& image) : image_(image) {
   sql::registerFunctions(image.connection().handle());
+  sql::registerDomainFunction(image.connection().handle(), [this](const std::string& text) {
+    auto plan = std::get<sql::RowStatement>(compile(text));
+    makeReady(image_, plan);
+    return plan;
+  });
 }
 
 std::optional<std::string> StatementRunner::findQuery(std::string_view name) const {

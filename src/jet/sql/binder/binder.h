@@ -84,6 +84,8 @@ class Binder {
   bound::Expression choiceChain(const std::vector<tree::Expression>& arguments);
   bound::Expression chosenValue(const std::vector<tree::Expression>& arguments);
   std::optional<bound::Expression> aggregate(const tree::Call& call, const Place& place);
+  // domain.cpp
+  std::optional<bound::Expression> domain(const tree::Call& call, const Place& place);
   // comparison.cpp
   Type comparedTypeOf(Type a, Type b, const Place& place) const;
   void noteCompared(const bound::Expression& expression);

@@ -68,6 +68,7 @@ Type aggregateType(AggregateKind kind, Type argument) {
 Expression Binder::bind(const tree::Call& node, const Place& place) {
   if (auto result = aggregate(node, place)) return std::move(*result);
   if (auto result = specialCall(node, place)) return std::move(*result);
+  if (auto result = domain(node, place)) return std::move(*result);
   const Function* function = node.star ? nullptr : findFunction(node.name, node.arguments.size());
   if (!function) throw SyntaxError(UnknownFunction, node.name, place.position);
   bound::Call call{function, {}, node.name.ends_with('$')};

@@ -101,6 +101,8 @@ constexpr Function functions[] = {
 };
 
 constexpr Function choose{"CHOOSE", 2, {aLong}, Fixed, Type::Null, "jet_choose($*)"};
+constexpr Function domain{"DLOOKUP",       4, {Any, Any, aText, aText, Text}, Fixed, Type::Variant,
+                          "jet_domain($*)"};
 
 }  // namespace
 
@@ -120,6 +122,10 @@ const Function* findFunction(const std::string& name, std::size_t arguments) {
 
 const Function& chooseFunction() {
   return choose;
+}
+
+const Function& domainFunction() {
+  return domain;
 }
 
 }  // namespace jet::sql

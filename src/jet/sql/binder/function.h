@@ -35,4 +35,7 @@ const Function* findFunction(const std::string& name, std::size_t arguments);
 /// Choose(index, value, ...); its values are of one type, which is the result's.
 const Function& chooseFunction();
 
+/// What gives a domain's value: (type, aggregate, expression, domain[, criteria]).
+const Function& domainFunction();
+
 }  // namespace jet::sql
