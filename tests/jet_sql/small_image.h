@@ -33,6 +33,7 @@ class SmallImage : public Schema {
   }
   /// Rows of a compiled statement, or its count of changes. Throws the error of a step.
   std::string step(const RowStatement& statement, const std::vector<std::string>& answers);
+  sqlite3* connection() const { return connection_; }
 
  private:
   void add(file::TableDefinition table);
