@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "jet/dao/session.h"
 #include "jet/file/page_use.h"
@@ -71,38 +72,31 @@ std::string content(const file::PageFile& file, const file::TableDefinition& tab
   return result;
 }
 
-/// What can be read of a file, table by table; empty where anything can't.
-std::vector<std::string> contents(const file::PageFile& file) {
-  std::vector<std::string> result;
-  const bool whole = passes([&] {
-    for (const auto& table : file::readTables(file)) {
-      passes([&] { file::findPages(file, table); });
-      result.push_back(content(file, table));
-    }
-  });
-  if (!whole) result.clear();
+/// The content of a file, table by table.
+using Contents = std::vector<std::string>;
+
+Contents contents(const file::PageFile& file) {
+  Contents result;
+  for (const auto& table : file::readTables(file)) {
+    file::findPages(file, table);
+    result.push_back(content(file, table));
+  }
   return result;
 }
 
-void expectReadable(const MemoryFile& written, const std::vector<std::string>* expected, const char* what) {
-  const auto file = open(written, false);
-  if (contents(*file).empty()) broken(what, "can't be read again");
-  if (expected && contents(*file) != *expected) broken(what, "has another content");
-}
-
-/// Writes what `work` writes and looks at it; an error of the work is none of the test's.
-template <typename Work>
-void expectWhole(const MemoryFile& out, const std::vector<std::string>* expected, const char* what,
-                 const Work& work) {
+/// Has `write` make a file, whose content is given back. An error of the writing is none of the test's; but
+/// what was made of a file without damage can be read again.
+template <typename Write>
+std::optional<Contents> writtenBy(const MemoryFile& out, bool fromDamaged, const Write& write) {
   const bool done = passes([&] {
     platform::File file = platform::openFile(out.path(), platform::OpenMode::Create);
-    work(file);
+    write(file);
   });
-  if (!done) return;
+  if (!done || fromDamaged) return std::nullopt;
   try {
-    expectReadable(out, expected, what);
+    return contents(*open(out, false));
   } catch (const runtime::Error& error) {
-    broken(what, error.what());
+    broken("a written file can't be read", error.description());
   }
 }
 
@@ -136,17 +130,18 @@ void change(dao::Session& session) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static MemoryFile input("input"), output("output");
   input.set(data, size);
-  std::vector<std::string> before;
+  std::optional<Contents> before;
   passes([&] { before = contents(*open(input, true)); });
   passes([&] {
     dao::Session session(open(input, false));
     change(session);
-    expectWhole(output, nullptr, "changed file", [&](platform::File& out) { session.image().write(out); });
+    writtenBy(output, !before, [&](platform::File& out) { session.image().write(out); });
   });
   passes([&] {
     const auto file = open(input, true);
-    expectWhole(output, before.empty() ? nullptr : &before, "compacted file",
-                [&](platform::File& out) { file::writeCompacted(*file, out); });
+    const auto after =
+        writtenBy(output, !before, [&](platform::File& out) { file::writeCompacted(*file, out); });
+    if (after && after != before) broken("a compacted file", "has another content");
   });
   return 0;
 }

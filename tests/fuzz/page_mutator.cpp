@@ -75,6 +75,7 @@ class Mutation {
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
                                                unsigned seed) {
   if (size < PageSize || seed % 64 == 0) return LLVMFuzzerMutate(data, size, maxSize);
+  size -= size % PageSize;  // any other length is refused at once
   Mutation mutation(data, size, seed);
   for (unsigned count = 1 + seed / 64 % 4; count > 0; --count) mutation.run();
   return size;

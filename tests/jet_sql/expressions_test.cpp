@@ -221,6 +221,7 @@ TEST(Printing, GivesTheTreeBack) {
       "CREATE UNIQUE INDEX [i j] ON t (a DESC, b ASC) WITH DISALLOW NULL",
       "CREATE INDEX i ON t (a) WITH PRIMARY",
       "DROP TABLE [x y]",
+      "DROP TABLE [x[`y]",
       "DROP INDEX i ON [x y];",
   };
   for (const char* statement : statements) expectPrintsBack(statement);

@@ -38,7 +38,8 @@ std::string rowid(unsigned source) {
 Translator::From Translator::from(const std::vector<bound::Source>& sources) {
   std::vector<const bound::Source*> order;
   for (const bound::Source& item : sources) order.push_back(&item);
-  std::ranges::stable_partition(order, [](const bound::Source* item) { return hasRightJoin(*item); });
+  std::stable_partition(order.begin(), order.end(),
+                        [](const bound::Source* item) { return hasRightJoin(*item); });
   From result;
   bool named = true;
   for (const bound::Source* item : order) {
