@@ -11,21 +11,25 @@ missing_packages() {
 }
 
 install_missing() {
-  local missing as_root=()
+  local missing
   command -v dpkg-query >/dev/null || {
     echo "Questo comando installa i pacchetti di Debian; altrove servono quelli di tools/packages.txt." >&2
     return 0
   }
   missing=$(missing_packages)
-  [ -z "$missing" ] && return 0
-  echo "Installo:" $missing
+  [ -z "$missing" ] || install_packages $missing
+}
+
+install_packages() {
+  local as_root=()
+  echo "Installo:" "$@"
   if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || { echo "Serve root oppure sudo per installare i pacchetti." >&2; return 1; }
     as_root=(sudo)
   fi
   "${as_root[@]}" apt-get update -qq
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -qq --no-install-recommends $missing >/dev/null
+    apt-get install -y -qq --no-install-recommends "$@" >/dev/null
 }
 
 # build_targets [TARGET...]: configures build/ the first time and builds these targets, or everything.

@@ -65,7 +65,7 @@ File& File::operator=(File&&) noexcept = default;
 File::~File() = default;
 
 File openFile(const std::string& path, OpenMode mode) {
-  announce(DiskOperation::Open, path);
+  announce(mode == OpenMode::Create ? DiskOperation::Create : DiskOperation::Open, path);
   File file;
   file.handle_.reset(new File::Handle{path, system::open(path, mode), {}});
   if (mode == OpenMode::Create) file.handle_->held = LockMode::Exclusive;

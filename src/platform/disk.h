@@ -30,6 +30,7 @@ class DiskError : public runtime::Error {
 
 enum class DiskOperation {
   Open,
+  Create,
   Read,
   Write,
   Resize,

@@ -182,6 +182,7 @@ TEST(Printing, GivesTheTreeBack) {
       "EXECUTE [una query] 1, 'b'",
       "EXEC altra",
       "DROP TABLE [x y]",
+      "DROP TABLE [x[`y]",
       "DROP INDEX i ON [x y];",
   };
   for (const char* statement : statements) expectPrintsBack(statement);

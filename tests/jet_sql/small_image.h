@@ -37,6 +37,7 @@ class SmallImage : public Schema {
   /// Carries out a change in its two steps, each row on its own: "3 applied", and ", error <number>" behind
   /// it for each that failed.
   std::string stepByRow(const RowStatement& statement, const std::vector<std::string>& answers = {});
+  sqlite3* connection() const { return connection_; }
 
  private:
   void add(file::TableDefinition table);

@@ -32,6 +32,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"SELECT nome FROM soci WHERE cognome = 'rossi' ORDER BY nome DESC", "bruno; Anna"},
         Case{"SELECT DISTINCT cognome FROM soci", "Bianchi; Rossi"},
         Case{"SELECT cognome, Count(*) FROM soci GROUP BY cognome HAVING Count(*) > 1", "Rossi|2"},
+        Case{"SELECT Count(*) FROM soci GROUP BY 7, -1", "3"},
+        Case{"SELECT id FROM soci ORDER BY -7, id DESC", "3; 2; 1"},
         Case{"SELECT Count(*) AS Totale, Sum(quota), Max(nome), Min(iscritto) FROM soci",
              "3|175|Ezio|01/01/2005"},
         Case{"SELECT Sum(IIf(attivo, 1, 0)) AS Conta FROM soci", "2"},

@@ -206,7 +206,7 @@ TEST(Replacement, FlushesTheFileBeforeTheRenameAndTheFolderAfterIt) {
   std::vector<DiskOperation> order;
   for (const auto& call : record.calls) order.push_back(call.operation);
   using enum DiskOperation;
-  EXPECT_EQ(order, (std::vector{Inspect, Open, Write, Flush, Replace, FlushFolder}));
+  EXPECT_EQ(order, (std::vector{Inspect, Create, Write, Flush, Replace, FlushFolder}));
   EXPECT_EQ(record.calls.back().path, folder.path());
 }
 

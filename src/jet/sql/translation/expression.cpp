@@ -59,8 +59,11 @@ Sql Translator::value(const Expression& expression) {
 Sql Translator::ordered(const Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
   const bool lost = gathering_ && column && column->source != gathering_->target;
-  return column && column->collated && !lost ? value(expression)
-                                             : withCollation(value(expression), expression.type);
+  Sql sql = value(expression);
+  // Alone, a whole number would be the place of a column.
+  if (sql.text.find_first_not_of("0123456789-() ") == std::string::npos)
+    return {sql.text + " + 0", Strength::Sum};
+  return column && column->collated && !lost ? sql : withCollation(std::move(sql), expression.type);
 }
 
 std::string Translator::list(const std::vector<Expression>& expressions) {

@@ -4,7 +4,7 @@
 namespace jet::sql::tree {
 
 std::string quotedName(std::string_view text) {
-  const bool bracket = text.find_first_of("[]") != std::string_view::npos;
+  const bool bracket = text.find(']') != std::string_view::npos;
   const char* quotes = bracket ? "``" : "[]";
   return quotes[0] + std::string(text) + quotes[1];
 }
