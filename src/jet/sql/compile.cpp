@@ -2,6 +2,7 @@
 
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/parser/parser.h"
+#include "jet/sql/syntax_error.h"
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {
@@ -29,6 +30,20 @@ class Compilation {
     }
     result.rowKeys = translator_.rowKeys();
     return result;
+  }
+
+  Statement compileBody(const tree::SelectInto& tree) {
+    if (!tree.in.empty()) throw SyntaxError(ExternalDatabase, tree.in, tree.table.place.position);
+    options_.withRowKeys = false;
+    return SelectInto{tree.table.text, std::get<RowStatement>(compileBody(tree.query))};
+  }
+
+  Statement compileBody(const tree::Transform& tree) {
+    throw SyntaxError(TransformSyntax, "", tree.pivot.place.position);
+  }
+
+  Statement compileBody(const tree::Execute& tree) {
+    throw SyntaxError(InvalidStatement, tree.query.text, tree.query.place.position);
   }
 
   Statement compileBody(const tree::Update& tree) {

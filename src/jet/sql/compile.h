@@ -104,6 +104,7 @@ struct NewColumn {
   std::uint16_t size = 0;                  // Text: characters (255 if not told), Binary: bytes
   std::uint8_t precision = 18, scale = 0;  // Numeric
   bool autoNumber = false;
+  std::int32_t seed = 1;  // first number of an auto-number
   bool notNull = false;
   std::string defaultValue;  // an expression; empty: none
 };

@@ -66,5 +66,6 @@ void registerArithmetic(sqlite3* connection);
 void registerTextFunctions(sqlite3* connection);
 void registerDateFunctions(sqlite3* connection);
 void registerAggregates(sqlite3* connection);
+void registerSingleValue(sqlite3* connection);
 
 }  // namespace jet::sql

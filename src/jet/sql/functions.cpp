@@ -10,6 +10,7 @@ void registerFunctions(sqlite3* connection) {
   registerTextFunctions(connection);
   registerDateFunctions(connection);
   registerAggregates(connection);
+  registerSingleValue(connection);
 }
 
 void returnError(sqlite3_context* context, const runtime::Error& error) {

@@ -39,6 +39,7 @@ class Binder {
   void item(const tree::SelectItem& item, bound::Select& result);
   void nameItems(const tree::Select& select, bound::Select& result);
   void groupBy(const tree::Select& select, bound::Select& result);
+  std::vector<unsigned> distinctRows() const;
   bound::OrderKey orderKey(const tree::OrderItem& item, const bound::Select& select);
 
   // source.cpp
@@ -69,11 +70,14 @@ class Binder {
   bound::Expression bind(const tree::Between& node, const Place& place);
   bound::Expression bind(const tree::InList& node, const Place& place);
   bound::Expression bind(const tree::InQuery& node, const Place& place);
+  bound::Expression bind(const tree::QuantifiedComparison& node, const Place& place);
   bound::Expression bind(const tree::IsNull& node, const Place& place);
   bound::Expression bind(const tree::Call& node, const Place& place);
   bound::Expression bind(const tree::Exists& node, const Place& place);
   bound::Expression bind(const tree::Subquery& node, const Place& place);
 
+  // subquery.cpp
+  bound::InQuery valueAndQuery(const tree::Expression& value, const tree::Query& query, const Place& place);
   // call.cpp
   std::optional<bound::Expression> specialCall(const tree::Call& call, const Place& place);
   std::optional<bound::Expression> aggregate(const tree::Call& call, const Place& place);
@@ -89,6 +93,7 @@ class Binder {
   struct UngroupedColumn {
     std::string name;
     std::size_t position;
+    unsigned source;
   };
   struct Alias {
     std::string name;
@@ -109,8 +114,9 @@ class Binder {
 /// Binds a query with all its parts; `outer` is the scope around a sub-query, or nullptr.
 bound::Query bindQuery(Context& context, const Scope* outer, const tree::Query& query);
 
-/// The statement of a body that defines or drops: CREATE TABLE, CREATE INDEX, DROP.
+/// The statement of a body that defines, alters or drops.
 Statement bindDefinition(const tree::CreateTable& create);
+Statement bindDefinition(const tree::AlterTable& alter);
 Statement bindDefinition(const tree::CreateIndex& create);
 Statement bindDefinition(const tree::DropTable& drop);
 Statement bindDefinition(const tree::DropIndex& drop);

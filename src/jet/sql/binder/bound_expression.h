@@ -118,6 +118,15 @@ struct InQuery {
   bool operator==(const InQuery&) const = default;
 };
 
+/// value op ANY (query); `negated`: of its result.
+struct AnyOf {
+  bool negated = false;
+  ComparisonOperator op;
+  Box<Expression> value;
+  Box<Query> query;
+  bool operator==(const AnyOf&) const = default;
+};
+
 struct IsNull {
   bool negated = false;
   Box<Expression> operand;
@@ -163,8 +172,8 @@ struct Subquery {
 struct Expression {
   Type type = Type::Null;
   std::variant<Literal, Column, Parameter, Conversion, Store, Negation, Arithmetic, Concatenation, Comparison,
-               Logic, Not, Like, Between, InList, InQuery, IsNull, Call, Choice, NullReplacement, Aggregate,
-               Exists, Subquery>
+               Logic, Not, Like, Between, InList, InQuery, AnyOf, IsNull, Call, Choice, NullReplacement,
+               Aggregate, Exists, Subquery>
       node;
   bool operator==(const Expression&) const = default;
 };

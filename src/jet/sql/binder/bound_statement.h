@@ -52,6 +52,7 @@ struct Item {
 
 struct Select {
   bool distinct = false;
+  std::vector<unsigned> distinctRows;  // tables of whose rows no combination comes twice; empty: no matter
   std::optional<Top> top;
   std::vector<Item> items;
   std::vector<Source> from;

@@ -36,6 +36,7 @@ Columns targetColumns(const file::TableDefinition& table, const tree::Insert& tr
 
 bound::Insert Binder::insert(const tree::Insert& tree) {
   const std::size_t position = tree.table.place.position;
+  if (!tree.in.empty()) throw SyntaxError(ExternalDatabase, tree.in, position);
   const file::TableDefinition* table = context_.schema().findTable(tree.table.text);
   if (!table) throw SyntaxError(UnknownTable, tree.table.text, position);
   context_.noteChanged(context_.addSource(table, tree.table.text), TouchedTable::Change::Insert);

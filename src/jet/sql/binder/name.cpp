@@ -28,7 +28,7 @@ Expression Binder::bind(const tree::Name& node, const Place& place) {
 std::optional<Expression> Binder::column(const tree::Name& name, const Place& place) {
   const auto found = scope_.find(name, place.position);
   if (!found) return std::nullopt;
-  ungrouped_.push_back({name.column, place.position});
+  ungrouped_.push_back({name.column, place.position, found->source->source});
   return copyOf(found->column->value);
 }
 

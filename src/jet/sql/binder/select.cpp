@@ -11,6 +11,7 @@ Select Binder::select(const tree::Select& tree) {
   Select result;
   result.distinct = tree.distinct;
   result.top = tree.top;
+  if (!tree.in.empty()) throw SyntaxError(ExternalDatabase, tree.in, tree.from.front().place.position);
   result.from = from(tree.from);
   result.where = clause(tree.where);
   groupBy(tree, result);
@@ -20,6 +21,7 @@ Select Binder::select(const tree::Select& tree) {
   }
   aggregatesAllowed_ = true;
   items(tree, result);
+  if (tree.distinctRow && !aggregateSeen_ && tree.groupBy.empty()) result.distinctRows = distinctRows();
   result.having = clause(tree.having);
   result.grouped = aggregateSeen_ || !tree.groupBy.empty() || tree.having;
   aggregatesAllowed_ = result.grouped;
@@ -42,6 +44,18 @@ void Binder::groupBy(const tree::Select& tree, Select& result) {
   ungrouped_.clear();
 }
 
+/// The tables whose columns the list has read, if there are others as well and all are tables.
+std::vector<unsigned> Binder::distinctRows() const {
+  std::vector<unsigned> tables;
+  for (const VisibleSource& source : scope_.sources()) {
+    if (!source.table) return {};
+    if (std::ranges::find(ungrouped_, source.source, &UngroupedColumn::source) != ungrouped_.end()) {
+      tables.push_back(source.source);
+    }
+  }
+  return tables.size() < scope_.sources().size() ? tables : std::vector<unsigned>();
+}
+
 void Binder::items(const tree::Select& tree, Select& result) {
   for (const tree::SelectItem& treeItem : tree.items) {
     if (const auto* all = std::get_if<tree::Star>(&treeItem.value)) {
@@ -62,7 +76,7 @@ void Binder::star(const tree::Star& star, std::size_t position, Select& result) 
       context_.countNode(position);
       bound::Expression value{column.value.type, std::get<bound::Column>(column.value.node)};
       if (std::ranges::find(groupKeys_, value) == groupKeys_.end())
-        ungrouped_.push_back({column.name, position});
+        ungrouped_.push_back({column.name, position, source.source});
       result.items.push_back(
           {std::move(value), column.name, column.sourceTable, column.sourceColumn, source.source});
     }

@@ -13,10 +13,12 @@ void requireOneColumn(const bound::Query& query, std::size_t position) {
 
 }  // namespace
 
-Expression Binder::bind(const tree::InQuery& node, const Place& place) {
-  Expression value = expression(*node.value);
+/// A value and the column of a query in the type in which they can be compared.
+bound::InQuery Binder::valueAndQuery(const tree::Expression& valueTree, const tree::Query& queryTree,
+                                     const Place& place) {
+  Expression value = expression(valueTree);
   noteCompared(value);
-  bound::Query query = bindQuery(context_, &scope_, *node.query);
+  bound::Query query = bindQuery(context_, &scope_, queryTree);
   requireOneColumn(query, place.position);
   const Expression& column = query.parts.front().items.front().value;
   noteCompared(column);
@@ -24,7 +26,23 @@ Expression Binder::bind(const tree::InQuery& node, const Place& place) {
   for (bound::Select& part : query.parts) {
     part.items.front().value = convert(std::move(part.items.front().value), type);
   }
-  return {Type::Boolean, bound::InQuery{node.negated, convert(std::move(value), type), std::move(query)}};
+  return {false, convert(std::move(value), type), std::move(query)};
+}
+
+Expression Binder::bind(const tree::InQuery& node, const Place& place) {
+  bound::InQuery in = valueAndQuery(*node.value, *node.query, place);
+  in.negated = node.negated;
+  return {Type::Boolean, std::move(in)};
+}
+
+/// v op ALL (q) holds unless v fails op for one of q.
+Expression Binder::bind(const tree::QuantifiedComparison& node, const Place& place) {
+  static constexpr ComparisonOperator opposite[] = {
+      ComparisonOperator::NotEqual,    ComparisonOperator::Equal,   ComparisonOperator::GreaterOrEqual,
+      ComparisonOperator::LessOrEqual, ComparisonOperator::Greater, ComparisonOperator::Less};
+  bound::InQuery in = valueAndQuery(*node.value, *node.query, place);
+  const ComparisonOperator op = node.all ? opposite[static_cast<std::size_t>(node.op)] : node.op;
+  return {Type::Boolean, bound::AnyOf{node.all, op, std::move(in.value), std::move(in.query)}};
 }
 
 Expression Binder::bind(const tree::Exists& node, const Place&) {

@@ -45,7 +45,7 @@ void Cursor::expectSymbol(std::string_view symbol, StatementError error) {
 }
 
 std::string Cursor::expectName(StatementError error) {
-  if (peek().kind != Token::Kind::Word && peek().kind != Token::Kind::QuotedName) fail(error);
+  if (!peek().isName()) fail(error);
   return take().text;
 }
 
@@ -60,12 +60,11 @@ unsigned Cursor::expectCount(StatementError error) {
 }
 
 std::string Cursor::acceptAlias(bool requireAs, StatementError error) {
-  static constexpr std::string_view closing[] = {"SET", "VALUES", "WITH", "INTO"};
+  static constexpr std::string_view closing[] = {"SET", "VALUES", "WITH", "INTO", "PIVOT"};
   if (acceptWord("AS")) return expectName(error);
   if (requireAs || isReserved(peek())) return "";
   if (std::ranges::any_of(closing, [&](std::string_view word) { return atWord(word); })) return "";
-  const bool name = peek().kind == Token::Kind::Word || peek().kind == Token::Kind::QuotedName;
-  return name ? take().text : "";
+  return peek().isName() ? take().text : "";
 }
 
 void Cursor::fail(StatementError error) const {

@@ -2,6 +2,7 @@
 
 namespace jet::sql {
 
+/// DELETE [* | table.* | table.column] FROM; a column stands for its table.
 tree::Delete Parser::deletion() {
   tree::Delete deletion;
   cursor_.acceptWord("DISTINCTROW");
@@ -10,7 +11,7 @@ tree::Delete Parser::deletion() {
   } else if (!cursor_.atWord("FROM")) {
     deletion.target = tree::Star{cursor_.expectName(DeleteSyntax)};
     if (!cursor_.acceptSymbol(".")) cursor_.expectSymbol("!", DeleteSyntax);
-    cursor_.expectSymbol("*", DeleteSyntax);
+    if (!cursor_.acceptSymbol("*")) cursor_.expectName(DeleteSyntax);
   }
   cursor_.expectWord("FROM", DeleteSyntax);
   deletion.from = from();

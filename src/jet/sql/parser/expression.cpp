@@ -25,6 +25,7 @@ enum Precedence {
   NegationLevel,
   PowerLevel
 };
+static_assert(ConcatenationLevel == Parser::ComparisonOperand);
 
 struct Operator {
   std::string_view token;
@@ -78,6 +79,13 @@ struct MakeNode {
   }
 };
 
+/// ALL (SELECT, and not a function of this name.
+bool atQuantifier(const Cursor& cursor) {
+  const Token& word = cursor.peek();
+  return (word.isWord("ALL") || word.isWord("ANY") || word.isWord("SOME")) && cursor.peek(1).isSymbol("(") &&
+         cursor.peek(2).isWord("SELECT");
+}
+
 }  // namespace
 
 Expression Parser::wholeExpression() {
@@ -125,6 +133,8 @@ std::optional<Expression> Parser::operation(Expression& left, int minimum) {
   const Operator* found = findOperator(cursor_.peek());
   if (!found || found->level < minimum) return std::nullopt;
   cursor_.take();
+  const auto* comparison = std::get_if<ComparisonOperator>(&found->op);
+  if (comparison && atQuantifier(cursor_)) return quantified(*comparison, std::move(left));
   Expression right = expression(found->level + 1);
   const unsigned depth = std::max(left.place.depth, right.place.depth);
   const std::size_t position = left.place.position;
@@ -144,14 +154,14 @@ Expression Parser::predicate(Expression left) {
   }
   const bool negated = cursor_.acceptWord("NOT");
   if (cursor_.acceptWord("LIKE")) {
-    Expression pattern = expression(ComparisonLevel + 1);
+    Expression pattern = expression(ComparisonOperand);
     const unsigned highest = std::max(depth, pattern.place.depth);
     return make(Like{negated, std::move(left), std::move(pattern)}, position, highest);
   }
   if (cursor_.acceptWord("BETWEEN")) {
-    Expression low = expression(ComparisonLevel + 1);
+    Expression low = expression(ComparisonOperand);
     cursor_.expectWord("AND", ExpressionSyntax);
-    Expression high = expression(ComparisonLevel + 1);
+    Expression high = expression(ComparisonOperand);
     const unsigned highest = std::max({depth, low.place.depth, high.place.depth});
     return make(Between{negated, std::move(left), std::move(low), std::move(high)}, position, highest);
   }
@@ -162,7 +172,7 @@ Expression Parser::predicate(Expression left) {
 Expression Parser::in(Expression value, bool negated) {
   const tree::Place place = value.place;
   cursor_.expectSymbol("(", ExpressionSyntax);
-  if (cursor_.atWord("SELECT")) {
+  if (atQuery()) {
     Query inner = query();
     cursor_.expectSymbol(")", ExpressionSyntax);
     return make(InQuery{negated, std::move(value), std::move(inner)}, place.position, place.depth);
@@ -170,6 +180,15 @@ Expression Parser::in(Expression value, bool negated) {
   std::vector<Expression> items = expressions(")");
   if (items.empty()) cursor_.fail(ExpressionSyntax);
   return make(InList{negated, std::move(value), std::move(items)}, place.position, place.depth);
+}
+
+Expression Parser::quantified(ComparisonOperator op, Expression value) {
+  const Place place = value.place;
+  const bool all = cursor_.take().isWord("ALL");
+  cursor_.take();
+  Query inner = query();
+  cursor_.expectSymbol(")", ExpressionSyntax);
+  return make(QuantifiedComparison{op, all, std::move(value), std::move(inner)}, place.position, place.depth);
 }
 
 /// Expressions between commas up to `closing`, which is taken; none if it stands at once.

@@ -24,7 +24,7 @@ bool continuesWord(char c) {
 
 class Lexer {
  public:
-  explicit Lexer(std::string_view statement) : rest_(statement) {}
+  Lexer(std::string_view statement, std::size_t position) : rest_(statement), position_(position) {}
 
   std::vector<Token> run() {
     while (true) {
@@ -129,7 +129,7 @@ class Lexer {
   }
 
   std::string_view rest_;
-  std::size_t position_ = 0;
+  std::size_t position_;
   std::vector<Token> tokens_;
 };
 
@@ -147,8 +147,8 @@ bool Token::isWord(std::string_view word) const {
   return kind == Kind::Word && sameWord(text, word);
 }
 
-std::vector<Token> tokenize(std::string_view statement) {
-  return Lexer(statement).run();
+std::vector<Token> tokenize(std::string_view statement, std::size_t position) {
+  return Lexer(statement, position).run();
 }
 
 }  // namespace jet::sql

@@ -10,16 +10,24 @@ namespace jet::sql {
 /// Reads one statement. Each rule has a function; the functions of a noun stand in the file of its name.
 class Parser {
  public:
-  explicit Parser(std::string_view text) : cursor_(tokenize(text)) {}
+  /// The level of an expression that stands beside a comparison: an IN or NOT behind it is no part of it.
+  static constexpr int ComparisonOperand = 8;
+
+  /// `position`: of the text in the statement that it is a piece of.
+  explicit Parser(std::string_view text, std::size_t position = 0) : cursor_(tokenize(text, position)) {}
 
   /// The whole text as one statement, a closing semicolon allowed. Throws SyntaxError.
   tree::Statement statement();
-  /// The whole text as one expression.
+  /// The whole text as one expression, as one query.
   tree::Expression wholeExpression();
+  tree::Query wholeQuery(unsigned levels);
 
  private:
   // statement.cpp
   tree::ParameterDeclaration parameter();
+  std::optional<decltype(tree::Statement::body)> rowStatement();
+  std::optional<decltype(tree::Statement::body)> definition();
+  tree::Execute execute();
   void end();
 
   // expression.cpp: operators; `minimum` is the weakest level that still belongs to the expression.
@@ -28,6 +36,7 @@ class Parser {
   std::optional<tree::Expression> operation(tree::Expression& left, int minimum);
   tree::Expression predicate(tree::Expression left);
   tree::Expression in(tree::Expression value, bool negated);
+  tree::Expression quantified(ComparisonOperator op, tree::Expression value);
   std::vector<tree::Expression> expressions(std::string_view closing);
 
   // operand.cpp: what stands without operators
@@ -39,13 +48,23 @@ class Parser {
 
   // query.cpp, select.cpp
   tree::Query query();
+  bool atQuery(std::size_t ahead = 0) const;
+  tree::Select queryPart();
   tree::OrderItem orderItem();
   tree::Select select();
   tree::SelectItem selectItem();
   std::optional<tree::Expression> where();
 
+  /// The body of a SELECT statement: with INTO it makes a table.
+  decltype(tree::Statement::body) selection();
+  /// TRANSFORM
+  tree::Transform transform();
+
   // source.cpp
   std::vector<tree::Source> from();
+  /// IN 'file': the database of the tables named before; empty where it isn't there.
+  std::string externalDatabase(StatementError error);
+  tree::Source bracketedQuery();
   tree::Source source();
   tree::Source singleSource();
   tree::Join join(tree::JoinKind kind, tree::Source left);
@@ -55,11 +74,15 @@ class Parser {
   tree::Delete deletion();
   tree::Insert insert();
 
-  // table.cpp, index.cpp
+  // table.cpp, constraint.cpp, index.cpp
   tree::CreateTable createTable();
-  tree::ColumnDefinition columnDefinition();
+  tree::AlterTable alterTable();
+  tree::ColumnDefinition columnDefinition(StatementError error);
+  bool atConstraint() const;
   tree::Constraint constraint(bool ofColumn);
+  tree::References references();
   tree::TypeName typeName(StatementError error);
+  std::string typeWords(StatementError error);
   std::vector<std::string> names(StatementError error);
   tree::CreateIndex createIndex(bool unique);
 
@@ -82,8 +105,15 @@ class Parser {
     Parser& parser_;
   };
 
+  /// INTO of the SELECT of a statement, while that is being read.
+  struct Into {
+    std::optional<tree::PlacedName> table;
+    std::string in;
+  };
+
   Cursor cursor_;
   unsigned levels_ = 0;
+  Into* into_ = nullptr;
   /// What an unexpected word behind the statement is an error of: the clause read last.
   StatementError clause_ = ExpressionSyntax;
 };

@@ -6,6 +6,7 @@ using namespace tree;
 
 Select Parser::select() {
   cursor_.expectWord("SELECT", SelectSyntax);
+  Into* const into = std::exchange(into_, nullptr);
   Select select;
   if (!cursor_.acceptWord("ALL")) select.distinct = cursor_.acceptWord("DISTINCT");
   if (!select.distinct) select.distinctRow = cursor_.acceptWord("DISTINCTROW");
@@ -17,7 +18,15 @@ Select Parser::select() {
   do select.items.push_back(selectItem());
   while (cursor_.acceptSymbol(","));
   clause_ = std::holds_alternative<Star>(select.items.back().value) ? SelectSyntax : ExpressionSyntax;
-  if (cursor_.acceptWord("FROM")) select.from = from();
+  if (into && cursor_.acceptWord("INTO")) {
+    const Place place = cursor_.place();
+    into->table = PlacedName{cursor_.expectName(SelectSyntax), place};
+    into->in = externalDatabase(SelectSyntax);
+  }
+  if (cursor_.acceptWord("FROM")) {
+    select.from = from();
+    select.in = externalDatabase(FromSyntax);
+  }
   select.where = where();
   if (cursor_.acceptWord("GROUP")) {
     clause_ = ExpressionSyntax;
@@ -50,6 +59,31 @@ SelectItem Parser::selectItem() {
   Expression value = expression();
   std::string alias = cursor_.acceptAlias(true, SelectSyntax);
   return {std::move(value), std::move(alias), place};
+}
+
+decltype(Statement::body) Parser::selection() {
+  Into into;
+  into_ = &into;
+  Query selected = query();
+  into_ = nullptr;
+  if (!into.table) return selected;
+  return SelectInto{std::move(*into.table), std::move(into.in), std::move(selected)};
+}
+
+Transform Parser::transform() {
+  cursor_.expectWord("TRANSFORM", TransformSyntax);
+  Expression value = expression();
+  if (!cursor_.atWord("SELECT")) cursor_.fail(TransformSyntax);
+  Query rows = query();
+  cursor_.expectWord("PIVOT", TransformSyntax);
+  Transform transform{std::move(value), std::move(rows), expression(ComparisonOperand), {}};
+  if (cursor_.acceptWord("IN")) {
+    cursor_.expectSymbol("(", TransformSyntax);
+    transform.columns = expressions(")");
+    if (transform.columns.empty()) cursor_.fail(TransformSyntax);
+  }
+  clause_ = TransformSyntax;
+  return transform;
 }
 
 std::optional<Expression> Parser::where() {

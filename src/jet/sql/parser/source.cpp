@@ -44,15 +44,37 @@ Join Parser::join(JoinKind kind, Source left) {
   return Join{kind, std::move(left), std::move(right), expression()};
 }
 
+std::string Parser::externalDatabase(StatementError error) {
+  if (!cursor_.acceptWord("IN")) return "";
+  if (cursor_.peek().kind != Token::Kind::Text) cursor_.fail(error);
+  std::string file = cursor_.take().text;
+  // IN '' [;DATABASE=file]
+  if (file.empty() && cursor_.peek().kind == Token::Kind::QuotedName) file = cursor_.take().text;
+  if (file.empty()) cursor_.fail(error);
+  return file;
+}
+
+/// [SELECT ...]. AS name
+Source Parser::bracketedQuery() {
+  const Token bracketed = cursor_.take();
+  Query inner = Parser(bracketed.text, bracketed.position + 1).wholeQuery(levels_);
+  cursor_.take();
+  std::string alias = cursor_.acceptAlias(false, FromSyntax);
+  return {QuerySource{std::move(inner), std::move(alias)}, {bracketed.position, 1}};
+}
+
 Source Parser::singleSource() {
   const Place place = cursor_.place();
   if (!cursor_.acceptSymbol("(")) {
+    const bool bracketed = cursor_.peek().kind == Token::Kind::QuotedName && cursor_.peek(1).isSymbol(".") &&
+                           sameWord(cursor_.peek().text.substr(0, 7), "SELECT ");
+    if (bracketed) return bracketedQuery();
     if (isReserved(cursor_.peek())) cursor_.fail(FromSyntax);
     TableSource table{cursor_.expectName(FromSyntax), ""};
     table.alias = cursor_.acceptAlias(false, FromSyntax);
     return {std::move(table), place};
   }
-  if (!cursor_.atWord("SELECT")) {
+  if (!cursor_.atWord("SELECT") && !(cursor_.atWord("TABLE") && cursor_.peek(1).isName())) {
     Source inner = source();
     cursor_.expectSymbol(")", FromSyntax);
     return inner;

@@ -20,44 +20,63 @@ void Parser::checkDepth(unsigned depth, std::size_t position) const {
 }
 
 tree::Statement Parser::statement() {
-  tree::Statement statement{{}, tree::Query{}};
+  tree::Statement statement{{}, tree::Query{}, false};
   if (cursor_.acceptWord("PARAMETERS")) {
     do statement.parameters.push_back(parameter());
     while (cursor_.acceptSymbol(","));
     cursor_.expectSymbol(";", ParametersSyntax);
   }
-  if (cursor_.atWord("SELECT")) {
-    statement.body = query();
-  } else if (cursor_.acceptWord("UPDATE")) {
-    statement.body = update();
-  } else if (cursor_.acceptWord("DELETE")) {
-    statement.body = deletion();
-  } else if (cursor_.acceptWord("INSERT")) {
-    statement.body = insert();
-  } else if (cursor_.acceptWord("CREATE")) {
-    const bool unique = cursor_.acceptWord("UNIQUE");
-    if (unique || cursor_.atWord("INDEX")) {
-      statement.body = createIndex(unique);
-    } else {
-      statement.body = createTable();
-    }
-  } else if (cursor_.acceptWord("DROP")) {
-    clause_ = DropSyntax;
-    if (cursor_.acceptWord("INDEX")) {
-      tree::DropIndex drop;
-      drop.name = cursor_.expectName(DropSyntax);
-      cursor_.expectWord("ON", DropSyntax);
-      drop.table = cursor_.expectName(DropSyntax);
-      statement.body = std::move(drop);
-    } else {
-      cursor_.expectWord("TABLE", DropSyntax);
-      statement.body = tree::DropTable{cursor_.expectName(DropSyntax)};
-    }
-  } else {
-    cursor_.fail(InvalidStatement);
+  auto body = rowStatement();
+  if (!body) body = definition();
+  if (!body) cursor_.fail(InvalidStatement);
+  statement.body = std::move(*body);
+  if (cursor_.acceptWord("WITH")) {
+    cursor_.expectWord("OWNERACCESS", clause_);
+    cursor_.expectWord("OPTION", clause_);
+    statement.ownerAccess = true;
   }
   end();
   return statement;
+}
+
+std::optional<decltype(tree::Statement::body)> Parser::rowStatement() {
+  if (atQuery()) return selection();
+  if (cursor_.atWord("TRANSFORM")) return transform();
+  if (cursor_.acceptWord("UPDATE")) return update();
+  if (cursor_.acceptWord("DELETE")) return deletion();
+  if (cursor_.acceptWord("INSERT")) return insert();
+  if (cursor_.acceptWord("EXECUTE") || cursor_.acceptWord("EXEC")) return execute();
+  return std::nullopt;
+}
+
+std::optional<decltype(tree::Statement::body)> Parser::definition() {
+  if (cursor_.acceptWord("CREATE")) {
+    const bool unique = cursor_.acceptWord("UNIQUE");
+    if (unique || cursor_.atWord("INDEX")) return createIndex(unique);
+    return createTable();
+  }
+  if (cursor_.acceptWord("ALTER")) return alterTable();
+  if (!cursor_.acceptWord("DROP")) return std::nullopt;
+  clause_ = DropSyntax;
+  if (!cursor_.acceptWord("INDEX")) {
+    cursor_.expectWord("TABLE", DropSyntax);
+    return tree::DropTable{cursor_.expectName(DropSyntax)};
+  }
+  tree::DropIndex drop;
+  drop.name = cursor_.expectName(DropSyntax);
+  cursor_.expectWord("ON", DropSyntax);
+  drop.table = cursor_.expectName(DropSyntax);
+  return drop;
+}
+
+tree::Execute Parser::execute() {
+  const tree::Place place = cursor_.place();
+  tree::Execute execute{{cursor_.expectName(InvalidStatement), place}, {}};
+  clause_ = ExpressionSyntax;
+  if (cursor_.peek().kind == Token::Kind::End || cursor_.atSymbol(";")) return execute;
+  do execute.arguments.push_back(expression());
+  while (cursor_.acceptSymbol(","));
+  return execute;
 }
 
 tree::ParameterDeclaration Parser::parameter() {

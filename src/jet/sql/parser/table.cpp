@@ -1,20 +1,23 @@
+#include <algorithm>
+
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {
 
 using namespace tree;
 
+/// CREATE [TEMPORARY] TABLE: a temporary one is a table like others here.
 CreateTable Parser::createTable() {
   clause_ = CreateTableSyntax;
+  cursor_.acceptWord("TEMPORARY");
   cursor_.expectWord("TABLE", CreateTableSyntax);
   CreateTable create{cursor_.expectName(CreateTableSyntax), {}, {}};
   cursor_.expectSymbol("(", CreateTableSyntax);
   do {
-    if (cursor_.atWord("CONSTRAINT") || (cursor_.atWord("PRIMARY") && cursor_.peek(1).isWord("KEY")) ||
-        (cursor_.atWord("UNIQUE") && cursor_.peek(1).isSymbol("("))) {
+    if (atConstraint()) {
       create.constraints.push_back(constraint(false));
     } else {
-      create.columns.push_back(columnDefinition());
+      create.columns.push_back(columnDefinition(CreateTableSyntax));
     }
   } while (cursor_.acceptSymbol(","));
   cursor_.expectSymbol(")", CreateTableSyntax);
@@ -22,14 +25,47 @@ CreateTable Parser::createTable() {
   return create;
 }
 
-ColumnDefinition Parser::columnDefinition() {
-  ColumnDefinition column{cursor_.expectName(CreateTableSyntax), {}, false, {}};
+AlterTable Parser::alterTable() {
+  clause_ = AlterTableSyntax;
+  cursor_.expectWord("TABLE", AlterTableSyntax);
+  AlterTable alter{cursor_.expectName(AlterTableSyntax), DropColumn{}};
+  if (cursor_.acceptWord("ADD")) {
+    if (atConstraint()) {
+      alter.action = AddConstraint{constraint(false)};
+    } else {
+      cursor_.acceptWord("COLUMN");
+      alter.action = AddColumn{columnDefinition(AlterTableSyntax)};
+    }
+  } else if (cursor_.acceptWord("ALTER")) {
+    cursor_.acceptWord("COLUMN");
+    alter.action = AlterColumn{columnDefinition(AlterTableSyntax)};
+  } else {
+    cursor_.expectWord("DROP", AlterTableSyntax);
+    if (cursor_.acceptWord("CONSTRAINT")) {
+      alter.action = DropConstraint{cursor_.expectName(AlterTableSyntax)};
+    } else {
+      cursor_.acceptWord("COLUMN");
+      alter.action = DropColumn{cursor_.expectName(AlterTableSyntax)};
+    }
+  }
+  return alter;
+}
+
+ColumnDefinition Parser::columnDefinition(StatementError error) {
+  ColumnDefinition column{cursor_.expectName(error), {}, false, {}, {}};
   column.type = typeName(ColumnDefinitionSyntax);
   while (true) {
+    // A constraint NOT NULL may have a name.
+    const bool named = cursor_.atWord("CONSTRAINT") && cursor_.peek(2).isWord("NOT");
+    if (named) cursor_.take(), cursor_.take();
     if (cursor_.acceptWord("NOT")) {
       cursor_.expectWord("NULL", ColumnDefinitionSyntax);
       column.notNull = true;
-    } else if (cursor_.atWord("CONSTRAINT") || cursor_.atWord("PRIMARY") || cursor_.atWord("UNIQUE")) {
+    } else if (cursor_.acceptWord("NULL")) {
+      column.notNull = false;
+    } else if (cursor_.acceptWord("DEFAULT")) {
+      column.defaultValue = expression(ComparisonOperand);
+    } else if (atConstraint() || cursor_.atWord("UNIQUE") || cursor_.atWord("REFERENCES")) {
       column.constraints.push_back(constraint(true));
     } else {
       return column;
@@ -37,28 +73,42 @@ ColumnDefinition Parser::columnDefinition() {
   }
 }
 
-Constraint Parser::constraint(bool ofColumn) {
-  Constraint constraint;
-  if (cursor_.acceptWord("CONSTRAINT")) constraint.name = cursor_.expectName(ConstraintSyntax);
-  if (cursor_.acceptWord("PRIMARY")) {
-    cursor_.expectWord("KEY", ConstraintSyntax);
-    constraint.primary = true;
-  } else {
-    cursor_.expectWord("UNIQUE", ConstraintSyntax);
+TypeName Parser::typeName(StatementError error) {
+  TypeName type;
+  type.place = cursor_.place();
+  type.name = typeWords(error);
+  if (cursor_.acceptSymbol("(")) {
+    type.size = cursor_.expectCount(error);
+    if (cursor_.acceptSymbol(",")) type.scale = cursor_.expectCount(error);
+    cursor_.expectSymbol(")", error);
   }
-  if (!ofColumn) constraint.columns = names(ConstraintSyntax);
-  return constraint;
+  if (cursor_.atWord("WITH") && (cursor_.peek(1).isWord("COMPRESSION") || cursor_.peek(1).isWord("COMP"))) {
+    cursor_.take();
+    cursor_.take();
+    type.compressed = true;
+  }
+  return type;
 }
 
-TypeName Parser::typeName(StatementError error) {
-  const Place place = cursor_.place();
+/// LONG; CHARACTER VARYING, NATIONAL CHAR.
+std::string Parser::typeWords(StatementError error) {
+  struct Pair {
+    std::string_view first, second;
+  };
+  static constexpr Pair pairs[] = {{"NATIONAL", "CHAR"}, {"NATIONAL", "CHARACTER"}, {"CHAR", "VARYING"},
+                                   {"NCHAR", "VARYING"}, {"CHARACTER", "VARYING"},  {"BINARY", "VARYING"},
+                                   {"BIT", "VARYING"},   {"DOUBLE", "PRECISION"}};
   if (cursor_.peek().kind != Token::Kind::Word) cursor_.fail(error);
-  TypeName type{cursor_.take().text, {}, {}, place};
-  if (!cursor_.acceptSymbol("(")) return type;
-  type.size = cursor_.expectCount(error);
-  if (cursor_.acceptSymbol(",")) type.scale = cursor_.expectCount(error);
-  cursor_.expectSymbol(")", error);
-  return type;
+  Token word = cursor_.take();
+  std::string words = word.text;
+  const auto continues = [&](const Pair& pair) {
+    return word.isWord(pair.first) && cursor_.atWord(pair.second);
+  };
+  while (std::ranges::any_of(pairs, continues)) {
+    word = cursor_.take();
+    words += " " + word.text;
+  }
+  return words;
 }
 
 std::vector<std::string> Parser::names(StatementError error) {

@@ -22,6 +22,8 @@ struct Token {
   std::size_t position = 0;  // in characters
 
   bool isSymbol(std::string_view symbol) const { return kind == Kind::Symbol && text == symbol; }
+  /// True for a name in any writing, a reserved word among them.
+  bool isName() const { return kind == Kind::Word || kind == Kind::QuotedName; }
   /// True for the word `upper`, written in capitals, whatever the token's case.
   bool isWord(std::string_view upper) const;
 };
@@ -31,7 +33,8 @@ bool sameWord(std::string_view text, std::string_view upper);
 
 /// The statement's tokens, closed by one End. Error 3075 for a text, name or date that is not closed or
 /// empty, and for a character that begins nothing.
-std::vector<Token> tokenize(std::string_view statement);
+/// `position`: of the first character.
+std::vector<Token> tokenize(std::string_view statement, std::size_t position = 0);
 
 /// The inside of a date literal (month before day, or year first; "h:n[:s] [AM|PM]") as "yyyy-mm-dd
 /// hh:mm:ss"; empty if it is none. A month above 12 is the day.

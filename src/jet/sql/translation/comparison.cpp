@@ -40,20 +40,4 @@ Sql Translator::translate(const bound::InList& node, Type) {
       Strength::Equality};
 }
 
-Sql Translator::translate(const bound::InQuery& node, Type) {
-  return gathered([&]() -> Sql {
-    return {within(ordered(*node.value), Strength::Sum) + notIf(node.negated) + " IN (" +
-                query(*node.query, Shape{}) + ")",
-            Strength::Equality};
-  });
-}
-
-Sql Translator::translate(const bound::Exists& node, Type) {
-  return gathered([&]() -> Sql { return {"EXISTS (" + query(*node.query, Shape{}) + ")"}; });
-}
-
-Sql Translator::translate(const bound::Subquery& node, Type) {
-  return gathered([&]() -> Sql { return {"(" + query(*node.query, Shape{}) + ")"}; });
-}
-
 }  // namespace jet::sql

@@ -15,8 +15,8 @@ bool isCondition(const Expression& expression) {
         return std::is_same_v<Node, bound::Comparison> || std::is_same_v<Node, bound::Logic> ||
                std::is_same_v<Node, bound::Not> || std::is_same_v<Node, bound::Like> ||
                std::is_same_v<Node, bound::Between> || std::is_same_v<Node, bound::InList> ||
-               std::is_same_v<Node, bound::InQuery> || std::is_same_v<Node, bound::IsNull> ||
-               std::is_same_v<Node, bound::Exists>;
+               std::is_same_v<Node, bound::InQuery> || std::is_same_v<Node, bound::AnyOf> ||
+               std::is_same_v<Node, bound::IsNull> || std::is_same_v<Node, bound::Exists>;
       },
       expression.node);
 }

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {
@@ -14,9 +16,14 @@ std::string Translator::select(const bound::Select& select, const From& from, Sh
     text += (i ? ", " : "") + (compared ? ordered(item) : value(item)).text;
     if (shape.named) text += " AS x" + std::to_string(i + 1);
   }
+  const auto& distinctRows = select.distinctRows;
+  const auto isKept = [&](unsigned table) {
+    return distinctRows.empty() || std::ranges::find(distinctRows, table) != distinctRows.end();
+  };
   if (shape.withRowKeys) {
     for (const unsigned table : from.tables) {
-      text += ", " + rowid(table) + (shape.named ? " AS k" + std::to_string(table) : "");
+      text += ", " + (isKept(table) ? rowid(table) : "NULL") +
+              (shape.named ? " AS k" + std::to_string(table) : "");
     }
   }
   text += moreColumns;
@@ -24,6 +31,9 @@ std::string Translator::select(const bound::Select& select, const From& from, Sh
   text += where(select.where);
   for (std::size_t i = 0; i < select.groupBy.size(); ++i) {
     text += (i ? ", " : " GROUP BY ") + ordered(select.groupBy[i]).text;
+  }
+  for (std::size_t i = 0; i < distinctRows.size(); ++i) {
+    text += (i ? ", " : " GROUP BY ") + rowid(distinctRows[i]);
   }
   if (select.having) text += " HAVING " + condition(*select.having).text;
   firstKey_ = outerKey;

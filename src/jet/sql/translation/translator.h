@@ -75,6 +75,7 @@ class Translator {
   Sql translate(const bound::Between& node, Type type);
   Sql translate(const bound::InList& node, Type type);
   Sql translate(const bound::InQuery& node, Type type);
+  Sql translate(const bound::AnyOf& node, Type type);
   Sql translate(const bound::IsNull& node, Type type);
   Sql translate(const bound::Call& node, Type type);
   Sql translate(const bound::Choice& node, Type type);

@@ -97,6 +97,15 @@ struct InQuery {
   bool operator==(const InQuery&) const = default;
 };
 
+/// value op ANY (query), value op ALL (query)
+struct QuantifiedComparison {
+  ComparisonOperator op;
+  bool all = false;
+  Box<Expression> value;
+  Box<Query> query;
+  bool operator==(const QuantifiedComparison&) const = default;
+};
+
 struct IsNull {
   bool negated = false;
   Box<Expression> operand;
@@ -124,7 +133,7 @@ struct Subquery {
 
 struct Expression {
   std::variant<Literal, Name, Negation, Arithmetic, Concatenation, Comparison, Logic, Not, Like, Between,
-               InList, InQuery, IsNull, Call, Exists, Subquery>
+               InList, InQuery, QuantifiedComparison, IsNull, Call, Exists, Subquery>
       node;
   Place place;
   bool operator==(const Expression&) const = default;

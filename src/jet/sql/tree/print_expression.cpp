@@ -103,6 +103,11 @@ std::string printNode(const InQuery& node) {
   return operand(*node.value) + notIf(node.negated) + " IN (" + print(*node.query) + ")";
 }
 
+std::string printNode(const QuantifiedComparison& node) {
+  return operand(*node.value) + " " + symbol(node.op) + (node.all ? " ALL (" : " ANY (") +
+         print(*node.query) + ")";
+}
+
 std::string printNode(const IsNull& node) {
   return operand(*node.operand) + " IS" + notIf(node.negated) + " NULL";
 }

@@ -1,19 +1,13 @@
 #include "jet/sql/tree/print.h"
+#include "jet/sql/tree/print_list.h"
 #include "jet/sql/tree/statement.h"
 
 namespace jet::sql::tree {
 
 namespace {
 
-template <class Items, class Print>
-std::string printAll(const Items& items, Print printItem) {
-  std::string list;
-  for (const auto& item : items) list += (list.empty() ? "" : ", ") + printItem(item);
-  return list;
-}
-
-std::string printNames(const std::vector<std::string>& names) {
-  return printAll(names, quotedName);
+std::string printExpression(const Expression& expression) {
+  return print(expression);
 }
 
 std::string printAlias(const std::string& alias) {
@@ -60,38 +54,33 @@ std::string printItem(const SelectItem& item) {
   return print(std::get<Expression>(item.value)) + printAlias(item.alias);
 }
 
-std::string printSelect(const Select& select) {
+/// `into`: what stands between the list and FROM.
+std::string printSelect(const Select& select, const std::string& into) {
   std::string text = "SELECT ";
   if (select.distinct) text += "DISTINCT ";
   if (select.distinctRow) text += "DISTINCTROW ";
   if (select.top)
     text += "TOP " + std::to_string(select.top->count) + (select.top->percent ? " PERCENT " : " ");
-  text += printAll(select.items, printItem);
+  text += printAll(select.items, printItem) + into;
   if (!select.from.empty()) text += " FROM " + printFrom(select.from);
+  if (!select.in.empty()) text += " IN " + quotedText(select.in);
   text += printClause(" WHERE ", select.where);
   if (!select.groupBy.empty()) {
-    text += " GROUP BY " + printAll(select.groupBy, [](const Expression& key) { return print(key); });
+    text += " GROUP BY " + printAll(select.groupBy, printExpression);
   }
   return text + printClause(" HAVING ", select.having);
 }
 
-std::string printType(const TypeName& type) {
-  if (!type.size) return type.name;
-  const std::string scale = type.scale ? ", " + std::to_string(*type.scale) : "";
-  return type.name + "(" + std::to_string(*type.size) + scale + ")";
-}
-
-std::string printConstraint(const Constraint& constraint) {
-  return (constraint.name.empty() ? "" : "CONSTRAINT " + quotedName(constraint.name) + " ") +
-         (constraint.primary ? "PRIMARY KEY" : "UNIQUE") +
-         (constraint.columns.empty() ? "" : " (" + printNames(constraint.columns) + ")");
-}
-
-std::string printColumn(const ColumnDefinition& column) {
-  std::string text =
-      quotedName(column.name) + " " + printType(column.type) + (column.notNull ? " NOT NULL" : "");
-  for (const Constraint& constraint : column.constraints) text += " " + printConstraint(constraint);
-  return text;
+std::string printQuery(const Query& query, const std::string& into) {
+  std::string text;
+  for (std::size_t i = 0; i < query.parts.size(); ++i) {
+    if (i > 0) text += query.all[i - 1] ? " UNION ALL " : " UNION ";
+    text += printSelect(query.parts[i], i == 0 ? into : "");
+  }
+  const auto order = [](const OrderItem& item) {
+    return print(item.value) + (item.descending ? " DESC" : "");
+  };
+  return text + (query.orderBy.empty() ? "" : " ORDER BY " + printAll(query.orderBy, order));
 }
 
 std::string printBody(const Query& query) {
@@ -115,56 +104,47 @@ std::string printBody(const Delete& statement) {
 std::string printBody(const Insert& insert) {
   const auto name = [](const PlacedName& column) { return quotedName(column.text); };
   const std::string columns = insert.columns.empty() ? "" : " (" + printAll(insert.columns, name) + ")";
-  const std::string head = "INSERT INTO " + quotedName(insert.table.text) + columns + " ";
+  const std::string in = insert.in.empty() ? "" : " IN " + quotedText(insert.in);
+  const std::string head = "INSERT INTO " + quotedName(insert.table.text) + columns + in + " ";
   if (const Query* query = std::get_if<Query>(&insert.rows)) return head + print(*query);
-  const auto value = [](const Expression& expression) { return print(expression); };
-  return head + "VALUES (" + printAll(std::get<std::vector<Expression>>(insert.rows), value) + ")";
+  return head + "VALUES (" + printAll(std::get<std::vector<Expression>>(insert.rows), printExpression) + ")";
 }
 
-std::string printBody(const CreateTable& create) {
-  const std::string constraints = printAll(create.constraints, printConstraint);
-  return "CREATE TABLE " + quotedName(create.table) + " (" + printAll(create.columns, printColumn) +
-         (constraints.empty() ? "" : ", " + constraints) + ")";
+std::string printBody(const SelectInto& statement) {
+  const std::string in = statement.in.empty() ? "" : " IN " + quotedText(statement.in);
+  return printQuery(statement.query, " INTO " + quotedName(statement.table.text) + in);
 }
 
-std::string printBody(const CreateIndex& create) {
-  static constexpr const char* options[] = {"", " WITH PRIMARY", " WITH DISALLOW NULL", " WITH IGNORE NULL"};
-  const auto column = [](const IndexColumn& item) {
-    return quotedName(item.name) + (item.descending ? " DESC" : "");
-  };
-  return std::string("CREATE ") + (create.unique ? "UNIQUE " : "") + "INDEX " + quotedName(create.name) +
-         " ON " + quotedName(create.table) + " (" + printAll(create.columns, column) + ")" +
-         options[static_cast<std::size_t>(create.option)];
+std::string printBody(const Transform& transform) {
+  return "TRANSFORM " + print(transform.value) + " " + print(transform.query) + " PIVOT " +
+         print(transform.pivot) +
+         (transform.columns.empty() ? "" : " IN (" + printAll(transform.columns, printExpression) + ")");
 }
 
-std::string printBody(const DropTable& drop) {
-  return "DROP TABLE " + quotedName(drop.table);
+std::string printBody(const Execute& execute) {
+  return "EXECUTE " + quotedName(execute.query.text) +
+         (execute.arguments.empty() ? "" : " " + printAll(execute.arguments, printExpression));
 }
-std::string printBody(const DropIndex& drop) {
-  return "DROP INDEX " + quotedName(drop.name) + " ON " + quotedName(drop.table);
+
+template <class Definition>
+std::string printBody(const Definition& definition) {
+  return print(definition);
 }
 
 }  // namespace
 
 std::string print(const Query& query) {
-  std::string text;
-  for (std::size_t i = 0; i < query.parts.size(); ++i) {
-    if (i > 0) text += query.all[i - 1] ? " UNION ALL " : " UNION ";
-    text += printSelect(query.parts[i]);
-  }
-  const auto order = [](const OrderItem& item) {
-    return print(item.value) + (item.descending ? " DESC" : "");
-  };
-  return text + (query.orderBy.empty() ? "" : " ORDER BY " + printAll(query.orderBy, order));
+  return printQuery(query, "");
 }
 
 std::string print(const Statement& statement) {
   const auto parameter = [](const ParameterDeclaration& declaration) {
-    return quotedName(declaration.name) + " " + printType(declaration.type);
+    return quotedName(declaration.name) + " " + print(declaration.type);
   };
   const std::string head =
       statement.parameters.empty() ? "" : "PARAMETERS " + printAll(statement.parameters, parameter) + "; ";
-  return head + std::visit([](const auto& body) { return printBody(body); }, statement.body) + ";";
+  return head + std::visit([](const auto& body) { return printBody(body); }, statement.body) +
+         (statement.ownerAccess ? " WITH OWNERACCESS OPTION;" : ";");
 }
 
 }  // namespace jet::sql::tree

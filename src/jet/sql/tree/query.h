@@ -65,6 +65,7 @@ struct Select {
   std::optional<Top> top;
   std::vector<SelectItem> items;
   std::vector<Source> from;
+  std::string in;  // database that the tables of FROM lie in; empty: this one
   std::optional<Expression> where;
   std::vector<Expression> groupBy;
   std::optional<Expression> having;
