@@ -18,6 +18,8 @@ std::string folderOf(std::string_view path);
 std::string containingFolder(std::string_view path);
 /// Folder in which the user's programs keep their settings.
 std::string userSettingsFolder();
+/// Folder in which they keep what outlives a session but is no setting.
+std::string userStateFolder();
 /// Folder of the running executable, without a closing backslash.
 std::string executableFolder();
 /// Name of the running executable without folder and ending. Both are those of the program's start, however

@@ -152,31 +152,5 @@ TEST(Design, CountersGoOnWhereTheyStood) {
   EXPECT_EQ(office::rows(*rows), "1|x 42|z");
 }
 
-TEST(Design, AStoredQueryIsSeenByASecondReader) {
-  const support::TempFolder folder;
-  const std::string path = folder.path("a.mdb");
-  office::make(path, {"CREATE TABLE a (x LONG, y TEXT)", "CREATE TABLE b (x LONG, z TEXT)"});
-  {
-    Workspace workspace;
-    const auto db = workspace.OpenDatabase(path, true);
-    db->CreateQueryDef(
-        "somme",
-        "SELECT a.y AS nome, Count(*) AS quanti FROM a INNER JOIN b ON a.x = b.x WHERE a.x > 1 "
-        "GROUP BY a.y HAVING Count(*) > 2 ORDER BY a.y DESC");
-    EXPECT_EQ(errorOf([&] { db->CreateQueryDef("A", "SELECT * FROM b"); }), 3012);
-    EXPECT_EQ(errorOf([&] { db->CreateQueryDef("rotta", "SELECT FROM"); }), 3141);
-    db->Close();
-  }
-  EXPECT_EQ(office::complaints(path), "");
-  // The second reader renders neither joins nor grouping, and bytes only up to a zero; the rows it reads like
-  // any.
-  EXPECT_EQ(support::runCommand("mdb-queries " + office::system(path) + " somme").output,
-            "SELECT [a].[y],Count(*) FROM [a],[b] WHERE [a].[x] > 1 ORDER BY [a].[y] DESCENDING\n");
-  const auto rows = office::exported(path, "MSysQueries");
-  for (const char* row : {",7,,\"a\",\"b\",\"[a].[x] = [b].[x]\",1,", ",9,,,,\"[a].[y]\",",
-                          ",10,,,,\"Count(*) > 2\",", ",6,,\"nome\",,\"[a].[y]\",0,"})
-    EXPECT_NE(rows.find(row), std::string::npos) << row << "\n" << rows;
-}
-
 }  // namespace
 }  // namespace jet::dao

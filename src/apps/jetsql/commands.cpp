@@ -97,6 +97,15 @@ void keepQuery(Database& database, const std::string& arguments, Output& output)
   database.CreateQueryDef(name, sql)->Close();
 }
 
+void showHelp(Database&, const std::string& arguments, Output& output) {
+  refuseArguments(arguments);
+  output.text(commandsHelp());
+}
+
+void endSession(Database&, const std::string& arguments, Output&) {
+  refuseArguments(arguments);
+}
+
 constexpr Command table[] = {
     {".tables", "", "elenca le tabelle, anche quelle di sistema", listTables},
     {".schema", "[TABELLA]", "mostra le istruzioni che creano la tabella, o tutte", showDesign},
@@ -104,6 +113,8 @@ constexpr Command table[] = {
     {".relations", "", "elenca le relazioni", listRelations},
     {".query", "NOME [SQL]", "mostra una query, o la memorizza; un nome con spazi va tra parentesi quadre",
      keepQuery},
+    {".help", "", "mostra questi comandi", showHelp},
+    {".quit", "", "termina", endSession, true},
 };
 
 }  // namespace
@@ -120,10 +131,11 @@ const Command& commandOf(const std::string& line) {
   throw runtime::Error(5, "jetsql", "Comando sconosciuto: " + std::string(name));
 }
 
-void runCommand(Database& database, const std::string& line, Output& output) {
+bool runCommand(Database& database, const std::string& line, Output& output) {
   const Command& command = commandOf(line);
   command.run(database, trimmed(std::string_view(line).substr(std::string_view(command.name).size())),
               output);
+  return !command.ends;
 }
 
 std::string commandsHelp() {

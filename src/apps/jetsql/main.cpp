@@ -3,7 +3,10 @@
 
 #include "apps/command_line.h"
 #include "apps/jetsql/commands.h"
+#include "apps/jetsql/conversation.h"
+#include "apps/jetsql/edited_lines.h"
 #include "apps/jetsql/session.h"
+#include "platform/paths.h"
 #include "platform/program.h"
 
 namespace {
@@ -14,7 +17,10 @@ const char* const notes =
     "Senza istruzioni tra gli argomenti legge lo standard input: testo UTF-8, ogni istruzione chiusa da un\n"
     "punto e virgola a fine riga; una riga che comincia con -- è un commento. Al primo errore si ferma e "
     "nulla\n"
-    "di ciò che ha fatto viene salvato. Senza --readonly il database è aperto in modo esclusivo.\n"
+    "di ciò che ha fatto viene salvato. A un terminale, invece, ogni istruzione viene salvata appena "
+    "eseguita,\n"
+    "un errore annulla solo la sua, e le frecce richiamano le istruzioni precedenti.\n"
+    "Senza --readonly il database è aperto in modo esclusivo.\n"
     "Stato di uscita: 0 tutto eseguito, 1 errore, 64 uso errato.";
 
 void declare(CLI::App& app, jetsql::Request& request) {
@@ -45,5 +51,9 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return apps::answer(app, error);
   }
-  return jetsql::runSession(request, std::cin, std::cout, std::cerr);
+  if (!request.statements.empty() || !jetsql::atTerminal())
+    return jetsql::runSession(request, std::cin, std::cout, std::cerr);
+  const auto lines =
+      jetsql::editedLines(platform::toSystemPath(platform::userStateFolder()) + "/aggnorvo/jetsql_history");
+  return jetsql::runConversation(request, *lines, std::cout, std::cerr);
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <istream>
 #include <string_view>
 
 #include "jet/file/text.h"
@@ -52,13 +51,14 @@ bool beginsWithWord(std::string_view text, std::string_view word) {
 
 }  // namespace
 
-bool Script::readLine(std::string& line) {
-  if (!std::getline(stream_, line)) return false;
+Lines::Reading Script::readLine(std::string& line, bool continues) {
+  const auto reading = lines_.read(line, continues);
+  if (reading != Lines::Reading::Line) return reading;
   if (++line_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
   if (!isUtf8(line)) {
     throw runtime::Error(5, "jetsql", "La riga " + std::to_string(line_) + " non è un testo UTF-8");
   }
-  return true;
+  return reading;
 }
 
 std::optional<ScriptPiece> Script::next() {
@@ -66,7 +66,14 @@ std::optional<ScriptPiece> Script::next() {
   Quotes quotes;
   bool declares = false;  // its PARAMETERS clause is not yet closed
   std::string line;
-  while (readLine(line)) {
+  while (true) {
+    const auto reading = readLine(line, piece.line != 0);
+    if (reading == Lines::Reading::End) break;
+    if (reading == Lines::Reading::Abandoned) {
+      piece = {};
+      quotes = {};
+      continue;
+    }
     const auto content = trimmed(line);
     if (piece.line == 0) {
       if (content.empty() || content.starts_with("--")) continue;

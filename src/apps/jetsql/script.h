@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <iosfwd>
 #include <optional>
 #include <string>
+
+#include "apps/jetsql/lines.h"
 
 namespace jetsql {
 
@@ -18,16 +19,16 @@ struct ScriptPiece {
 /// line; between them stand empty lines and lines that begin with "--".
 class Script {
  public:
-  explicit Script(std::istream& stream) : stream_(stream) {}
+  explicit Script(Lines& lines) : lines_(lines) {}
 
-  /// The next piece, or nothing at the end. A statement that the end cuts short is given as it stands. Throws
-  /// runtime::Error 5 for a line that is no UTF-8.
+  /// The next piece, or nothing at the end. A statement that the end cuts short is given as it stands, one
+  /// that is given up not at all. Throws runtime::Error 5 for a line that is no UTF-8.
   std::optional<ScriptPiece> next();
 
  private:
-  bool readLine(std::string& line);
+  Lines::Reading readLine(std::string& line, bool continues);
 
-  std::istream& stream_;
+  Lines& lines_;
   std::size_t line_ = 0;
 };
 

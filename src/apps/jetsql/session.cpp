@@ -4,11 +4,11 @@
 #include <optional>
 #include <ostream>
 
+#include "apps/jetsql/errors.h"
 #include "apps/jetsql/output.h"
 #include "apps/jetsql/script.h"
 #include "apps/jetsql/shell.h"
 #include "jet/dao/engine.h"
-#include "jet/sql/syntax_error.h"
 #include "platform/disk.h"
 #include "platform/paths.h"
 #include "runtime/error.h"
@@ -16,30 +16,10 @@
 namespace jetsql {
 namespace {
 
-/// The statement's line that holds the character at `position`, with a caret under it.
-std::string markedLine(const std::string& statement, std::size_t position) {
-  std::string line;
-  std::string mark;
-  for (const char c : statement) {
-    const bool startsCharacter = (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-    const bool reached = position == 0;
-    if (c == '\n') {
-      if (reached) break;
-      line.clear();
-      mark.clear();
-    } else {
-      line += c;
-      if (startsCharacter && !reached) mark += c == '\t' ? '\t' : ' ';
-    }
-    if (startsCharacter && !reached) --position;
-  }
-  return "  " + line + "\n  " + mark + "^\n";
-}
-
 /// Where the statements come from: the command line, else the script.
 class Source {
  public:
-  Source(const Request& request, std::istream& script) : request_(request), script_(script) {}
+  Source(const Request& request, std::istream& script) : request_(request), lines_(script), script_(lines_) {}
 
   std::optional<ScriptPiece> next() {
     if (request_.statements.empty()) return script_.next();
@@ -49,6 +29,7 @@ class Source {
 
  private:
   const Request& request_;
+  StreamLines lines_;
   Script script_;
   std::size_t index_ = 0;
 };
@@ -64,11 +45,8 @@ class Session {
       runAll();
       save();
       return 0;
-    } catch (const jet::sql::SyntaxError& error) {
-      tell(error);
-      errors_ << markedLine(piece_.text, error.position());
     } catch (const runtime::Error& error) {
-      tell(error);
+      tellError(errors_, error, piece_);
     }
     takeBack();
     return 1;
@@ -76,13 +54,8 @@ class Session {
 
  private:
   void open() {
-    const std::string path = platform::fromSystemPath(request_.file);
-    if (request_.create) {
-      database_ = workspace_->CreateDatabase(path);
-      createdPath_ = path;
-    } else {
-      database_ = workspace_->OpenDatabase(path, !request_.readOnly, request_.readOnly);
-    }
+    database_ = openDatabase(*workspace_, request_);
+    if (request_.create) createdPath_ = database_->Name();
     workspace_->BeginTrans();
   }
 
@@ -92,8 +65,9 @@ class Session {
     for (const auto& answer : request_.answers) shell.addAnswer(answer);
     while (auto piece = source_.next()) {
       piece_ = std::move(*piece);
-      shell.run(piece_.text);
+      const bool goesOn = shell.run(piece_.text);
       piece_ = {};
+      if (!goesOn) break;
     }
     shell.checkAnswersUsed();
     rows_.flush();
@@ -105,20 +79,13 @@ class Session {
     workspace_->CommitTrans();
   }
 
-  void tell(const runtime::Error& error) {
-    errors_ << "jetsql: ";
-    if (piece_.line != 0) errors_ << "riga " << piece_.line << ": ";
-    errors_ << "errore " << error.number() << ": " << error.description() << "\n";
-  }
-
   /// Closing the workspace rolls the transaction back.
   void takeBack() {
     try {
       workspace_->Close();
       if (!createdPath_.empty()) platform::removeFile(createdPath_);
     } catch (const runtime::Error& error) {
-      piece_ = {};
-      tell(error);
+      tellError(errors_, error, {});
     }
   }
 
@@ -133,6 +100,12 @@ class Session {
 };
 
 }  // namespace
+
+jet::dao::DatabasePtr openDatabase(jet::dao::Workspace& workspace, const Request& request) {
+  const std::string path = platform::fromSystemPath(request.file);
+  if (request.create) return workspace.CreateDatabase(path);
+  return workspace.OpenDatabase(path, !request.readOnly, request.readOnly);
+}
 
 int runSession(const Request& request, std::istream& script, std::ostream& rows, std::ostream& errors) {
   return Session(request, script, rows, errors).run();

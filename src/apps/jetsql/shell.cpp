@@ -11,12 +11,10 @@ constexpr int returnsRows = 3065;
 
 }  // namespace
 
-void Shell::run(const std::string& text) {
-  if (text.starts_with('.')) {
-    runCommand(*database_, text, output_);
-  } else {
-    runStatement(text);
-  }
+bool Shell::run(const std::string& text) {
+  if (text.starts_with('.')) return runCommand(*database_, text, output_);
+  runStatement(text);
+  return true;
 }
 
 void Shell::runStatement(const std::string& text) {

@@ -18,8 +18,8 @@ class Shell {
 
   /// Answers the parameter of this name in every statement that has it; `text` is NAME=LITERAL.
   void addAnswer(const std::string& text) { answers_.push_back({readAnswer(text, *database_)}); }
-  /// A statement or a dot command.
-  void run(const std::string& text);
+  /// A statement or a dot command. False if the command ends the session.
+  bool run(const std::string& text);
   /// Error 5 if an answer was asked for by no statement.
   void checkAnswersUsed() const;
 

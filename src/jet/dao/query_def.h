@@ -55,8 +55,8 @@ class QueryDef {
   virtual runtime::Variant DateCreated() const = 0;
   virtual runtime::Variant LastUpdated() const = 0;
   virtual std::string SQL() const = 0;
-  /// A stored query is rewritten in place. Error 3075 and kin for syntax, for a stored query alone; tables need
-  /// not exist.
+  /// A stored query is rewritten in place. Error 3075 and kin for syntax, for a stored query alone; tables
+  /// need not exist.
   virtual void setSQL(const std::string& sql) = 0;
   /// In the order in which they are declared or appear. Error 3265 if the query has none such.
   virtual ParameterCollection Parameters() = 0;

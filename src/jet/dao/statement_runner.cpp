@@ -23,8 +23,7 @@ std::optional<std::string> StatementRunner::findQuery(std::string_view name) con
   const auto object = findQueryObject(image_, name);
   if (!object) return std::nullopt;
   const auto kind = object->kind();
-  const bool givesRows =
-      kind == QueryKind::Select || kind == QueryKind::Union || kind == QueryKind::Crosstab;
+  const bool givesRows = kind == QueryKind::Select || kind == QueryKind::Union || kind == QueryKind::Crosstab;
   return givesRows ? std::optional(queryText(image_, *object)) : std::nullopt;
 }
 

@@ -28,6 +28,13 @@ std::string homeFolder() {
   return user && user->pw_dir ? user->pw_dir : "/";
 }
 
+/// The folder that the variable names, else the one below the user's home.
+std::string userFolder(const char* variable, const char* belowHome) {
+  const char* folder = std::getenv(variable);
+  if (folder && *folder == '/') return fromSystemPath(folder);
+  return fromSystemPath(homeFolder() + belowHome);
+}
+
 }  // namespace
 
 std::string toSystemPath(std::string_view path) {
@@ -44,9 +51,11 @@ std::string fromSystemPath(std::string_view path) {
 }
 
 std::string userSettingsFolder() {
-  const char* folder = std::getenv("XDG_CONFIG_HOME");
-  if (folder && *folder == '/') return fromSystemPath(folder);
-  return fromSystemPath(homeFolder() + "/.config");
+  return userFolder("XDG_CONFIG_HOME", "/.config");
+}
+
+std::string userStateFolder() {
+  return userFolder("XDG_STATE_HOME", "/.local/state");
 }
 
 std::string executableFolder() {

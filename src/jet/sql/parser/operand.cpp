@@ -74,15 +74,32 @@ Expression Parser::wordOperand() {
   return name();
 }
 
-/// column, table.column or table!column
+/// column, table.column or table!column. More parts (Forms!form!control) name nothing in a database: together
+/// they are the name of a parameter.
 Expression Parser::name() {
   const std::size_t position = cursor_.peek().position;
   Name name{"", cursor_.expectName(ExpressionSyntax)};
-  if (cursor_.acceptSymbol(".") || cursor_.acceptSymbol("!")) {
+  const auto atSeparator = [&] { return cursor_.atSymbol(".") || cursor_.atSymbol("!"); };
+  if (atSeparator()) {
+    const std::string separator = cursor_.take().text;
     name.table = std::move(name.column);
     name.column = cursor_.expectName(ExpressionSyntax);
+    if (atSeparator()) {
+      name.column = std::move(name.table) + separator + name.column + path(ExpressionSyntax);
+      name.table.clear();
+    }
   }
   return make(std::move(name), position);
+}
+
+/// The parts of a name behind its first one, with their separators.
+std::string Parser::path(StatementError error) {
+  std::string parts;
+  while (cursor_.atSymbol(".") || cursor_.atSymbol("!")) {
+    parts += cursor_.take().text;
+    parts += cursor_.expectName(error);
+  }
+  return parts;
 }
 
 Expression Parser::call() {

@@ -44,6 +44,7 @@ class Parser {
   tree::Expression parenthesised();
   tree::Expression wordOperand();
   tree::Expression name();
+  std::string path(StatementError error);
   tree::Expression call();
 
   // query.cpp, select.cpp

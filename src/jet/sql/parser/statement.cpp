@@ -81,6 +81,7 @@ tree::Execute Parser::execute() {
 
 tree::ParameterDeclaration Parser::parameter() {
   std::string name = cursor_.expectName(ParametersSyntax);
+  name += path(ParametersSyntax);
   return {std::move(name), typeName(ParametersSyntax)};
 }
 

@@ -96,8 +96,8 @@ std::string FromRows::alias() {
   if (at_ >= end_) return {};
   if (text_.isWord(at_, "AS")) ++at_;
   const Token& token = text_.at(at_);
-  const bool isName = token.kind == Token::Kind::QuotedName ||
-                      (token.kind == Token::Kind::Word && !isReserved(token));
+  const bool isName =
+      token.kind == Token::Kind::QuotedName || (token.kind == Token::Kind::Word && !isReserved(token));
   if (!isName) return {};
   ++at_;
   return token.text;
@@ -115,8 +115,8 @@ void FromRows::addJoin(std::int16_t kind, const Names& left, const Names& right,
     row.flag = kind;
   };
   auto parts = conjuncts(condition);
-  const bool comparisons = std::ranges::all_of(
-      parts, [&](Span part) { return named(part, left) && named(part, right); });
+  const bool comparisons =
+      std::ranges::all_of(parts, [&](Span part) { return named(part, left) && named(part, right); });
   if (parts.size() < 2 || !comparisons) return addRow(condition);
   std::ranges::reverse(parts);
   for (Span part : parts) {

@@ -10,14 +10,14 @@ namespace jet::sql::stored {
 namespace {
 
 constexpr std::string_view Reserved[] = {
-    "ADD",     "ALL",      "ALTER",  "AND",      "ANY",      "AS",         "ASC",       "BETWEEN",
-    "BY",      "COLUMN",   "CREATE", "DELETE",   "DESC",     "DISTINCT",   "DISTINCTROW", "DROP",
-    "EQV",     "EXISTS",   "FALSE",  "FROM",     "GROUP",    "HAVING",     "IMP",       "IN",
-    "INDEX",   "INNER",    "INSERT", "INTO",     "IS",       "JOIN",       "KEY",       "LEFT",
-    "LIKE",    "MOD",      "NO",     "NOT",      "NULL",     "OFF",        "ON",        "OR",
-    "ORDER",   "OUTER",    "OWNERACCESS", "PARAMETERS", "PERCENT", "PIVOT", "PROCEDURE", "REFERENCES",
-    "RIGHT",   "SELECT",   "SET",    "SOME",     "TABLE",    "TOP",        "TRANSFORM", "TRUE",
-    "UNION",   "UNIQUE",   "UPDATE", "VALUE",    "VALUES",   "WHERE",      "WITH",      "XOR",
+    "ADD",   "ALL",    "ALTER",       "AND",        "ANY",     "AS",       "ASC",         "BETWEEN",
+    "BY",    "COLUMN", "CREATE",      "DELETE",     "DESC",    "DISTINCT", "DISTINCTROW", "DROP",
+    "EQV",   "EXISTS", "FALSE",       "FROM",       "GROUP",   "HAVING",   "IMP",         "IN",
+    "INDEX", "INNER",  "INSERT",      "INTO",       "IS",      "JOIN",     "KEY",         "LEFT",
+    "LIKE",  "MOD",    "NO",          "NOT",        "NULL",    "OFF",      "ON",          "OR",
+    "ORDER", "OUTER",  "OWNERACCESS", "PARAMETERS", "PERCENT", "PIVOT",    "PROCEDURE",   "REFERENCES",
+    "RIGHT", "SELECT", "SET",         "SOME",       "TABLE",   "TOP",      "TRANSFORM",   "TRUE",
+    "UNION", "UNIQUE", "UPDATE",      "VALUE",      "VALUES",  "WHERE",    "WITH",        "XOR",
     "YES"};
 
 bool isDigit(char c) {

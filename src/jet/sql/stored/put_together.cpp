@@ -64,7 +64,8 @@ class PuttingTogether {
 };
 
 PuttingTogether::PuttingTogether(const StoredQuery& query) : kind_(query.kind), rows_(query.rows) {
-  std::ranges::stable_sort(rows_, {}, [](const QueryRow& row) { return std::pair(row.attribute, row.order); });
+  std::ranges::stable_sort(rows_, {},
+                           [](const QueryRow& row) { return std::pair(row.attribute, row.order); });
   if (const auto* row = first(Attribute::Options)) options_ = row->flag.value_or(0);
 }
 
@@ -155,7 +156,8 @@ std::string PuttingTogether::from(const char* word) const {
 std::string PuttingTogether::grouping() const {
   List list;
   for (const auto& row : all(Attribute::GroupBy))
-    if (kind_ != QueryKind::Crosstab || row.flag.value_or(0) == RowHeading) list.add(row.expression.value_or(""));
+    if (kind_ != QueryKind::Crosstab || row.flag.value_or(0) == RowHeading)
+      list.add(row.expression.value_or(""));
   return list.clause("GROUP BY ");
 }
 

@@ -8,8 +8,8 @@ StatementText::StatementText(std::string_view text) : text_(text), tokens_(token
   // Tokens are placed in characters.
   std::size_t byte = 0, character = 0;
   for (const Token& token : tokens_) {
-    for (; character < token.position; ++character)
-      do ++byte;
+    for (; character < token.position; ++character) do
+        ++byte;
       while (byte < text.size() && (static_cast<unsigned char>(text[byte]) & 0xC0) == 0x80);
     offsets_.push_back(byte);
   }

@@ -20,11 +20,11 @@ struct ClauseWords {
   std::string_view first, second;  // the second may be empty
 };
 constexpr ClauseWords Words[] = {
-    {Clause::Select, "SELECT", ""},    {Clause::Into, "INTO", ""},
-    {Clause::Set, "SET", ""},          {Clause::From, "FROM", ""},
-    {Clause::Where, "WHERE", ""},      {Clause::GroupBy, "GROUP", "BY"},
-    {Clause::Having, "HAVING", ""},    {Clause::OrderBy, "ORDER", "BY"},
-    {Clause::Pivot, "PIVOT", ""},      {Clause::OwnerAccess, "WITH", "OWNERACCESS"},
+    {Clause::Select, "SELECT", ""}, {Clause::Into, "INTO", ""},
+    {Clause::Set, "SET", ""},       {Clause::From, "FROM", ""},
+    {Clause::Where, "WHERE", ""},   {Clause::GroupBy, "GROUP", "BY"},
+    {Clause::Having, "HAVING", ""}, {Clause::OrderBy, "ORDER", "BY"},
+    {Clause::Pivot, "PIVOT", ""},   {Clause::OwnerAccess, "WITH", "OWNERACCESS"},
 };
 
 bool begins(const StatementText& text, std::size_t index, const ClauseWords& words) {
@@ -253,10 +253,9 @@ void TakingApart::intoTable(Span target) {
 }
 
 QueryKind TakingApart::crosstab(Span statement) {
-  auto clauses =
-      divide(text_, statement,
-             {Clause::Select, Clause::From, Clause::Where, Clause::GroupBy, Clause::Having, Clause::OrderBy,
-              Clause::Pivot, Clause::OwnerAccess});
+  auto clauses = divide(text_, statement,
+                        {Clause::Select, Clause::From, Clause::Where, Clause::GroupBy, Clause::Having,
+                         Clause::OrderBy, Clause::Pivot, Clause::OwnerAccess});
   output(clauses[Clause::Head]).flag = CrosstabValue;
   predicate(clauses[Clause::Select]);
   for (const Span item : text_.list(clauses[Clause::Select])) output(item).flag = RowHeading;
