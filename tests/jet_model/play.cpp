@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sstream>
 
 #include "platform/paths.h"
 #include "runtime/error.h"
@@ -14,6 +15,21 @@ using namespace jet::dao;
 namespace {
 
 constexpr std::size_t MostTables = 5, MostRows = 60, MostColumns = 9, MostIndexes = 4;
+
+/// The first lines in which the file and the model differ, with what stands before them.
+std::string firstDifference(const std::string& file, const std::string& model) {
+  std::istringstream theirs(file), ours(model);
+  std::string before, their, our;
+  for (int line = 1;; ++line) {
+    const bool more = static_cast<bool>(std::getline(theirs, their));
+    const bool ourMore = static_cast<bool>(std::getline(ours, our));
+    if (!more && !ourMore) return "";
+    if (!more || !ourMore || their != our)
+      return "line " + std::to_string(line) + ", behind \"" + before + "\"\nfile:  " + (more ? their : "") +
+             "\nmodel: " + (ourMore ? our : "");
+    before = their;
+  }
+}
 
 template <typename Item>
 void eraseNamed(std::vector<Item>& items, const std::string& name) {
@@ -56,7 +72,7 @@ std::string Play::session() {
   if (oneIn(8)) compact();
   if (!difference_.empty()) return difference_;
   const std::string theirs = shown(readBack()), ours = shown(model_);
-  return theirs == ours ? "" : "the file holds\n" + theirs + "the model\n" + ours;
+  return firstDifference(theirs, ours);
 }
 
 /// Ends the session with its transactions, before or after the close.
@@ -93,7 +109,7 @@ Database Play::readBack() const {
       table.columns.push_back(std::move(column));
     }
     for (const auto& index : definition->Indexes())
-      if (!index->Foreign() && !db->Relations().contains(index->Name()))
+      if (!index->Foreign())
         table.indexes.push_back(
             {index->Name(), index->Fields(std::size_t{0}).Name(), index->Unique(), index->Primary()});
     const auto rows = definition->OpenRecordset(dbOpenTable);
@@ -113,9 +129,8 @@ Database Play::readBack() const {
   return result;
 }
 
-void Play::both(const std::string& what, const std::function<void()>& work,
+bool Play::both(const std::string& what, const std::function<void()>& work,
                 const std::function<int(Database&)>& change) {
-  log_ += what.substr(0, 300) + "\n";
   Database changed = model_;
   const int expected = change(changed);
   int found = 0;
@@ -127,13 +142,15 @@ void Play::both(const std::string& what, const std::function<void()>& work,
     description = error.description();
   }
   if (expected == 0) model_ = std::move(changed);
+  log_ += what.substr(0, 300) + (found == 0 ? "" : " -> " + std::to_string(found)) + "\n";
   if (found != expected)
     difference_ = what.substr(0, 300) + "\nends in " + std::to_string(found) + " " + description +
                   " and not in " + std::to_string(expected);
+  return expected == 0;
 }
 
-void Play::both(const std::string& sql, const std::function<int(Database&)>& change) {
-  both(
+bool Play::both(const std::string& sql, const std::function<int(Database&)>& change) {
+  return both(
       sql, [&] { db_->Execute(sql, dbFailOnError); }, change);
 }
 
@@ -191,29 +208,50 @@ RecordsetPtr Play::at(const Table& table, std::size_t row) {
 // Data
 
 void Play::insertRows() {
-  Table* table = anyTable();
-  if (!table) return;
-  for (unsigned count = 1 + below(8); count > 0 && table->rows.size() < MostRows && difference_.empty();
-       --count) {
-    const Row row = rowFor(*table);
+  const Table* chosen = anyTable();
+  if (!chosen) return;
+  const std::string name = chosen->name;
+  for (unsigned count = 1 + below(8); count > 0 && difference_.empty(); --count) {
+    const Table& table = *model_.find(name);
+    if (table.rows.size() >= MostRows) return;
+    const Row row = rowFor(table);
     std::string names, values;
     for (std::size_t i = 0; i < row.size(); ++i) {
-      if (table->columns[i].autoNumber) continue;
-      names += (names.empty() ? "[" : ", [") + table->columns[i].name + "]";
+      if (table.columns[i].autoNumber) continue;
+      names += (names.empty() ? "[" : ", [") + table.columns[i].name + "]";
       values += (values.empty() ? "" : ", ") + literal(row[i]);
     }
     if (names.empty()) return;
-    both("INSERT INTO [" + table->name + "] (" + names + ") VALUES (" + values + ")",
-         [&](Database& model) { return model.insert(*model.find(table->name), row); });
+    const bool added = both("INSERT INTO [" + name + "] (" + names + ") VALUES (" + values + ")",
+                            [&](Database& model) { return model.insert(*model.find(name), row); });
+    if (added) takeNumber(name);
   }
+}
+
+/// Numbers that refused records have taken may be lost or given again: a new one must only be larger than all
+/// that are there.
+void Play::takeNumber(const std::string& name) {
+  Table& table = *model_.find(name);
+  const auto counter =
+      std::ranges::find_if(table.columns, [](const Column& column) { return column.autoNumber; });
+  if (counter == table.columns.end()) return;
+  const auto at = static_cast<std::size_t>(counter - table.columns.begin());
+  const auto rows =
+      db_->OpenRecordset("SELECT Max([" + counter->name + "]) FROM [" + name + "]", dbOpenSnapshot);
+  const std::int32_t given = rows->Fields(std::size_t{0}).Value().toLong();
+  for (std::size_t i = 0; i + 1 < table.rows.size(); ++i)
+    if (table.rows[i][at].toLong() >= given) difference_ = "the counter of " + name + " gives a number again";
+  table.rows.back()[at] = given;
+  table.lastNumber = given;
 }
 
 void Play::addRecord() {
   Table* table = anyTable();
   if (!table || table->rows.size() >= MostRows) return;
+  const std::string name = table->name;
   const Row row = rowFor(*table);
-  both(
-      "AddNew in " + table->name,
+  const bool added = both(
+      "AddNew in " + name,
       [&] {
         const auto records = db_->OpenRecordset(table->name, oneIn(2) ? dbOpenDynaset : dbOpenTable);
         records->AddNew();
@@ -221,7 +259,8 @@ void Play::addRecord() {
           if (!table->columns[i].autoNumber) records->Fields(table->columns[i].name).setValue(row[i]);
         records->Update();
       },
-      [&](Database& model) { return model.insert(*model.find(table->name), row); });
+      [&](Database& model) { return model.insert(*model.find(name), row); });
+  if (added) takeNumber(name);
 }
 
 void Play::editRecord() {

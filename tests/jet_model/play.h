@@ -30,6 +30,7 @@ class Play {
 
   // Data
   void insertRows();
+  void takeNumber(const std::string& table);
   void addRecord();
   void editRecord();
   void deleteRecord();
@@ -54,10 +55,10 @@ class Play {
 
   /// Does `work` to the database and `change` (which gives an error's number) to the model, keeps the change
   /// if there is no error, and notes a difference in the errors.
-  void both(const std::string& what, const std::function<void()>& work,
+  bool both(const std::string& what, const std::function<void()>& work,
             const std::function<int(Database&)>& change);
   /// The same for a statement.
-  void both(const std::string& sql, const std::function<int(Database&)>& change);
+  bool both(const std::string& sql, const std::function<int(Database&)>& change);
   void finish();
   void compact();
   /// The database as the model would show it, read from the file by an own opening.

@@ -69,14 +69,21 @@ void TableFields::remove(std::size_t position) const {
   }
 }
 
+/// What a relation keeps on the side of its parent is no index of the collection.
+std::vector<std::uint32_t> TableIndexes::numbers() const {
+  std::vector<std::uint32_t> numbers;
+  for (const auto& index : table_->design().logicalIndexes)
+    if (index.side != file::LogicalIndex::Side::Primary) numbers.push_back(index.number);
+  return numbers;
+}
+
 std::size_t TableIndexes::count() const {
-  return table_->page_ ? table_->design().logicalIndexes.size() : table_->draft_.indexes.size();
+  return table_->page_ ? numbers().size() : table_->draft_.indexes.size();
 }
 
 IndexPtr TableIndexes::at(std::size_t position) const {
   if (!table_->page_) return table_->draft_.indexes[position];
-  return std::make_shared<Index>(table_->session_, *table_->page_,
-                                 table_->design().logicalIndexes[position].number);
+  return std::make_shared<Index>(table_->session_, *table_->page_, numbers()[position]);
 }
 
 std::optional<std::size_t> TableIndexes::find(std::string_view name) const {

@@ -35,6 +35,9 @@ class TableIndexes : public CollectionSource<IndexPtr> {
   void remove(std::size_t position) const override;
 
  private:
+  /// LogicalIndex::number of those of a stored table.
+  std::vector<std::uint32_t> numbers() const;
+
   std::shared_ptr<TableDef> table_;
 };
 
