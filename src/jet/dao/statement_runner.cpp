@@ -10,6 +10,7 @@ namespace jet::dao {
 namespace {
 
 constexpr char Source[] = "DAO.Database";
+constexpr std::uint32_t SystemObject = 0x80000002;  // of a table's flags
 
 void bindAnswers(image::Statement& statement, const sql::RowStatement& plan, const Answers& answers) {
   for (std::size_t i = 0; i < plan.parameters.size(); ++i) {
@@ -41,7 +42,8 @@ StatementRunner::StatementRunner(image::Image& image) : image_(image) {
   sql::registerFunctions(image.connection().handle());
   sql::registerDomainFunction(image.connection().handle(), [this](const std::string& text) {
     auto plan = std::get<sql::RowStatement>(compile(text));
-    ready(plan);
+    // No indexes now, in the middle of a statement.
+    for (const auto& table : plan.tables) image_.prepareToRead(table.page, {});
     return plan;
   });
 }
@@ -51,6 +53,9 @@ sql::Statement StatementRunner::compile(const std::string& text, bool withRowKey
 }
 
 void StatementRunner::ready(const sql::RowStatement& plan) {
+  if (plan.mayReadAnyTable)
+    for (const auto& table : image_.tables())
+      if (!(table.flags & SystemObject)) image_.prepareToRead(table.page, {});
   const bool onePass = plan.kind == sql::RowStatement::Kind::Select && plan.tables.size() == 1 &&
                        plan.tables[0].compared.empty();
   for (const auto& table : plan.tables) {

@@ -28,6 +28,8 @@ class Context {
   void noteCompared(const bound::Expression& expression);
   void noteChanged(unsigned source, TouchedTable::Change change);
   const std::vector<TouchedTable>& tables() const { return tables_; }
+  void noteAnyTable() { mayReadAnyTable_ = true; }
+  bool mayReadAnyTable() const { return mayReadAnyTable_; }
 
   /// Opens one more stored query within those that are open. Error 3360 where they never end.
   void openStoredQuery(std::size_t position);
@@ -46,6 +48,7 @@ class Context {
   std::vector<std::optional<std::size_t>> tableOfSource_;
   std::size_t nodes_ = 0;
   unsigned openQueries_ = 0;
+  bool mayReadAnyTable_ = false;
 };
 
 }  // namespace jet::sql
