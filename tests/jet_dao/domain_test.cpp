@@ -46,6 +46,10 @@ TEST_F(Domains, AreAskedWhateverIsLoaded) {
 TEST_F(Domains, GiveAnUpdateItsValuesAndFailItAsAWhole) {
   const auto db = workspace.OpenDatabase(path);
   db->Execute("UPDATE nomi SET chiave = DMax('id', 'grande', 'id < ' & chiave)", dbFailOnError);
+  // What only the row tells can't be loaded while rows change.
+  const char* late =
+      "UPDATE nomi SET chiave = DCount('*', 'grande', 'id IN (' & Left('SELECT n FROM cifre', 99) & ')')";
+  EXPECT_EQ(office::errorOf([&] { db->Execute(late, dbFailOnError); }), 3211);
   const char* overflow =
       "UPDATE nomi SET chiave = chiave + DCount('*', tabella, 'n > 3 AND 1 \\ (6 - ' & chiave & ') = 0')";
   EXPECT_NE(office::errorOf([&] { db->Execute(overflow, dbFailOnError); }), 0);
