@@ -6,7 +6,7 @@
 
 namespace common {
 
-/// Capital letters for all letters of code page 1252, which the suite's texts are made of.
+/// Capital letters for all letters of the suite's texts.
 std::string Maiuscolo(std::string_view testo);
 /// True if the texts are equal without regard to case.
 bool StessoTesto(std::string_view a, std::string_view b);

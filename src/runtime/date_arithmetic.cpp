@@ -1,5 +1,6 @@
 #include "runtime/date_arithmetic.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 

@@ -21,7 +21,7 @@ constexpr Description descriptions[] = {
     {PermissionDenied, "File in uso"},
     {PathFileAccess, "Accesso al file negato"},
     {PathNotFound, "Cartella inesistente"},
-    {InvalidUseOfNull, "Valore Null non ammesso"},
+    {InvalidUseOfNull, "Uso non valido di Null"},
 };
 
 }  // namespace

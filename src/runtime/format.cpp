@@ -1,7 +1,5 @@
 #include "runtime/format.h"
 
-#include <algorithm>
-
 #include "runtime/date.h"
 #include "runtime/format_pattern.h"
 #include "runtime/italian.h"

@@ -11,6 +11,8 @@ namespace {
 using Kind = sql::RowStatement::Kind;
 using Change = sql::TouchedTable::Change;
 
+constexpr std::uint32_t SystemObject = 0x80000002;  // of a table's flags
+
 /// Errors that say that one row can't be changed so, not that the statement is wrong: overflow, division by
 /// zero, types, Null; keys, a record that is too large, texts that are too long; relations; rules; numbers and
 /// conversions.
@@ -87,6 +89,9 @@ void bindAnswers(image::Statement& statement, const sql::RowStatement& plan, con
 }
 
 void makeReady(image::Image& image, const sql::RowStatement& plan) {
+  if (plan.mayReadAnyTable)
+    for (const auto& table : image.tables())
+      if (!(table.flags & SystemObject) && !table.link) image.prepareToRead(table.page, {});
   const bool onePass =
       plan.kind == Kind::Select && plan.tables.size() == 1 && plan.tables[0].compared.empty();
   for (const auto& table : plan.tables) {

@@ -19,7 +19,8 @@ StatementRunner::StatementRunner(image::Image& image) : image_(image) {
   sql::registerFunctions(image.connection().handle());
   sql::registerDomainFunction(image.connection().handle(), [this](const std::string& text) {
     auto plan = std::get<sql::RowStatement>(compile(text));
-    makeReady(image_, plan);
+    // No indexes now, in the middle of a statement.
+    for (const auto& table : plan.tables) image_.prepareToRead(table.page, {});
     return plan;
   });
 }

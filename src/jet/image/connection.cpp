@@ -27,6 +27,7 @@ constexpr Limit Limits[] = {
     {"too many", 3360, "Espressione troppo complessa"},
     {"at most 64 tables", 3360, "Espressione troppo complessa"},
     {"integer overflow", runtime::Overflow, "Overflow"},
+    {"cannot open savepoint", 3211, "Tabella non ancora letta, e un'istruzione di modifica è in corso"},
 };
 
 int compareJet(void*, int lengthA, const void* a, int lengthB, const void* b) {

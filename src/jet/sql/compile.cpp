@@ -73,7 +73,14 @@ class Compilation {
   }
 
   RowStatement finish(RowStatement::Kind kind, std::string sql) const {
-    return {kind, std::move(sql), context_.parameters(), {}, context_.tables(), 0, {}};
+    return {kind,
+            std::move(sql),
+            context_.parameters(),
+            {},
+            context_.tables(),
+            0,
+            {},
+            context_.mayReadAnyTable()};
   }
 
   Context context_;

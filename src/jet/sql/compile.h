@@ -77,6 +77,8 @@ struct RowStatement {
     std::vector<std::string> apply;
   };
   std::optional<Steps> steps;
+  /// A function of a domain may ask for any table, by a name that is known only when it runs.
+  bool mayReadAnyTable = false;
 };
 
 /// An index, or ALTER TABLE ... ADD CONSTRAINT of a key.

@@ -16,7 +16,7 @@ namespace jet::sql {
 std::string domainStatement(std::string_view aggregate, std::string_view expression, std::string_view domain,
                             std::string_view criteria);
 
-/// Compiles a SELECT and makes its tables ready to be read.
+/// Compiles a SELECT and makes its tables ready to be read, as far as that can be done within a statement.
 using DomainCompiler = std::function<RowStatement(const std::string& text)>;
 
 /// Registers what statements call where the texts of a domain are known only row by row.

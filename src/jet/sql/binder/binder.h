@@ -86,6 +86,7 @@ class Binder {
   std::optional<bound::Expression> aggregate(const tree::Call& call, const Place& place);
   // domain.cpp
   std::optional<bound::Expression> domain(const tree::Call& call, const Place& place);
+  void expectCriteria(const bound::Select& select, const std::string& pieces);
   // comparison.cpp
   Type comparedTypeOf(Type a, Type b, const Place& place) const;
   void noteCompared(const bound::Expression& expression);

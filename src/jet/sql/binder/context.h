@@ -29,6 +29,8 @@ class Context {
   void noteChanged(unsigned source, TouchedTable::Change change);
   void noteAssigned(unsigned source, std::uint16_t column);
   const std::vector<TouchedTable>& tables() const { return tables_; }
+  void noteAnyTable() { mayReadAnyTable_ = true; }
+  bool mayReadAnyTable() const { return mayReadAnyTable_; }
 
   /// Opens one more stored query within those that are open. Error 3360 where they never end.
   void openStoredQuery(std::size_t position);
@@ -47,6 +49,7 @@ class Context {
   std::vector<std::optional<std::size_t>> tableOfSource_;
   std::size_t nodes_ = 0;
   unsigned openQueries_ = 0;
+  bool mayReadAnyTable_ = false;
 };
 
 }  // namespace jet::sql

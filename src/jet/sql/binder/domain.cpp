@@ -1,6 +1,7 @@
 #include "jet/sql/domain.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/binder/function.h"
@@ -36,6 +37,29 @@ std::optional<std::string> constantText(const tree::Expression& expression) {
   return left && right ? std::optional(*left + *right) : std::nullopt;
 }
 
+/// The constant pieces of a text that is joined, one after another, with blanks for what each row has of its
+/// own.
+std::string constantPieces(const tree::Expression& expression) {
+  if (const auto* literal = std::get_if<tree::Literal>(&expression.node)) return literal->text;
+  const auto* joined = std::get_if<tree::Concatenation>(&expression.node);
+  return joined ? constantPieces(*joined->left) + " " + constantPieces(*joined->right) : std::string();
+}
+
+/// What may be a name in a criterion.
+std::vector<std::string> words(std::string_view text) {
+  std::vector<std::string> result(1);
+  for (const char c : text) {
+    const bool letter =
+        static_cast<unsigned char>(c) >= 0x80 || c == '_' || std::isalnum(static_cast<unsigned char>(c));
+    if (letter) {
+      result.back() += c;
+    } else if (!result.back().empty()) {
+      result.emplace_back();
+    }
+  }
+  return result;
+}
+
 /// A statement's error, at the call whose text it was.
 template <class Work>
 auto at(const tree::Place& place, Work work) {
@@ -69,6 +93,9 @@ std::optional<Expression> Binder::domain(const tree::Call& node, const Place& pl
     if (query.parts.front().items.size() != 1) throw SyntaxError(SubqueryColumns, "", place.position);
     type = query.parts.front().items.front().value.type;
     if (criteria) return Expression{type, bound::Subquery{std::move(query)}};
+    expectCriteria(query.parts.front(), constantPieces(node.arguments[2]));
+  } else {
+    context_.noteAnyTable();
   }
   bound::Call call{&domainFunction(), {}};
   call.arguments.push_back({Type::Long, bound::Literal{static_cast<std::int64_t>(type)}});
@@ -76,6 +103,25 @@ std::optional<Expression> Binder::domain(const tree::Call& node, const Place& pl
   for (const tree::Expression& argument : node.arguments)
     call.arguments.push_back(converted(argument, Type::Text));
   return Expression{type, std::move(call)};
+}
+
+/// Notes what criteria with these constant pieces will ask for, since nothing can be loaded or indexed while
+/// a statement changes rows: the columns that they name, and any table where they have a sub-query.
+void Binder::expectCriteria(const bound::Select& select, const std::string& pieces) {
+  const auto* source =
+      select.from.size() == 1 ? std::get_if<bound::TableSource>(&select.from.front().node) : nullptr;
+  const auto touched = source ? context_.tableOf(source->source) : std::nullopt;
+  const auto* table = touched ? context_.schema().findTable(context_.tables()[*touched].alias) : nullptr;
+  const bool joined = pieces.find_first_not_of(' ') != std::string::npos;
+  if (!joined) context_.noteAnyTable();
+  for (const std::string& word : words(pieces)) {
+    if (sameWord(word, "SELECT")) context_.noteAnyTable();
+    if (!table) continue;
+    for (const file::Column& column : table->columns) {
+      if (!file::sameName(column.name, word)) continue;
+      context_.noteCompared({Type::Null, bound::Column{source->source, "c" + std::to_string(column.number)}});
+    }
+  }
 }
 
 }  // namespace jet::sql
