@@ -83,7 +83,7 @@ TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
       {"ALTER soci", "error 3293 at 6"},
       {"SELECT id INTO FROM soci", "error 3075 at 20"},
       {"SELECT id FROM soci WHERE id IN (SELECT id INTO x FROM soci)", "error 3075 at 43"},
-      {"SELECT id FROM soci IN 'C:\\altro.mdb'", "error 3330 at 15"},
+      {"SELECT id FROM soci IN 'C:\\altro.mdb'", "error 3170 at 15"},
       {"SELECT id FROM [SELECT id FROM soci WHERE]. AS q", "error 3075 at 41"},
       {"SELECT id FROM soci WHERE id > ANY (SELECT id, nome FROM soci)", "error 3306 at 26"},
       {"SELECT id FROM soci WHERE nome > ALL (SELECT id FROM soci)", "error 3464 at 26"},
