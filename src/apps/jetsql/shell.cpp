@@ -33,7 +33,7 @@ void Shell::runStatement(const std::string& text) {
 void Shell::answerParameters(jet::dao::QueryDef& query) {
   for (auto& answer : answers_) {
     try {
-      query.setParameter(answer.parameter.name, answer.parameter.value);
+      query.Parameters(answer.parameter.name).setValue(answer.parameter.value);
       answer.used = true;
     } catch (const runtime::Error& error) {
       if (error.number() != noSuchItem) throw;
@@ -43,7 +43,7 @@ void Shell::answerParameters(jet::dao::QueryDef& query) {
 
 void Shell::printRows(jet::dao::Recordset& rows) {
   std::vector<std::string> names;
-  for (std::size_t i = 0; i < rows.fieldCount(); ++i) names.push_back(rows.Fields(i).Name());
+  for (std::size_t i = 0; i < rows.Fields().Count(); ++i) names.push_back(rows.Fields(i).Name());
   output_.columns(names);
   std::vector<runtime::Variant> values(names.size());
   for (; !rows.atEnd(); rows.MoveNext()) {
