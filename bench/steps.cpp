@@ -18,10 +18,11 @@ void require(bool condition, const char* what) {
 void readTable(const std::string& path, long rows) {
   const auto database = DBEngine::OpenDatabase(path, false, true);
   const auto table = database->OpenRecordset("storico_quote", dbOpenTable);
+  const auto fields = table->Fields().Count();
   long count = 0;
   double sum = 0;
   for (; !table->atEnd(); table->MoveNext(), ++count) {
-    for (std::size_t i = 0; i < table->fieldCount(); ++i) {
+    for (std::size_t i = 0; i < fields; ++i) {
       const auto value = table->Fields(i).Value();
       if (i == 0) sum += value.toDouble();
     }

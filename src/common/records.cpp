@@ -9,7 +9,7 @@ bool EsisteCampo(const std::string& tabella, const std::string& campo, jet::dao:
   if (!db) db = DatabaseAperto;
   if (!db) return false;
   try {
-    db->refreshTableDefs();
+    db->TableDefs().Refresh();
     db->TableDefs(tabella)->Fields(campo);
     return true;
   } catch (const runtime::Error&) {

@@ -18,8 +18,13 @@ bool eliminaPrimo(jet::dao::Database& db, jet::dao::Recordset& gruppi) {
                            "' AND Comune = '" + inSql(gruppi, "Comune") + "' AND PROVINCIA = '" +
                            inSql(gruppi, "PROVINCIA") + "' ORDER BY DataFine",
                        jet::dao::dbOpenDynaset);
+  // A dynaset counts the records that it has come to: all of them at the last.
+  if (!comuni->atEnd()) comuni->MoveLast();
   const bool doppio = comuni->RecordCount() > 1;
-  if (doppio) comuni->Delete();
+  if (doppio) {
+    comuni->MoveFirst();
+    comuni->Delete();
+  }
   comuni->Close();
   return doppio;
 }

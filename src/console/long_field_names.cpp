@@ -28,11 +28,9 @@ struct CampoLungo {
 
 /// The table's first field with a long name.
 std::optional<CampoLungo> primoCampoLungo(jet::dao::TableDef& tabella) {
-  for (std::size_t campo = 0; campo < tabella.fieldCount(); ++campo) {
-    const std::string nome = tabella.Fields(campo).Name();
+  for (const jet::dao::Field& campo : tabella.Fields())
     for (const NomeLungo& voce : NomiLunghi)
-      if (common::StessoTesto(nome, voce.nome)) return CampoLungo{tabella.Fields(campo), voce.nuovo};
-  }
+      if (common::StessoTesto(campo.Name(), voce.nome)) return CampoLungo{campo, voce.nuovo};
   return std::nullopt;
 }
 
@@ -46,7 +44,7 @@ void frmAggMain::RinominaCampiLunghi(const std::string& tabella, bool& esito) {
       const std::string nome = lungo->campo.Name();
       ScriviRiepilogo("Tabella " + tabella + " - campo " + nome + " in modifica", true);
       if (common::EsisteCampo(tabella, lungo->nuovo, DbDestinazione)) {
-        definizione->deleteField(nome);
+        definizione->Fields().Delete(nome);
       } else {
         lungo->campo.setName(lungo->nuovo);
       }

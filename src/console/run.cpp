@@ -119,7 +119,7 @@ void frmAggMain::rinominaCampi() {
 }
 
 void frmAggMain::contaTabelle(Corsa& corsa) {
-  DbDestinazione->refreshTableDefs();
+  DbDestinazione->TableDefs().Refresh();
   for (std::size_t tabella = 0; tabella < TabelleControllo.size(); ++tabella) {
     ContaRecords(DbDestinazione, TabelleControllo[tabella], corsa.conteggi[tabella]);
     if (corsa.conteggi[tabella] == -1)

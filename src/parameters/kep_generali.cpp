@@ -13,7 +13,7 @@ runtime::Variant interroga(jet::dao::Database& db, const std::string& nome, cons
                            const char* query, const Leggi& leggi) {
   try {
     const auto domanda = db.CreateQueryDef("", query);
-    domanda->setParameter(0, nome);
+    domanda->Parameters(0).setValue(nome);
     const auto righe = domanda->OpenRecordset(jet::dao::dbOpenForwardOnly);
     const runtime::Variant risultato = leggi(*righe);
     righe->Close();

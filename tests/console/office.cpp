@@ -56,16 +56,16 @@ std::vector<std::string> oldInstallation() {
 std::string contentOf(const std::string& path) {
   const auto db = jet::dao::DBEngine::OpenDatabase(path, true, true);
   std::string content;
-  for (const std::string& table : db->tableNames()) {
-    if (table.starts_with("MSys")) continue;
+  for (const auto& definition : db->TableDefs()) {
+    if (definition->Attributes() != 0) continue;
+    const std::string table = definition->Name();
     content += "== " + table + "\n";
     const auto rows = db->OpenRecordset("SELECT * FROM [" + table + "]", jet::dao::dbOpenSnapshot);
-    for (std::size_t field = 0; field < rows->fieldCount(); ++field)
-      content += rows->Fields(field).Name() + "|";
+    for (const auto& field : rows->Fields()) content += field.Name() + "|";
     for (; !rows->atEnd(); rows->MoveNext()) {
       content += "\n";
-      for (std::size_t field = 0; field < rows->fieldCount(); ++field) {
-        const runtime::Variant value = rows->Fields(field).Value();
+      for (const auto& field : rows->Fields()) {
+        const runtime::Variant value = field.Value();
         content += (value.isNull() ? "Null" : value.toText()) + "|";
       }
     }

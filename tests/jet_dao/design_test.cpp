@@ -96,8 +96,8 @@ TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
     field.setName("Testo");
     EXPECT_EQ(field.Name(), "Testo");
     EXPECT_EQ(errorOf([&] { table->Fields("m").setName("testo"); }), 3191);
-    EXPECT_EQ(errorOf([&] { table->deleteField("l"); }), 3280);
-    EXPECT_EQ(errorOf([&] { table->deleteField("manca"); }), 3265);
+    EXPECT_EQ(errorOf([&] { table->Fields().Delete("l"); }), 3280);
+    EXPECT_EQ(errorOf([&] { table->Fields().Delete("manca"); }), 3265);
     db->Close();
   }
   EXPECT_EQ(office::complaints(path), "");
@@ -105,9 +105,9 @@ TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
   Workspace workspace;
   const auto db = workspace.OpenDatabase(path, true);
   // The property Required went with the name.
-  EXPECT_EQ(errorOf([&] { db->Execute("UPDATE Ogni SET Testo = NULL"); }), 3314);
-  db->TableDefs("Ogni")->deleteField("m");
-  db->TableDefs("Ogni")->deleteField("si");
+  EXPECT_EQ(errorOf([&] { db->Execute("UPDATE Ogni SET Testo = NULL", dbFailOnError); }), 3314);
+  db->TableDefs("Ogni")->Fields().Delete("m");
+  db->TableDefs("Ogni")->Fields().Delete("si");
   db->Close();
   EXPECT_EQ(office::complaints(path), "");
   EXPECT_EQ(office::query(path, "SELECT id, Testo, n FROM Ogni WHERE id = 1"),

@@ -38,7 +38,7 @@ inline std::string rows(jet::dao::Recordset& recordset) {
   std::string result;
   for (; !recordset.atEnd(); recordset.MoveNext()) {
     if (!result.empty()) result += " ";
-    for (std::size_t i = 0; i < recordset.fieldCount(); ++i)
+    for (std::size_t i = 0; i < recordset.Fields().Count(); ++i)
       result += (i ? "|" : "") + text(recordset.Fields(i).Value());
   }
   return result;

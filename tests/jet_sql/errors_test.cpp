@@ -72,6 +72,23 @@ TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
       {"CREATE TABLE t (id LONG CONSTRAINT k)", "error 3289 at 36"},
       {"CREATE INDEX i t (a)", "error 3291 at 15"},
       {"CREATE INDEX i ON t (a) WITH NULL", "error 3291 at 29"},
+      {"CREATE TABLE t (a LONG FOREIGN KEY (a) REFERENCES u)", "error 3289 at 23"},
+      {"CREATE TABLE t (a LONG, FOREIGN KEY (a) u)", "error 3289 at 40"},
+      {"CREATE TABLE t (a LONG REFERENCES u ON DELETE SET NULL)", "error 3289 at 46"},
+      {"CREATE TABLE t (a COUNTER(1, 2))", "error 3292 at 18"},
+      {"ALTER TABLE soci", "error 3293 at 16"},
+      {"ALTER TABLE soci RENAME nome", "error 3293 at 17"},
+      {"ALTER TABLE soci ADD COLUMN x NIENTE", "error 3292 at 30"},
+      {"ALTER TABLE soci ALTER COLUMN id LONG PRIMARY KEY", "error 3293 at 33"},
+      {"ALTER soci", "error 3293 at 6"},
+      {"SELECT id INTO FROM soci", "error 3075 at 20"},
+      {"SELECT id FROM soci WHERE id IN (SELECT id INTO x FROM soci)", "error 3075 at 43"},
+      {"SELECT id FROM soci IN 'C:\\altro.mdb'", "error 3330 at 15"},
+      {"SELECT id FROM [SELECT id FROM soci WHERE]. AS q", "error 3075 at 41"},
+      {"SELECT id FROM soci WHERE id > ANY (SELECT id, nome FROM soci)", "error 3306 at 26"},
+      {"SELECT id FROM soci WHERE nome > ALL (SELECT id FROM soci)", "error 3464 at 26"},
+      {"SELECT id FROM soci WITH OPTION", "error 3131 at 25"},
+      {"TRANSFORM Count(*) SELECT nome FROM soci GROUP BY nome", "error 3143 at 54"},
       {"DROP QUERY x", "error 3295 at 5"},
       {"DROP INDEX i", "error 3295 at 12"},
   };
@@ -137,36 +154,6 @@ TEST(Errors, MeetNoBrokenStatementUnprepared) {
     tryOut(whole.substr(0, i) + whole.substr(i + 1));
   }
   EXPECT_GT(errors, 500);
-}
-
-TEST(Definitions, SayWhatIsToBeMade) {
-  const SmallImage image;
-  const auto create = std::get<CreateTable>(compile(
-      "CREATE TABLE tmpStampa ( ID Counter CONSTRAINT PrimaryKey PRIMARY KEY, Nome Text(2), Tutto Text, "
-      "Peso Decimal(10, 3) NOT NULL, Flag Bit, CONSTRAINT Unico UNIQUE (Nome, Flag))",
-      image));
-  ASSERT_EQ(create.columns.size(), 5u);
-  EXPECT_TRUE(create.columns[0].autoNumber);
-  EXPECT_EQ(create.columns[0].type, file::ColumnType::Long);
-  EXPECT_EQ(create.columns[1].size, 2);
-  EXPECT_EQ(create.columns[2].size, 255);
-  EXPECT_EQ(create.columns[3].precision, 10);
-  EXPECT_EQ(create.columns[3].scale, 3);
-  EXPECT_TRUE(create.columns[3].notNull);
-  EXPECT_EQ(create.columns[4].type, file::ColumnType::Boolean);
-  ASSERT_EQ(create.indexes.size(), 2u);
-  EXPECT_TRUE(create.indexes[0].primary);
-  EXPECT_EQ(create.indexes[0].name, "PrimaryKey");
-  EXPECT_EQ(create.indexes[0].columns[0].column, "ID");
-  EXPECT_EQ(create.indexes[1].columns.size(), 2u);
-
-  const auto index =
-      std::get<CreateIndex>(compile("CREATE INDEX i ON t (a, b DESC) WITH IGNORE NULL", image));
-  EXPECT_TRUE(index.ignoreNull);
-  EXPECT_FALSE(index.unique);
-  EXPECT_FALSE(index.columns[1].ascending);
-  EXPECT_EQ(std::get<DropTable>(compile("DROP TABLE [a b];", image)).table, "a b");
-  EXPECT_EQ(std::get<DropIndex>(compile("DROP INDEX i ON t", image)).name, "i");
 }
 
 }  // namespace

@@ -220,6 +220,14 @@ TEST(Printing, GivesTheTreeBack) {
       "CONSTRAINT u UNIQUE (Set, d), PRIMARY KEY (Table))",
       "CREATE UNIQUE INDEX [i j] ON t (a DESC, b ASC) WITH DISALLOW NULL",
       "CREATE INDEX i ON t (a) WITH PRIMARY",
+      "SELECT a.x INTO [n m] IN 'C:\\x.mdb' FROM a IN '' [;DATABASE=C:\\y.mdb] WHERE x >= ALL (SELECT y FROM "
+      "b)",
+      "INSERT INTO t IN 'C:\\x.mdb' (a, t.b) VALUES (1, 2)",
+      "TRANSFORM Sum(x) SELECT y FROM t GROUP BY y PIVOT z IN ('a', 2, Null)",
+      "PARAMETERS p Long; TRANSFORM Count(*) SELECT y FROM t GROUP BY y PIVOT z & 'q' WITH OWNERACCESS "
+      "OPTION",
+      "EXECUTE [una query] 1, 'b'",
+      "EXEC altra",
       "DROP TABLE [x y]",
       "DROP INDEX i ON [x y];",
   };

@@ -88,6 +88,51 @@ INSTANTIATE_TEST_SUITE_P(
              "1|10; 2|2"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    Nesting, Statements,
+    testing::Values(
+        Case{"SELECT id FROM soci WHERE quota > ANY (SELECT importo * 10 FROM pagamenti)", "1"},
+        Case{
+            "SELECT id FROM pagamenti WHERE importo >= ALL (SELECT importo FROM pagamenti WHERE importo > 0)",
+            "2"},
+        Case{"SELECT id FROM soci WHERE NOT id = SOME (SELECT socio FROM pagamenti)", "3"},
+        Case{"SELECT id FROM soci WHERE id <> ALL (SELECT socio FROM pagamenti WHERE id > 99)", "1; 2; 3"},
+        Case{"SELECT 1 = ANY (SELECT livello FROM soci), 3 = ANY (SELECT livello FROM soci), 3 <> ALL "
+             "(SELECT livello "
+             "FROM soci), 1 <> ALL (SELECT livello FROM soci)",
+             "Null|Vero|Falso|Null"},
+        Case{"SELECT id FROM soci WHERE nome = ALL (SELECT UCase(nome) FROM soci AS t WHERE t.id = soci.id)",
+             "1; 2; 3"},
+        Case{"SELECT id FROM soci WHERE NOT EXISTS (SELECT * FROM pagamenti WHERE socio = soci.id)", "3"},
+        Case{"SELECT (SELECT nome FROM soci)", "error 3354"},
+        Case{"SELECT id FROM soci WHERE nome = (SELECT nome FROM soci WHERE id = 2)", "2"},
+        Case{"SELECT (SELECT nome FROM soci WHERE id = 9), (SELECT TOP 1 nome FROM soci)", "Null|Anna"},
+        Case{"SELECT (SELECT TOP 1 nome FROM soci ORDER BY cognome DESC)", "error 3354"},
+        Case{"SELECT q.n FROM [SELECT nome AS n FROM soci WHERE id < 3]. AS q ORDER BY q.n DESC",
+             "bruno; Anna"},
+        Case{"(SELECT nome FROM soci WHERE id = 1) UNION (SELECT TOP 1 nome FROM soci ORDER BY id DESC) "
+             "ORDER BY 1",
+             "Anna; Ezio"},
+        Case{"SELECT id FROM soci UNION ALL (SELECT id FROM soci UNION SELECT 1 FROM soci)",
+             "1; 2; 3; 1; 2; 3"},
+        Case{"TABLE pagamenti UNION TABLE pagamenti",
+             "1|1|10|10/10/2006|10,5; 2|1|25,5|11/10/2006|9,25; 3|2|5|12/10/2006|100; 4|9|Null|Null|Null"},
+        Case{"SELECT id FROM soci WHERE id IN ((SELECT socio FROM pagamenti)) WITH OWNERACCESS OPTION;",
+             "1; 2"},
+        Case{"SELECT\tid\r\nFROM\r\n  soci\r\nWHERE id = 1 ;\r\n", "1"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    WithoutDoubleRows, Statements,
+    testing::Values(
+        Case{"SELECT DISTINCTROW nome FROM soci INNER JOIN pagamenti ON soci.id = pagamenti.socio",
+             "Anna; bruno"},
+        Case{"SELECT DISTINCTROW nome, importo FROM soci INNER JOIN pagamenti ON soci.id = pagamenti.socio",
+             "Anna|10; Anna|25,5; bruno|5"},
+        Case{"SELECT DISTINCTROW cognome FROM soci", "Rossi; ROSSI; Bianchi"},
+        Case{"SELECT DISTINCTROW soci.* FROM soci, pagamenti WHERE soci.id = socio AND soci.id = 1 ORDER BY "
+             "importo",
+             "1|Anna|Rossi|125|Vero|01/01/2005|A|Falso|prima|1,5|3"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Limiting, Statements,
     testing::Values(
         Case{"SELECT TOP 2 nome FROM soci", "Anna; bruno"},
@@ -198,21 +243,22 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Deleting, Changes,
-    testing::Values(Change{"DELETE  * FROM soci", "3", "SELECT Count(*) FROM soci", "0"},
-                    Change{"DELETE FROM soci WHERE nome = 'ANNA'", "1", "SELECT nome FROM soci",
-                           "bruno; Ezio"},
-                    Change{"DELETE pagamenti.* FROM pagamenti LEFT JOIN soci ON "
-                           "pagamenti.socio = soci.id WHERE soci.id Is Null",
-                           "1", "SELECT id FROM pagamenti", "1; 2; 3"},
-                    Change{"DELETE p.* FROM soci AS s, pagamenti AS p WHERE p.importo < "
-                           "s.quota AND s.cognome LIKE 'r*'",
-                           "3", "SELECT id FROM pagamenti", "4"},
-                    Change{"DELETE s.* FROM soci s LEFT JOIN (pagamenti p INNER JOIN soci t ON "
-                           "p.socio = t.id) ON s.id = p.socio WHERE p.id IS NULL",
-                           "1", "SELECT id FROM soci", "1; 2"},
-                    Change{"DELETE t.* FROM soci s LEFT JOIN (pagamenti p INNER JOIN soci t ON "
-                           "p.socio = t.id) ON s.id = p.socio",
-                           "2", "SELECT id FROM soci", "3"}));
+    testing::Values(
+        Change{"DELETE  * FROM soci", "3", "SELECT Count(*) FROM soci", "0"},
+        Change{"DELETE soci.nome FROM soci WHERE id = 1", "1", "SELECT nome FROM soci", "bruno; Ezio"},
+        Change{"DELETE FROM soci WHERE nome = 'ANNA'", "1", "SELECT nome FROM soci", "bruno; Ezio"},
+        Change{"DELETE pagamenti.* FROM pagamenti LEFT JOIN soci ON "
+               "pagamenti.socio = soci.id WHERE soci.id Is Null",
+               "1", "SELECT id FROM pagamenti", "1; 2; 3"},
+        Change{"DELETE p.* FROM soci AS s, pagamenti AS p WHERE p.importo < "
+               "s.quota AND s.cognome LIKE 'r*'",
+               "3", "SELECT id FROM pagamenti", "4"},
+        Change{"DELETE s.* FROM soci s LEFT JOIN (pagamenti p INNER JOIN soci t ON "
+               "p.socio = t.id) ON s.id = p.socio WHERE p.id IS NULL",
+               "1", "SELECT id FROM soci", "1; 2"},
+        Change{"DELETE t.* FROM soci s LEFT JOIN (pagamenti p INNER JOIN soci t ON "
+               "p.socio = t.id) ON s.id = p.socio",
+               "2", "SELECT id FROM soci", "3"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Inserting, Changes,
@@ -231,6 +277,8 @@ INSTANTIATE_TEST_SUITE_P(
                "1|N|01/01/2005|2,5; 2|N|01/01/2006 18:00:00|2,5; 3|N|Null|2,5"},
         Change{"INSERT INTO rate (id) VALUES ((SELECT Max(id) FROM soci) + 1)", "1", "SELECT id FROM rate",
                "4"},
+        Change{"INSERT INTO rate (rate.id, rate![stato]) (SELECT id, 'S' FROM soci WHERE id = 1)", "1",
+               "SELECT id, stato FROM rate", "1|S"},
         Change{"INSERT INTO tipi VALUES (255, 0.1, '{00112233-4455-6677-8899-AABBCCDDEEFF}', Null, 'x')", "1",
                "SELECT uno, mezzo, nome FROM tipi WHERE chiave = '{00112233-4455-6677-8899-aabbccddeeff}'",
                "255|0,1|x"}));
@@ -305,6 +353,8 @@ TEST(RowKeys, StandBehindTheColumnsWhereRowsAreRowsOfTables) {
       {"SELECT s.nome, p.id FROM pagamenti p, tipi t RIGHT JOIN soci s ON s.id = t.uno WHERE p.id = s.id", 3,
        "Anna|1|1|Null|1; bruno|2|2|Null|2; Ezio|3|3|Null|3"},
       {"SELECT nome FROM soci WHERE id IN (SELECT socio FROM pagamenti)", 1, "Anna|1; bruno|2"},
+      {"SELECT DISTINCTROW nome FROM pagamenti p INNER JOIN soci s ON s.id = p.socio", 2,
+       "Anna|Null|1; bruno|Null|2"},
       {"SELECT DISTINCT cognome FROM soci", 0, "Bianchi; Rossi"},
       {"SELECT Count(*) FROM soci", 0, "3"},
       {"SELECT x FROM (SELECT nome AS x FROM soci) AS q", 0, "Anna; bruno; Ezio"},

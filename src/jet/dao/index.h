@@ -33,6 +33,9 @@ class Index : public std::enable_shared_from_this<Index> {
   void setRequired(bool required);
   bool IgnoreNulls() const { return design().ignoreNulls; }
   void setIgnoreNulls(bool ignore);
+  /// Kept for the suite's calls: the engine has no clustered indexes.
+  bool Clustered() const { return clustered_; }
+  void setClustered(bool clustered) { clustered_ = clustered; }
   /// True if a relation made it, on the side of the rows that point.
   bool Foreign() const;
   /// Different keys among the rows.
@@ -73,6 +76,7 @@ class Index : public std::enable_shared_from_this<Index> {
   std::shared_ptr<Session> session_;
   Design draft_;
   std::optional<Stored> stored_;
+  bool clustered_ = false;
 };
 using IndexPtr = std::shared_ptr<Index>;
 using IndexCollection = Collection<IndexPtr>;

@@ -178,8 +178,11 @@ void PositionedRecordset::setBookmark(const runtime::Bytes& bookmark) {
 }
 
 RecordSearch& PositionedRecordset::search() {
+  // A rollback may have taken its view away.
+  if (searchedDesign_ != session_->image().generation()) search_.reset();
   if (!search_) search_ = makeSearch();
   extendSearch(*search_);
+  searchedDesign_ = session_->image().generation();
   return *search_;
 }
 

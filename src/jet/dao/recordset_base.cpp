@@ -122,7 +122,8 @@ void RecordsetBase::recordDeleted() {
   throw runtime::Error(3167, Source, "Il record è stato eliminato");
 }
 
-void RecordsetBase::invalidOperation() {
+void RecordsetBase::invalidOperation() const {
+  requireOpen();
   throw runtime::Error(3219, Source, "Operazione non valida");
 }
 

@@ -82,7 +82,7 @@ class RecordsetBase : public Recordset,
   void requireOpen() const;
   [[noreturn]] static void noCurrentRecord();   // 3021
   [[noreturn]] static void recordDeleted();     // 3167
-  [[noreturn]] static void invalidOperation();  // 3219
+  [[noreturn]] void invalidOperation() const;   // 3219
   [[noreturn]] static void invalidBookmark();   // 3159
   [[noreturn]] void unsupported() const;        // 3251
   [[noreturn]] static void readOnlyRecordset();  // 3027

@@ -24,6 +24,12 @@ void SnapshotRecordset::Rows::count() {
   size = query.integer(0);
 }
 
+bool SnapshotRecordset::Rows::there() const {
+  auto query = session->image().connection().prepare("SELECT 1 FROM temp.sqlite_master WHERE name = ?1");
+  query.bind(1, std::string_view(table).substr(table.find('.') + 1));
+  return query.step();
+}
+
 SnapshotRecordset::SnapshotRecordset(std::shared_ptr<Session> session, Origin origin, sql::RowStatement plan,
                                      Answers answers)
     : PositionedRecordset(session, std::move(origin), resultFields(plan, session->runner())),
@@ -81,6 +87,9 @@ std::unique_ptr<RecordSearch> SnapshotRecordset::makeSearch() {
 void SnapshotRecordset::moved() {
   fetch_.reset();
   if (!onRecord()) return;
+  if (filledDesign_ != session_->image().generation() && !rows_->there())
+    throw runtime::Error(3420, "DAO.Recordset", "Oggetto non valido: Rollback ha tolto i record");
+  filledDesign_ = session_->image().generation();
   fetch_.bind(1, requireRecord() + 1);
   fetch_.step();
 }

@@ -32,6 +32,8 @@ class SnapshotRecordset : public PositionedRecordset {
     Rows(const Rows&) = delete;
     Rows& operator=(const Rows&) = delete;
     void count();
+    /// False once a rollback has taken the table away.
+    bool there() const;
     std::shared_ptr<Session> session;
     std::string table;
     std::int64_t size = 0;
@@ -52,6 +54,7 @@ class SnapshotRecordset : public PositionedRecordset {
   Answers answers_;
   std::shared_ptr<Rows> rows_;
   image::Statement fetch_;
+  std::uint64_t filledDesign_ = 0;  // Image::generation() when the rows were there
 };
 
 }  // namespace jet::dao

@@ -62,11 +62,14 @@ std::uint16_t Image::addColumn(std::uint32_t page, Column column) {
   if (column.autoNumber()) requireNoAutoNumber(design);
   image::addColumn(design, std::move(column));
   const Column added = design.columns.back();
+  const bool firstVariable = !added.fixed() && added.type != ColumnType::Boolean && added.slot == 0;
 
   Transaction whole(*this);
   dropScan(changed);
   dropTriggers(changed);
-  if (added.autoNumber()) load(changed);
+  // Rows without variable columns have no table of offsets, which readers expect from now on.
+  if (firstVariable) changed.rowsChanged = true;
+  if (added.autoNumber() || firstVariable) load(changed);
   if (changed.made)
     connection_.execute("ALTER TABLE " + tableName(page) + " ADD COLUMN " + columnName(added.number) + " " +
                         columnDeclaration(added.type));

@@ -1,31 +1,73 @@
-// Rules that rows of the image must keep once a table is changed: required fields and keys, auto-numbers.
+// Rules that rows of the image must keep once a table is changed: required fields and keys, empty texts,
+// auto-numbers.
 #include <algorithm>
 
 #include "jet/image/image.h"
+#include "jet/image/property_values.h"
 #include "jet/image/row_codec.h"
+#include "jet/image/triggers.h"
 
 namespace jet::image {
 
 namespace {
 
-std::string quoted(std::string_view text) {
-  std::string result = "'";
-  for (const char c : text) result += c == '\'' ? std::string("''") : std::string(1, c);
-  return result + "'";
+/// What a column must not hold. `broken` is a condition over NEW.
+struct Rule {
+  const file::Column* column;
+  std::string broken;
+  int number;
+  std::string description;
+};
+
+std::string newValue(const file::Column& column) {
+  return "NEW." + columnName(column.number);
 }
 
-/// Refuses a null in `column` with this error, in new rows (unless the engine fills them) and in changed
-/// ones.
-void refuseNull(const Connection& connection, const file::TableDefinition& table, const file::Column& column,
-                int number, const std::string& description) {
-  const std::string where = tableName(table.page), name = columnName(column.number);
-  const std::string body = " WHEN NEW." + name + " IS NULL BEGIN SELECT RAISE(ABORT, " +
-                           quoted(std::to_string(number) + "|" + description) + "); END";
-  const std::string trigger = "g" + where + name + "_" + std::to_string(number);
-  if (!column.autoNumber())
-    connection.execute("CREATE TRIGGER IF NOT EXISTS " + trigger + "i BEFORE INSERT ON " + where + body);
-  connection.execute("CREATE TRIGGER IF NOT EXISTS " + trigger + "u BEFORE UPDATE OF " + name + " ON " +
-                     where + body);
+void addIndexRules(const file::TableDefinition& design, std::vector<Rule>& rules) {
+  for (std::size_t i = 0; i < design.realIndexes.size(); ++i) {
+    if (!(design.realIndexes[i].flags & file::RealIndex::Required)) continue;
+    for (const auto& part : design.realIndexes[i].columns) {
+      const auto& column = design.columns[*design.findNumber(part.column)];
+      rules.push_back(
+          {&column, newValue(column) + " IS NULL", 3058,
+           "L'indice " + indexNameOf(design, i) + " non ammette un valore Null - campo " + column.name});
+    }
+  }
+}
+
+void addPropertyRules(const file::TableDefinition& design, const file::PropertyBlock& block,
+                      std::vector<Rule>& rules) {
+  for (const auto& column : design.columns) {
+    const std::string name = design.name + "." + column.name;
+    if (booleanProperty(block, column.name, "Required", false))
+      rules.push_back({&column, newValue(column) + " IS NULL", 3314, "Il campo " + name + " è richiesto"});
+    // Where nothing is said, empty texts are let in: rows that hold some must stay as they are.
+    if (file::isText(column.type) && !booleanProperty(block, column.name, "AllowZeroLength", true))
+      rules.push_back({&column, "length(" + newValue(column) + ") = 0", 3315,
+                       "Il campo " + name + " non ammette un testo vuoto"});
+  }
+}
+
+/// One trigger for new rows, whose auto-numbers the engine fills in.
+void guardInsert(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
+  std::string any, which;
+  for (const Rule& rule : rules) {
+    if (rule.column->autoNumber()) continue;
+    any += (any.empty() ? "" : " OR ") + rule.broken;
+    which += " WHEN " + rule.broken + " THEN " + raiseCall(rule.number, rule.description);
+  }
+  if (any.empty()) return;
+  connection.execute(
+      beforeTrigger("g" + std::to_string(page) + "i", "INSERT", page, any, "SELECT CASE" + which + " END"));
+}
+
+/// One trigger for each rule, so that a change that doesn't touch the column costs nothing.
+void guardUpdate(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
+  std::size_t number = 0;
+  for (const Rule& rule : rules)
+    connection.execute(afterTrigger("g" + std::to_string(page) + "u" + std::to_string(number++),
+                                    "UPDATE OF " + columnName(rule.column->number), page, rule.broken,
+                                    raise(rule.number, rule.description)));
 }
 
 /// Drops what belongs to t<page> of these types.
@@ -44,33 +86,26 @@ void dropMatching(const Connection& connection, std::uint32_t page, const std::s
 
 void Image::guard(Table& table) {
   const auto& design = definition(table);
-  for (std::size_t i = 0; i < design.realIndexes.size(); ++i) {
-    if (!(design.realIndexes[i].flags & file::RealIndex::Required)) continue;
-    for (const auto& part : design.realIndexes[i].columns) {
-      const auto& column = design.columns[*design.findNumber(part.column)];
-      refuseNull(connection_, design, column, 3058,
-                 "L'indice " + indexNameOf(design, i) + " non ammette un valore Null - campo " + column.name);
-    }
-  }
-  const bool systemTable = table.flags != 0;
-  if (!systemTable) {
-    const auto block = properties(table.page);
-    for (const auto& column : design.columns) {
-      const auto* required = block.find(column.name, "Required");
-      if (!required || required->data.empty() || required->data[0] == std::byte{0}) continue;
-      refuseNull(connection_, design, column, 3314,
-                 "Il campo " + design.name + "." + column.name + " è richiesto");
-    }
-  }
-  for (const auto& column : design.columns) {
-    if (!column.autoNumber()) continue;
-    const std::string name = columnName(column.number), where = tableName(table.page);
-    state_.autoNumbers.emplace(table.page, design.autoNumber);
-    connection_.execute("CREATE TRIGGER IF NOT EXISTS a" + where + name + " AFTER INSERT ON " + where +
-                        " BEGIN UPDATE " + where + " SET " + name + " = jet_auto_number(" +
-                        std::to_string(table.page) + ", NEW." + name + ") WHERE rowid = NEW.rowid; END");
-  }
+  std::vector<Rule> rules;
+  addIndexRules(design, rules);
+  if (table.flags == 0) addPropertyRules(design, properties(table.page), rules);
+  guardInsert(connection_, table.page, rules);
+  guardUpdate(connection_, table.page, rules);
+  for (const auto& column : design.columns)
+    if (column.autoNumber()) guardAutoNumber(table, column);
+  guardRelations(table);
   table.guarded = true;
+}
+
+void Image::guardAutoNumber(Table& table, const file::Column& column) {
+  const std::string page = std::to_string(table.page), name = columnName(column.number);
+  const std::string number = "jet_auto_number(" + page + ", NEW." + name + ")";
+  state_.autoNumbers.emplace(table.page, definition(table).autoNumber);
+  connection_.execute(afterTrigger(
+      "a" + page + name, "INSERT", table.page, "NEW." + name + " IS NULL",
+      "UPDATE " + tableName(table.page) + " SET " + name + " = " + number + " WHERE rowid = NEW.rowid"));
+  connection_.execute(afterTrigger("a" + page + name + "given", "INSERT", table.page,
+                                   "NEW." + name + " IS NOT NULL", "SELECT " + number));
 }
 
 void Image::dropTriggers(Table& table) {

@@ -62,6 +62,8 @@ Image::Image(std::unique_ptr<file::PageFile> source) : source_(std::move(source)
   indexNames();
   sqlite3_create_function_v2(connection_.handle(), "jet_auto_number", 2, SQLITE_UTF8, this,
                              &Image::autoNumber, nullptr, nullptr, nullptr);
+  sqlite3_create_function_v2(connection_.handle(), "jet_cascaded", 1, SQLITE_UTF8, this, &Image::cascaded,
+                             nullptr, nullptr, nullptr);
   registerFileScan(*this);
 }
 
@@ -153,9 +155,13 @@ void Image::load(Table& table) {
 }
 
 void Image::loadFrom(const file::PageFile& pages, const file::TableDefinition& design, const Table& table) {
-  std::string sql = "INSERT INTO main." + tableName(table.page) + " VALUES (?";
-  for (std::size_t i = 1; i < design.columns.size(); ++i) sql += ",?";
-  auto insert = connection_.prepare(sql + ")");
+  std::string columns, values;
+  for (const auto& column : design.columns) {
+    columns += (columns.empty() ? "" : ",") + columnName(column.number);
+    values += values.empty() ? "?" : ",?";
+  }
+  auto insert = connection_.prepare("INSERT INTO main." + tableName(table.page) + "(" + columns +
+                                    ") VALUES (" + values + ")");
   FieldBinder binder(pages, design);
   file::TableReader reader(pages, design);
   for (file::Row row; reader.next(row);) {
@@ -214,18 +220,28 @@ void Image::prepareToScan(std::uint32_t page) {
 }
 
 void Image::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared,
-                            const RowChange&) {
+                            const RowChange& change) {
   requireWritable();
   auto& wanted = table(page);
   if (wanted.link)
     throw runtime::Error(3027, Source, "Impossibile aggiornare una tabella collegata: " + wanted.name);
+  cascaded_.clear();
+  std::vector<Readied> done;
+  readyChange(wanted, compared, change, done);
+}
+
+void Image::readyChange(Table& wanted, const std::vector<std::uint16_t>& compared, const RowChange& change,
+                        std::vector<Readied>& done) {
   load(wanted);
   makeIndexes(*wanted.definition, compared, true);
   if (!wanted.guarded) guard(wanted);
+  readyPartners(wanted, change, done);
 }
 
 void Image::markChanged(std::uint32_t page) {
   table(page).rowsChanged = true;
+  for (const auto other : cascaded_) table(other).rowsChanged = true;
+  cascaded_.clear();
 }
 
 void Image::begin() {

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -43,7 +44,7 @@ struct Table {
 struct RowChange {
   enum class Kind { Any, Insert, Update, Delete };
   Kind kind = Kind::Any;
-  std::vector<std::uint16_t> assigned;  // Update: Column::number of the columns that get values
+  std::vector<std::uint16_t> assigned;  // Update: Column::number of the columns that get values; none: any
 };
 
 /// A table that lies in another file, as the catalogue tells of it.
@@ -196,6 +197,8 @@ class Image {
   };
 
   static void autoNumber(sqlite3_context* context, int count, sqlite3_value** values);
+  /// Called where a cascade changes rows of another table.
+  static void cascaded(sqlite3_context* context, int count, sqlite3_value** values);
 
   Table& table(std::uint32_t page);
   Table& tableNamed(std::string_view name, int errorNumber);
@@ -216,7 +219,28 @@ class Image {
   void dropScan(Table& table);
   void makeIndexes(const file::TableDefinition& definition, const std::vector<std::uint16_t>& compared,
                    bool changing);
+  /// Makes t<page> and the rows that relations of it need ready for a change. What was readied for the same
+  /// statement already is in `done`.
+  struct Readied {
+    std::uint32_t page;
+    RowChange::Kind kind;
+    std::vector<std::uint16_t> assigned;
+    bool operator==(const Readied&) const = default;
+  };
+  void readyChange(Table& table, const std::vector<std::uint16_t>& compared, const RowChange& change,
+                   std::vector<Readied>& done);
+  void readyPartners(Table& table, const RowChange& change, std::vector<Readied>& done);
+
+  /// Sets up the triggers of a table.
   void guard(Table& table);
+  void guardAutoNumber(Table& table, const file::Column& column);
+  struct Bond;
+  std::vector<Bond> bonds(Table& table, file::LogicalIndex::Side side);
+  /// Condition under which a row of the other table is the partner of row `changed`, NEW or OLD.
+  std::string partners(const Bond& bond, const std::string& changed, bool changedIsChild);
+  void guardRelations(Table& table);
+  void guardAsChild(const Bond& bond, std::size_t number);
+  void guardAsParent(const Bond& bond, std::size_t number);
   /// Takes the triggers (and the indexes) of a table out of the image; they are made anew when needed.
   void dropTriggers(Table& table);
   void dropRules(Table& table);
@@ -244,6 +268,7 @@ class Image {
   std::vector<State> saved_;  // one for each open transaction
   std::uint64_t generation_ = 0;
   std::unique_ptr<file::FreePages> freePages_;
+  std::set<std::uint32_t> cascaded_;  // tables that cascades changed since the last prepareToChange
 };
 
 /// A piece of work that is taken back unless kept.
