@@ -22,11 +22,10 @@ constexpr std::string_view months[] = {"gennaio", "febbraio", "marzo",     "apri
 constexpr std::string_view weekdays[] = {"domenica", "lunedì",  "martedì", "mercoledì",
                                          "giovedì",  "venerdì", "sabato"};
 
-std::string padded(int value, int width) {
-  std::string digits = std::to_string(value);
-  if (digits.size() < static_cast<std::size_t>(width))
-    digits.insert(0, static_cast<std::size_t>(width) - digits.size(), '0');
-  return digits;
+void appendPadded(int value, std::size_t width, std::string& out) {
+  const std::string digits = std::to_string(value);
+  if (digits.size() < width) out.append(width - digits.size(), '0');
+  out += digits;
 }
 
 }  // namespace
@@ -37,7 +36,7 @@ Date dateFromParts(int year, int month, int day, int hour, int minute, int secon
   const bool timeIsGood = hour >= 0 && hour < 24 && minute >= 0 && minute < 60 && second >= 0 && second < 60;
   if (year < 100 || year > 9999 || month < 1 || day < 1 || !civil.ok() || !timeIsGood)
     throw languageError(InvalidCall);
-  const auto days = static_cast<double>((calendar::sys_days{civil} - dayZero).count());
+  const double days = dayNumber(year, month, day);
   const double fraction = static_cast<double>((hour * 60 + minute) * 60 + second) / secondsOfDay;
   return Date{days < 0 ? days - fraction : days + fraction};
 }
@@ -46,31 +45,46 @@ bool isInCalendar(Date date) {
   return date.days > firstDay - 1 && date.days < lastDay + 1;
 }
 
-DateParts partsOf(Date date) {
+Moment momentOf(Date date) {
   if (!isInCalendar(date)) throw languageError(Overflow);
   double whole = 0;
   const double fraction = std::abs(std::modf(date.days, &whole));
-  int seconds = static_cast<int>(std::lround(fraction * secondsOfDay));
-  int day = static_cast<int>(whole);
-  if (seconds == secondsOfDay) {  // nearest second of the next day; there is none after the last
-    if (day == static_cast<int>(lastDay)) {
-      --seconds;
+  Moment moment{static_cast<int>(whole), static_cast<int>(std::lround(fraction * secondsOfDay))};
+  if (moment.second == secondsOfDay) {  // nearest second of the next day; there is none after the last
+    if (moment.day == static_cast<int>(lastDay)) {
+      --moment.second;
     } else {
-      seconds = 0;
-      ++day;
+      moment = {moment.day + 1, 0};
     }
   }
-  const calendar::sys_days moment = dayZero + calendar::days{day};
-  const calendar::year_month_day civil{moment};
+  return moment;
+}
+
+DateParts partsOf(Date date) {
+  const Moment moment = momentOf(date);
+  const calendar::sys_days day = dayZero + calendar::days{moment.day};
+  const calendar::year_month_day civil{day};
   DateParts parts;
   parts.year = static_cast<int>(civil.year());
   parts.month = static_cast<int>(static_cast<unsigned>(civil.month()));
   parts.day = static_cast<int>(static_cast<unsigned>(civil.day()));
-  parts.hour = seconds / 3600;
-  parts.minute = seconds / 60 % 60;
-  parts.second = seconds % 60;
-  parts.weekday = static_cast<int>(calendar::weekday{moment}.c_encoding()) + 1;
+  parts.hour = moment.second / 3600;
+  parts.minute = moment.second / 60 % 60;
+  parts.second = moment.second % 60;
+  parts.weekday = static_cast<int>(calendar::weekday{day}.c_encoding()) + 1;
   return parts;
+}
+
+int dayNumber(int year, int month, int day) {
+  const calendar::year_month_day civil{calendar::year{year}, calendar::month{static_cast<unsigned>(month)},
+                                       calendar::day{static_cast<unsigned>(day)}};
+  return static_cast<int>((calendar::sys_days{civil} - dayZero).count());
+}
+
+int daysOfMonth(int year, int month) {
+  const calendar::year_month_day_last last{
+      calendar::year{year}, calendar::month_day_last{calendar::month{static_cast<unsigned>(month)}}};
+  return static_cast<int>(static_cast<unsigned>(last.day()));
 }
 
 std::string dateText(Date date) {
@@ -78,18 +92,29 @@ std::string dateText(Date date) {
   const bool hasTime = parts.hour != 0 || parts.minute != 0 || parts.second != 0;
   const bool isDayZero = parts.year == 1899 && parts.month == 12 && parts.day == 30;
   std::string text;
-  if (!isDayZero) text = padded(parts.day, 2) + "/" + padded(parts.month, 2) + "/" + padded(parts.year, 4);
+  const auto append = [&](int value, std::size_t width, char behind) {
+    appendPadded(value, width, text);
+    if (behind != 0) text += behind;
+  };
+  if (!isDayZero) {
+    append(parts.day, 2, '/');
+    append(parts.month, 2, '/');
+    append(parts.year, 4, hasTime ? ' ' : 0);
+  }
   if (hasTime || isDayZero) {
-    if (!text.empty()) text += " ";
-    text += padded(parts.hour, 2) + ":" + padded(parts.minute, 2) + ":" + padded(parts.second, 2);
+    append(parts.hour, 2, ':');
+    append(parts.minute, 2, ':');
+    append(parts.second, 2, 0);
   }
   return text;
 }
 
 std::string_view monthName(int month) {
+  if (month < 1 || month > 12) throw languageError(InvalidCall);
   return months[month - 1];
 }
 std::string_view weekdayName(int weekday) {
+  if (weekday < 1 || weekday > 7) throw languageError(InvalidCall);
   return weekdays[weekday - 1];
 }
 std::string_view shortMonthName(int month) {

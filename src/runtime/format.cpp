@@ -1,158 +1,103 @@
 #include "runtime/format.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "runtime/date.h"
-#include "runtime/error.h"
+#include "runtime/format_pattern.h"
+#include "runtime/italian.h"
+#include "runtime/numbers.h"
 
 namespace runtime {
 
 namespace {
 
-/// A piece of a pattern: a code ("yyyy", in lower case) or text that stands as it is.
-struct Piece {
-  bool code;
-  std::string text;
+using pattern::Kind;
+
+struct Named {
+  std::string_view name;  // in small letters
+  Kind kind;
+  std::string_view pattern;
 };
 
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-
-bool startsWith(std::string_view text, std::string_view lowerCase) {
-  if (text.size() < lowerCase.size()) return false;
-  for (std::size_t i = 0; i < lowerCase.size(); ++i)
-    if (lower(text[i]) != lowerCase[i]) return false;
-  return true;
-}
-
-/// Length of the literal at the front of `rest` in the pattern, with its marks; `text` gets what it stands
-/// for.
-std::size_t literal(std::string_view rest, std::string& text) {
-  if (rest[0] == '\\' && rest.size() > 1) {
-    text = rest[1];
-    return 2;
-  }
-  if (rest[0] == '"') {
-    const std::size_t close = std::min(rest.find('"', 1), rest.size());
-    text = rest.substr(1, close - 1);
-    return std::min(close + 1, rest.size());
-  }
-  text = rest[0];
-  return 1;
-}
-
-std::vector<Piece> split(std::string_view pattern) {
-  constexpr std::string_view repeated = "dmyhnsqwct";
-  constexpr std::string_view ofNumbersAndTexts = "0#@&<>!;";
-  std::vector<Piece> pieces;
-  for (std::size_t at = 0; at < pattern.size();) {
-    const std::string_view rest = pattern.substr(at);
-    const char c = lower(rest[0]);
-    Piece piece{true, {}};
-    std::size_t length = 0;
-    if (startsWith(rest, "am/pm")) {
-      length = 5;
-      piece.text = rest.substr(0, length);
-    } else if (startsWith(rest, "a/p")) {
-      length = 3;
-      piece.text = rest.substr(0, length);
-    } else if (repeated.find(c) != std::string_view::npos) {
-      while (length < rest.size() && lower(rest[length]) == c) ++length;
-      piece.text = std::string(length, c);
-    } else {
-      if (ofNumbersAndTexts.find(c) != std::string_view::npos) throw languageError(InvalidCall);
-      piece.code = false;
-      length = literal(rest, piece.text);
-    }
-    at += length;
-    pieces.push_back(std::move(piece));
-  }
-  return pieces;
-}
-
-std::string twoDigits(int value) {
-  return (value < 10 ? "0" : "") + std::to_string(value);
-}
-
-struct Code {
-  std::string_view text;
-  std::string (*write)(const DateParts&);
+constexpr Named named[] = {
+    {"general date", Kind::Date, italian::generalDate},
+    {"long date", Kind::Date, italian::longDate},
+    {"medium date", Kind::Date, italian::mediumDate},
+    {"short date", Kind::Date, italian::shortDate},
+    {"long time", Kind::Date, italian::longTime},
+    {"medium time", Kind::Date, italian::mediumTime},
+    {"short time", Kind::Date, italian::shortTime},
+    {"general number", Kind::Number, ""},
+    {"currency", Kind::Number, italian::currency},
+    {"fixed", Kind::Number, "0.00"},
+    {"standard", Kind::Number, "#,##0.00"},
+    {"percent", Kind::Number, "0.00%"},
+    {"scientific", Kind::Number, "0.00E+00"},
+    {"yes/no", Kind::Number, "\"Sì\";\"Sì\";\"No\""},
+    {"true/false", Kind::Number, "\"Vero\";\"Vero\";\"Falso\""},
+    {"on/off", Kind::Number, "\"Attivato\";\"Attivato\";\"Disattivato\""},
 };
 
-constexpr Code codes[] = {
-    {"d", [](const DateParts& p) { return std::to_string(p.day); }},
-    {"dd", [](const DateParts& p) { return twoDigits(p.day); }},
-    {"ddd", [](const DateParts& p) { return std::string(shortWeekdayName(p.weekday)); }},
-    {"dddd", [](const DateParts& p) { return std::string(weekdayName(p.weekday)); }},
-    {"m", [](const DateParts& p) { return std::to_string(p.month); }},
-    {"mm", [](const DateParts& p) { return twoDigits(p.month); }},
-    {"mmm", [](const DateParts& p) { return std::string(shortMonthName(p.month)); }},
-    {"mmmm", [](const DateParts& p) { return std::string(monthName(p.month)); }},
-    {"yy", [](const DateParts& p) { return twoDigits(p.year % 100); }},
-    {"yyyy", [](const DateParts& p) { return (p.year < 1000 ? "0" : "") + std::to_string(p.year); }},
-    {"h", [](const DateParts& p) { return std::to_string(p.hour); }},
-    {"hh", [](const DateParts& p) { return twoDigits(p.hour); }},
-    {"n", [](const DateParts& p) { return std::to_string(p.minute); }},
-    {"nn", [](const DateParts& p) { return twoDigits(p.minute); }},
-    {"s", [](const DateParts& p) { return std::to_string(p.second); }},
-    {"ss", [](const DateParts& p) { return twoDigits(p.second); }},
-};
-
-bool isHalfOfDay(const Piece& piece) {
-  return piece.code && lower(piece.text[0]) == 'a';
+Named kindAndPattern(std::string_view text) {
+  constexpr std::size_t longestName = 14;
+  if (text.size() <= longestName) {
+    for (const Named& format : named)
+      if (text.size() == format.name.size() && pattern::startsWith(text, format.name)) return format;
+  }
+  return {{}, pattern::kindOf(text), text};
 }
 
-/// "AM/PM", "am/pm", "A/P", "a/p": the half of the day, in the case in which the pattern has it.
-std::string halfOfDay(const std::string& code, bool afternoon) {
-  const std::size_t slash = code.find('/');
-  return afternoon ? code.substr(slash + 1) : code.substr(0, slash);
+/// What Null and empty texts have a section for.
+std::string formatNothing(const Named& format) {
+  constexpr std::size_t ofNumbers = 3, ofTexts = 1;
+  const pattern::Sections sections = pattern::sectionsOf(format.pattern);
+  const std::size_t own = format.kind == Kind::Number ? ofNumbers : ofTexts;
+  const bool hasOwn = sections.count > own && (format.kind == Kind::Number || format.kind == Kind::Text);
+  return hasOwn ? pattern::formatText("", sections.text[own]) : std::string();
 }
 
-std::string write(const std::string& code, const DateParts& parts) {
-  for (const Code& known : codes)
-    if (known.text == code) return known.write(parts);
-  throw languageError(InvalidCall);
+std::string literals(std::string_view rest) {
+  std::string result;
+  while (!rest.empty()) rest.remove_prefix(pattern::takeLiteral(rest, result));
+  return result;
+}
+
+std::string formatAsNumber(const Variant& value, std::string_view text) {
+  if (!value.isText())
+    return text.empty() ? Variant(value.toDouble()).toText() : pattern::formatNumber(value, text);
+  const auto& written = std::get<std::string>(value.value());
+  const std::optional<std::string> plain = plainNumber(written);
+  if (!plain) return written;
+  const Variant number = plainToDouble(*plain);
+  return text.empty() ? number.toText() : pattern::formatNumber(number, text);
 }
 
 }  // namespace
 
-std::string format(const Variant& value, std::string_view pattern) {
-  if (value.isNull() || value.isEmpty()) return "";
-  if (pattern.empty()) return value.toText();
-  Date date;
-  if (value.isText()) {
-    const std::optional<Date> read = dateFromText(std::get<std::string>(value.value()));
-    if (!read) return value.toText();
-    date = *read;
-  } else {
-    date = value.toDate();
-  }
-
-  std::vector<Piece> pieces = split(pattern);
-  DateParts parts = partsOf(date);
-  const bool afternoon = parts.hour >= 12;
-  for (const Piece& piece : pieces)
-    if (isHalfOfDay(piece)) parts.hour = (parts.hour + 11) % 12 + 1;
-
-  std::string result;
-  char previous = 0;
-  for (Piece& piece : pieces) {
-    if (!piece.code) {
-      result += piece.text;
-      continue;
+std::string format(const Variant& value, std::string_view text, int firstDayOfWeek, int firstWeekOfYear) {
+  const bool nothing = value.isNull() || value.isEmpty();
+  if (text.empty()) return nothing ? std::string() : value.toText();
+  const Named chosen = kindAndPattern(text);
+  if (nothing) return formatNothing(chosen);
+  switch (chosen.kind) {
+    case Kind::Date: {
+      if (!value.isText())
+        return pattern::formatDate(value.toDate(), chosen.pattern, firstDayOfWeek, firstWeekOfYear);
+      const auto& written = std::get<std::string>(value.value());
+      const std::optional<Date> date = dateFromText(written);
+      return date ? pattern::formatDate(*date, chosen.pattern, firstDayOfWeek, firstWeekOfYear) : written;
     }
-    if (isHalfOfDay(piece)) {
-      result += halfOfDay(piece.text, afternoon);
-      continue;
+    case Kind::Number:
+      return formatAsNumber(value, chosen.pattern);
+    case Kind::Text: {
+      const std::string shown = value.toText();
+      if (shown.empty() && pattern::sectionsOf(chosen.pattern).count > 1) return formatNothing(chosen);
+      return pattern::formatText(shown, pattern::sectionsOf(chosen.pattern).text[0]);
     }
-    if (previous == 'h' && (piece.text == "m" || piece.text == "mm"))
-      piece.text.replace(0, piece.text.size(), piece.text.size(), 'n');
-    previous = piece.text[0];
-    result += write(piece.text, parts);
+    case Kind::Literal:
+      break;
   }
-  return result;
+  return literals(chosen.pattern);
 }
 
 }  // namespace runtime

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "runtime/error.h"
+#include "runtime/italian.h"
 
 namespace runtime {
 
@@ -75,6 +76,19 @@ long magnitude(std::string_view plain) {
   return exponent + (first < point ? point - first - 1 : point - first);
 }
 
+std::string inRadix(std::uint32_t bits, int radix) {
+  char buffer[16];
+  char* end = std::to_chars(buffer, buffer + sizeof buffer, bits, radix).ptr;
+  for (char* c = buffer; c != end; ++c)
+    if (*c >= 'a') *c = static_cast<char>(*c - 'a' + 'A');
+  return {buffer, end};
+}
+
+void checkDecimals(std::int64_t decimals) {
+  constexpr std::int64_t mostDecimals = 22;
+  if (decimals < 0 || decimals > mostDecimals) throw languageError(InvalidCall);
+}
+
 /// Sign and unsigned rest of a localized number: leading or closing sign, parentheses, euro sign, blanks.
 /// Nothing if they contradict each other.
 struct Stripped {
@@ -83,7 +97,7 @@ struct Stripped {
 };
 
 std::optional<Stripped> stripMarks(std::string_view text) {
-  constexpr std::string_view euro = "€";
+  constexpr std::string_view euro = italian::euro;
   Stripped result;
   int signs = 0, euros = 0;
   bool open = false;
@@ -200,9 +214,9 @@ std::optional<std::string> plainNumber(std::string_view text) {
   std::string plain;
   bool whole = true;
   for (const char c : stripped->digits) {
-    if (c == '.' && whole && !plain.empty()) continue;  // thousands
+    if (c == italian::thousandsSign && whole && !plain.empty()) continue;
     whole = whole && isDigit(c);
-    plain += c == ',' ? '.' : c == '.' ? '?' : lower(c) == 'd' ? 'e' : lower(c);
+    plain += c == italian::decimalSign ? '.' : c == '.' ? '?' : lower(c) == 'd' ? 'e' : lower(c);
   }
   if (plain.empty() || numberLength(plain) != plain.size()) return std::nullopt;
   return sign + plain;
@@ -249,6 +263,37 @@ std::int64_t roundHalfEven(double value) {
   const double rounded = std::nearbyint(value);
   if (!(rounded >= -limit && rounded < limit)) throw languageError(Overflow);
   return static_cast<std::int64_t>(rounded);
+}
+
+double roundTo(double value, std::int64_t decimals) {
+  checkDecimals(decimals);
+  const double factor = std::pow(10.0, static_cast<double>(decimals)), scaled = value * factor;
+  return std::isfinite(scaled) ? std::nearbyint(scaled) / factor : value;
+}
+
+std::int64_t roundTo(std::int64_t amount, int places, std::int64_t decimals) {
+  checkDecimals(decimals);
+  std::int64_t unit = 1;
+  for (std::int64_t place = decimals; place < places; ++place) unit *= 10;
+  const std::int64_t rest = amount % unit, twice = 2 * std::abs(rest);
+  std::int64_t units = amount / unit;
+  if (twice > unit || (twice == unit && units % 2 != 0)) units += amount < 0 ? -1 : 1;
+  std::int64_t result = 0;
+  if (__builtin_mul_overflow(units, unit, &result)) throw languageError(Overflow);
+  return result;
+}
+
+std::string hex(std::int32_t value) {
+  return inRadix(static_cast<std::uint32_t>(value), 16);
+}
+std::string hex(std::int16_t value) {
+  return inRadix(static_cast<std::uint16_t>(value), 16);
+}
+std::string oct(std::int32_t value) {
+  return inRadix(static_cast<std::uint32_t>(value), 8);
+}
+std::string oct(std::int16_t value) {
+  return inRadix(static_cast<std::uint16_t>(value), 8);
 }
 
 }  // namespace runtime

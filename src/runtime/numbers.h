@@ -35,5 +35,15 @@ std::int64_t plainToInteger(const std::string& plain, int decimals);
 
 /// Rounds halves to even. Error 6 outside 64 bits.
 std::int64_t roundHalfEven(double value);
+/// The language's Round: to `decimals` places, halves to even. Error 5 for decimals outside 0 to 22.
+double roundTo(double value, std::int64_t decimals);
+/// `amount` units of 10^-places, rounded to `decimals` places in the same way, exactly.
+std::int64_t roundTo(std::int64_t amount, int places, std::int64_t decimals);
+
+/// Hexadecimal and octal digits; a negative number as its two's complement of 16 or 32 bits.
+std::string hex(std::int32_t value);
+std::string hex(std::int16_t value);
+std::string oct(std::int32_t value);
+std::string oct(std::int16_t value);
 
 }  // namespace runtime

@@ -2,7 +2,8 @@
 
 namespace runtime {
 
-/// Several lambdas as one function object, each for its own alternative: std::visit(Overloaded{...}, variant).
+/// Several lambdas as one function object, each for its own alternative: std::visit(Overloaded{...},
+/// variant).
 template <typename... Cases>
 struct Overloaded : Cases... {
   using Cases::operator()...;

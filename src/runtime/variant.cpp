@@ -5,6 +5,7 @@
 
 #include "runtime/date.h"
 #include "runtime/error.h"
+#include "runtime/italian.h"
 #include "runtime/numbers.h"
 #include "runtime/overloaded.h"
 
@@ -148,23 +149,24 @@ Date Variant::toDate() const {
 }
 
 std::string Variant::toText() const {
-  return std::visit(
-      Overloaded{
-          [](Empty) { return std::string(); },
-          [](Null) -> std::string { throw languageError(InvalidUseOfNull); },
-          [](bool truth) { return std::string(truth ? "Vero" : "Falso"); },
-          [](std::uint8_t number) { return std::to_string(number); },
-          [](std::int16_t number) { return std::to_string(number); },
-          [](std::int32_t number) { return std::to_string(number); },
-          [](float number) { return numberText(static_cast<double>(number), singleDigits, ','); },
-          [](double number) { return numberText(number, doubleDigits, ','); },
-          [](Currency money) { return currencyText(money, ','); },
-          [](Date date) { return dateText(date); },
-          [](const Decimal& number) { return decimalText(number, ','); },
-          [](const std::string& text) { return text; },
-          [](const Bytes&) -> std::string { throw languageError(TypeMismatch); },
-      },
-      value_);
+  return std::visit(Overloaded{
+                        [](Empty) { return std::string(); },
+                        [](Null) -> std::string { throw languageError(InvalidUseOfNull); },
+                        [](bool truth) { return std::string(truth ? "Vero" : "Falso"); },
+                        [](std::uint8_t number) { return std::to_string(number); },
+                        [](std::int16_t number) { return std::to_string(number); },
+                        [](std::int32_t number) { return std::to_string(number); },
+                        [](float number) {
+                          return numberText(static_cast<double>(number), singleDigits, italian::decimalSign);
+                        },
+                        [](double number) { return numberText(number, doubleDigits, italian::decimalSign); },
+                        [](Currency money) { return currencyText(money, italian::decimalSign); },
+                        [](Date date) { return dateText(date); },
+                        [](const Decimal& number) { return decimalText(number, italian::decimalSign); },
+                        [](const std::string& text) { return text; },
+                        [](const Bytes&) -> std::string { throw languageError(TypeMismatch); },
+                    },
+                    value_);
 }
 
 }  // namespace runtime

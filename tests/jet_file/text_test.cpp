@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/error.h"
+#include "runtime/letters.h"
 
 namespace jet::file {
 namespace {
@@ -85,7 +86,7 @@ TEST(Text, EveryCharacterSurvivesTheWayThroughTheFile) {
        character = character < 0x3000 ? character + 1 : character + 977) {
     if ((character >= 0xD800 && character < 0xE000) || character == 0xFEFF) continue;
     std::string utf8;
-    appendUtf8(character, utf8);
+    runtime::appendUtf8(character, utf8);
     utf8 += "xyz";
     for (const bool compress : {false, true}) {
       std::vector<std::byte> stored;

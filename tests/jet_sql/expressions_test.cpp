@@ -1,29 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "cases.h"
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/tree/print.h"
-#include "small_image.h"
 
 namespace jet::sql::test {
 namespace {
-
-struct Case {
-  const char* expression;
-  const char* value;
-};
-
-/// Each expression is the only column of a SELECT without FROM.
-void expectValues(std::initializer_list<Case> cases) {
-  SmallImage image;
-  for (const Case& row : cases) {
-    EXPECT_EQ(image.rows("SELECT " + std::string(row.expression)), row.value) << row.expression;
-  }
-}
-
-std::string typeOfExpression(const SmallImage& image, const std::string& expression) {
-  return typeName(
-      image.compileRows("SELECT " + expression + " FROM soci, pagamenti, tipi").columns.front().type);
-}
 
 TEST(Expressions, FollowThePrecedenceOfTheLanguage) {
   expectValues({
@@ -142,35 +124,6 @@ TEST(Expressions, MatchPatternsWithoutRegardToCase) {
       {"1234 LIKE '12*'", "Vero"},
       {"'a' LIKE '[a'", "error 93"},
       {"'aaaaaaaaaaaaaaaaaaaaaaaaaaaaab' LIKE '*a*a*a*a*a*a*a*a*a*a*c'", "Falso"},
-  });
-}
-
-TEST(Functions, GiveWhatTheirNamesSay) {
-  expectValues({
-      {"Left('perché', 5) & '|' & Right('perché', 2) & '|' & Mid('perché', 2, 3) & '|' & Mid('abc', 9)",
-       "perch|hé|erc|"},
-      {"Len('perché')", "6"},
-      {"Len(12345)", "5"},
-      {"UCase('perché') & LCase('ÀB')", "PERCHÉàb"},
-      {"'[' & Trim('  a b ') & ']' & LTrim(' c') & RTrim('d ')", "[a b]cd"},
-      {"InStr('abcABC', 'C')", "3"},
-      {"InStr(4, 'abcABC', 'b')", "5"},
-      {"InStr('abc', 'z')", "0"},
-      {"Val('12,5abc') + Val(' 3.5')", "15,5"},
-      {"CStr(1.5) & CStr(True) & CStr(#12/31/1999#)", "1,5-131/12/1999"},
-      {"CDate('16/11/2026') + 0.5", "16/11/2026 12:00:00"},
-      {"#3/1/2000# - #2/28/2000#", "2"},
-      {"Year(#2001-05-07 10:20:30#) & '-' & Month(#5/7/2001#) & '-' & Day(#5/7/2001#)", "2001-5-7"},
-      {"Format(#2001-05-07#, 'dd/mm/yyyy')", "07/05/2001"},
-      {"DateSerial(2008, 14, 0)", "31/01/2009"},
-      {"CBool(2) & CBool('0')", "-10"},
-      {"IIf(1 > 2, 'a', IIf(True, 3, 'c'))", "3"},
-      {"Sgn(-2.5) & Space(2) & Chr(224) & Asc('à')", "-1  à224"},
-      {"IsNumeric('1.234,5') AND NOT IsNumeric('x') AND IsDate('1/2/2003') AND NOT IsDate(5)", "Vero"},
-      {"Left('a', -1)", "error 5"},
-      {"Mid('a', 0)", "error 5"},
-      {"Left$('abc', 1)", "a"},
-      {"Date() <= Now() AND Now() - Date() < 1", "Vero"},
   });
 }
 

@@ -4,7 +4,6 @@
 
 #include "runtime/date.h"
 #include "runtime/error.h"
-#include "runtime/format.h"
 
 namespace runtime {
 namespace {
@@ -73,33 +72,6 @@ TEST(Date, TextsThatAreDates) {
     const std::optional<Date> date = dateFromText(test.text);
     EXPECT_EQ(date ? dateText(*date) : "", test.expected) << test.text;
   }
-}
-
-TEST(Format, DatePatterns) {
-  const Date date = dateFromParts(2026, 3, 4, 17, 6, 9);  // a Wednesday
-  const Date morning = dateFromParts(2026, 3, 4, 0, 6, 9);
-  const struct {
-    Variant value;
-    const char* pattern;
-    const char* expected;
-    // clang-format off
-  } cases[] = {
-      {date, "yyyymmddhhnnss", "20260304170609"}, {date, "yymmddhhnnss ", "260304170609 "},
-      {date, "YYYYMMDDHHNN", "202603041706"}, {date, "dd/mm/yyyy", "04/03/2026"},
-      {date, "mm/dd/yyyy", "03/04/2026"}, {date, "d/m/yy h:n:s", "4/3/26 17:6:9"},
-      {date, "hh:mm:ss", "17:06:09"}, {date, "h:m mm", "17:6 03"},
-      {date, "dd/mm/yy hh:mm", "04/03/26 17:06"}, {date, "ddd dddd mmm mmmm", "mer mercoledì mar marzo"},
-      {date, "hmmm", "17mar"}, {date, "h:nn AM/PM", "5:06 PM"}, {date, "hh a/p", "05 p"},
-      {morning, "h am/pm", "12 am"}, {date, "\"dd\" dd \\d", "dd 04 d"},
-      {date, "yyyymmdd_hhnnss", "20260304_170609"}, {date, "\"dd", "dd"}, {date, "", "04/03/2026 17:06:09"},
-      {Null{}, "dd/mm/yyyy", ""}, {Variant(), "dd", ""}, {"4/3/2026", "yyyy-mm-dd", "2026-03-04"},
-      {"domani", "dd/mm/yyyy", "domani"}, {46085.0, "d/m/yyyy", "4/3/2026"},
-      {dateFromParts(150, 1, 2), "yyyy yy", "0150 50"},
-  };
-  // clang-format on
-  for (const auto& test : cases) EXPECT_EQ(format(test.value, test.pattern), test.expected) << test.pattern;
-  for (const char* unknown : {"yyy", "ddddd", "#,##0", "0", "ww", "q", ">"})
-    EXPECT_THROW(format(date, unknown), Error) << unknown;
 }
 
 }  // namespace

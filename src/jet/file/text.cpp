@@ -5,12 +5,14 @@
 #include "jet/file/bytes.h"
 #include "jet/file/errors.h"
 #include "platform/code_page.h"
+#include "runtime/letters.h"
 
 namespace jet::file {
 
 namespace {
 
 using Bytes = std::span<const std::byte>;
+using runtime::appendUtf8;
 
 constexpr std::byte Zero{0};
 constexpr char32_t Replacement = 0xFFFD;
@@ -223,23 +225,6 @@ std::u16string toUtf16(std::string_view utf8) {
     }
   }
   return out;
-}
-
-void appendUtf8(char32_t character, std::string& out) {
-  const auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
-  if (character < 0x80) return put(character);
-  if (character < 0x800) {
-    put(0xC0 | character >> 6);
-  } else {
-    if (character < 0x10000) {
-      put(0xE0 | character >> 12);
-    } else {
-      put(0xF0 | character >> 18);
-      put(0x80 | (character >> 12 & 0x3F));
-    }
-    put(0x80 | (character >> 6 & 0x3F));
-  }
-  put(0x80 | (character & 0x3F));
 }
 
 }  // namespace jet::file

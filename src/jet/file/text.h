@@ -28,6 +28,5 @@ std::size_t utf16Length(std::string_view utf8);
 
 /// UTF-8 to UTF-16; what is no UTF-8 becomes U+FFFD.
 std::u16string toUtf16(std::string_view utf8);
-void appendUtf8(char32_t character, std::string& out);
 
 }  // namespace jet::file

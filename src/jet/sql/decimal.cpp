@@ -119,4 +119,15 @@ Decimal multiplyDecimals(const Decimal& a, const Decimal& b) {
       {a.negative != b.negative, static_cast<std::uint8_t>(a.scale + b.scale), a.magnitude * b.magnitude});
 }
 
+Decimal roundDecimal(const Decimal& number, int decimals, Rounding rounding) {
+  if (decimals >= number.scale) return number;
+  const Wide unit = powerOfTen(number.scale - decimals), rest = number.magnitude % unit;
+  Decimal result{number.negative, static_cast<std::uint8_t>(decimals), number.magnitude / unit};
+  const bool nearer = rest > unit / 2 || (rest == unit / 2 && result.magnitude % 2 != 0);
+  const bool away =
+      rounding == Rounding::HalfEven ? nearer : rounding == Rounding::Floor && number.negative && rest != 0;
+  if (away) ++result.magnitude;
+  return checked(result);
+}
+
 }  // namespace jet::sql

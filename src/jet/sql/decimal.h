@@ -20,4 +20,8 @@ int compareDecimals(std::string_view a, std::string_view b);
 runtime::Decimal addDecimals(const runtime::Decimal& a, const runtime::Decimal& b);
 runtime::Decimal multiplyDecimals(const runtime::Decimal& a, const runtime::Decimal& b);
 
+/// How digits are dropped: toward the lower number, toward zero, to the nearer one with halves to even.
+enum class Rounding { Floor, Truncate, HalfEven };
+runtime::Decimal roundDecimal(const runtime::Decimal& number, int decimals, Rounding rounding);
+
 }  // namespace jet::sql

@@ -1,3 +1,4 @@
+#include <cmath>
 #include <new>
 #include <optional>
 
@@ -68,6 +69,31 @@ void finishSum(sqlite3_context* context) {
   delete state;
 }
 
+/// Mean and sum of the squares of what differs from it, kept as the rows come.
+struct Spread {
+  std::int64_t count = 0;
+  double mean = 0, squares = 0;
+};
+
+void stepSpread(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return;
+  auto* state = static_cast<Spread*>(sqlite3_aggregate_context(context, sizeof(Spread)));
+  if (!state) return sqlite3_result_error_nomem(context);
+  const double value = sqlite3_value_double(arguments[0]), difference = value - state->mean;
+  state->mean += difference / static_cast<double>(++state->count);
+  state->squares += difference * (value - state->mean);
+}
+
+/// Of the rows as the whole, or as a sample of it, of which one row tells nothing.
+template <bool sample, bool root>
+void finishSpread(sqlite3_context* context) {
+  const auto* state = static_cast<Spread*>(sqlite3_aggregate_context(context, 0));
+  const std::int64_t divisor = state ? state->count - sample : 0;
+  if (divisor < 1) return sqlite3_result_null(context);
+  const double variance = state->squares / static_cast<double>(divisor);
+  sqlite3_result_double(context, root ? std::sqrt(variance) : variance);
+}
+
 struct AggregateFunction {
   const char* name;
   int arguments;
@@ -79,6 +105,10 @@ constexpr AggregateFunction functions[] = {
     {"jet_first", 2, stepExtreme<false>, finishExtreme},
     {"jet_last", 2, stepExtreme<true>, finishExtreme},
     {"jet_sum_decimal", 1, stepSum, finishSum},
+    {"jet_st_dev", 1, stepSpread, finishSpread<true, true>},
+    {"jet_st_dev_p", 1, stepSpread, finishSpread<false, true>},
+    {"jet_var", 1, stepSpread, finishSpread<true, false>},
+    {"jet_var_p", 1, stepSpread, finishSpread<false, false>},
 };
 
 }  // namespace

@@ -107,20 +107,55 @@ void multiplyDecimal(sqlite3_context* context, int, sqlite3_value** arguments) {
   reckonDecimals(context, arguments, multiplyDecimals);
 }
 
-/// A whole number is its own result.
-template <double (*function)(double)>
-void roundWith(sqlite3_context* context, int, sqlite3_value** arguments) {
-  if (isWhole(arguments[0])) return sqlite3_result_int64(context, whole(arguments[0]));
-  sqlite3_result_double(context, function(number(arguments[0])));
+constexpr std::int64_t moneyUnit = 10000;
+
+std::int64_t roundMoney(std::int64_t amount, std::int64_t decimals, Rounding rounding) {
+  constexpr int moneyPlaces = 4;
+  if (rounding == Rounding::HalfEven) return runtime::roundTo(amount, moneyPlaces, decimals);
+  const std::int64_t rest = amount % moneyUnit;
+  return amount - rest - (rounding == Rounding::Floor && rest < 0 ? moneyUnit : 0);
 }
 
-void roundTo(sqlite3_context* context, int, sqlite3_value** arguments) {
+double roundDouble(double value, std::int64_t decimals, Rounding rounding) {
+  if (rounding == Rounding::HalfEven) return runtime::roundTo(value, decimals);
+  return rounding == Rounding::Floor ? std::floor(value) : std::trunc(value);
+}
+
+/// (type, number[, decimals]); a whole number is its own result.
+template <Rounding rounding>
+void round(sqlite3_context* context, int count, sqlite3_value** arguments) {
   constexpr std::int64_t mostDecimals = 22;
-  const std::int64_t decimals = whole(arguments[1]);
+  const std::int64_t decimals = count == 3 ? whole(arguments[2]) : 0;
   if (decimals < 0 || decimals > mostDecimals) throw languageError(runtime::InvalidCall);
-  if (isWhole(arguments[0])) return sqlite3_result_int64(context, whole(arguments[0]));
-  const double factor = std::pow(10.0, static_cast<double>(decimals));
-  returnDouble(context, std::nearbyint(number(arguments[0]) * factor) / factor);
+  switch (typeArgument(arguments[0])) {
+    case Type::Currency:
+      return sqlite3_result_int64(context, roundMoney(whole(arguments[1]), decimals, rounding));
+    case Type::Decimal: {
+      const runtime::Decimal value = parseDecimal(textOf(arguments[1]));
+      return returnText(context,
+                        image::decimalText(roundDecimal(value, static_cast<int>(decimals), rounding)));
+    }
+    default:
+      if (isWhole(arguments[1])) return sqlite3_result_int64(context, whole(arguments[1]));
+      return returnDouble(context, roundDouble(number(arguments[1]), decimals, rounding));
+  }
+}
+
+/// (type, number); error 6 where the type has no room for the number without its sign.
+void absolute(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const Type type = typeArgument(arguments[0]);
+  if (type == Type::Decimal) {
+    runtime::Decimal value = parseDecimal(textOf(arguments[1]));
+    value.negative = false;
+    return returnText(context, image::decimalText(value));
+  }
+  if (!isWhole(arguments[1])) return sqlite3_result_double(context, std::abs(number(arguments[1])));
+  const std::int64_t limit = type == Type::Currency  ? INT64_MAX
+                             : type == Type::Integer ? INT16_MAX
+                                                     : INT32_MAX;
+  const std::int64_t value = whole(arguments[1]);
+  if (value < -limit) throw languageError(runtime::Overflow);
+  sqlite3_result_int64(context, std::abs(value));
 }
 
 constexpr SqliteFunction functions[] = {
@@ -136,9 +171,11 @@ constexpr SqliteFunction functions[] = {
     {"jet_add_decimal", 2, nullIfAnyIsNull<addDecimal>},
     {"jet_subtract_decimal", 2, nullIfAnyIsNull<subtractDecimal>},
     {"jet_multiply_decimal", 2, nullIfAnyIsNull<multiplyDecimal>},
-    {"jet_int", 1, nullIfAnyIsNull<roundWith<std::floor>>},
-    {"jet_fix", 1, nullIfAnyIsNull<roundWith<std::trunc>>},
-    {"jet_round", 2, nullIfAnyIsNull<roundTo>},
+    {"jet_abs", 2, nullIfAnyIsNull<absolute>},
+    {"jet_int", 2, nullIfAnyIsNull<round<Rounding::Floor>>},
+    {"jet_fix", 2, nullIfAnyIsNull<round<Rounding::Truncate>>},
+    {"jet_round", 2, nullIfAnyIsNull<round<Rounding::HalfEven>>},
+    {"jet_round", 3, nullIfAnyIsNull<round<Rounding::HalfEven>>},
 };
 
 int compareDigits(void*, int leftLength, const void* left, int rightLength, const void* right) {

@@ -1,71 +1,121 @@
-#include <cmath>
-
 #include "jet/sql/function_support.h"
 #include "platform/clock.h"
 #include "runtime/date.h"
+#include "runtime/date_arithmetic.h"
 
 namespace jet::sql {
 
 namespace {
 
-double dayOf(double days) {
-  return std::trunc(days);
+using runtime::Date;
+
+Date date(sqlite3_value* value) {
+  return {sqlite3_value_double(value)};
 }
 
-void date(sqlite3_context* context, int, sqlite3_value**) {
-  sqlite3_result_double(context, dayOf(platform::clock().now().days));
+void returnDate(sqlite3_context* context, Date value) {
+  sqlite3_result_double(context, value.days);
 }
 
-void time(sqlite3_context* context, int, sqlite3_value**) {
-  const double now = platform::clock().now().days;
-  sqlite3_result_double(context, std::abs(now - dayOf(now)));
+/// Argument `index`, or `otherwise` where it is not given.
+int optional(int count, sqlite3_value** arguments, int index, int otherwise) {
+  return index < count ? sqlite3_value_int(arguments[index]) : otherwise;
+}
+
+void today(sqlite3_context* context, int, sqlite3_value**) {
+  returnDate(context, runtime::dayOf(platform::clock().now()));
+}
+
+void timeOfDay(sqlite3_context* context, int, sqlite3_value**) {
+  returnDate(context, runtime::timeOf(platform::clock().now()));
 }
 
 void now(sqlite3_context* context, int, sqlite3_value**) {
-  sqlite3_result_double(context, platform::clock().now().days);
+  returnDate(context, platform::clock().now());
 }
 
-void wholeDay(sqlite3_context* context, int, sqlite3_value** arguments) {
-  sqlite3_result_double(context, dayOf(sqlite3_value_double(arguments[0])));
+void timer(sqlite3_context* context, int, sqlite3_value**) {
+  sqlite3_result_double(context, static_cast<double>(platform::clock().timer()));
+}
+
+template <Date (*part)(Date)>
+void pieceOf(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnDate(context, part(date(arguments[0])));
 }
 
 template <int runtime::DateParts::*part>
 void partOf(sqlite3_context* context, int, sqlite3_value** arguments) {
-  sqlite3_result_int(context, runtime::partsOf({sqlite3_value_double(arguments[0])}).*part);
+  sqlite3_result_int(context, runtime::partsOf(date(arguments[0])).*part);
 }
 
-/// Months and days outside their range count on from it.
-void dateSerial(sqlite3_context* context, int, sqlite3_value** arguments) {
-  constexpr std::int64_t furthest = 1000000, firstShort = 30, shortYears = 100;
-  std::int64_t year = sqlite3_value_int64(arguments[0]);
-  const std::int64_t months = sqlite3_value_int64(arguments[1]) - 1,
-                     days = sqlite3_value_int64(arguments[2]) - 1;
-  if (std::abs(year) > furthest || std::abs(months) > furthest || std::abs(days) > 4 * furthest) {
-    throw runtime::languageError(runtime::InvalidCall);
-  }
-  if (year >= 0 && year < shortYears) year += year < firstShort ? 2000 : 1900;
-  const std::int64_t monthsInAll = year * 12 + months;
-  const auto month = static_cast<int>((monthsInAll % 12 + 12) % 12);
-  const auto monthYear = static_cast<int>((monthsInAll - month) / 12);
-  const runtime::Date result{runtime::dateFromParts(monthYear, month + 1, 1).days +
-                             static_cast<double>(days)};
-  if (!runtime::isInCalendar(result)) throw runtime::languageError(runtime::InvalidCall);
-  sqlite3_result_double(context, result.days);
+template <Date (*serial)(std::int64_t, std::int64_t, std::int64_t)>
+void fromParts(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnDate(context, serial(sqlite3_value_int64(arguments[0]), sqlite3_value_int64(arguments[1]),
+                             sqlite3_value_int64(arguments[2])));
 }
+
+void dateAdd(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnDate(context,
+             runtime::dateAdd(textOf(arguments[0]), sqlite3_value_double(arguments[1]), date(arguments[2])));
+}
+
+/// The first week of the year, which the language lets be told here too, has no part in it.
+void dateDiff(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  const int firstDay = optional(count, arguments, 3, 1);
+  sqlite3_result_int(
+      context, runtime::dateDiff(textOf(arguments[0]), date(arguments[1]), date(arguments[2]), firstDay));
+}
+
+void datePart(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  const int firstDay = optional(count, arguments, 2, 1), firstWeek = optional(count, arguments, 3, 1);
+  sqlite3_result_int(context,
+                     runtime::datePart(textOf(arguments[0]), date(arguments[1]), firstDay, firstWeek));
+}
+
+void weekday(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  sqlite3_result_int(context, runtime::weekday(date(arguments[0]), optional(count, arguments, 1, 1)));
+}
+
+void monthName(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  const int month = sqlite3_value_int(arguments[0]);
+  const bool isShort = optional(count, arguments, 1, 0) != 0;
+  returnText(context, isShort ? runtime::shortMonthName(month) : runtime::monthName(month));
+}
+
+/// The first day is the country's unless it is told.
+void weekdayName(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  const int number = sqlite3_value_int(arguments[0]);
+  if (number < 1 || number > 7) throw runtime::languageError(runtime::InvalidCall);
+  // Day 1 was a Sunday, the first in the week that begins on Sunday.
+  const int sunday = runtime::weekday({1}, optional(count, arguments, 2, 0));
+  const int day = (number - sunday + 7) % 7 + 1;
+  const bool isShort = optional(count, arguments, 1, 0) != 0;
+  returnText(context, isShort ? runtime::shortWeekdayName(day) : runtime::weekdayName(day));
+}
+
+using Parts = runtime::DateParts;
 
 constexpr SqliteFunction functions[] = {
-    {"jet_date", 0, nullIfAnyIsNull<date>, false},
-    {"jet_time", 0, nullIfAnyIsNull<time>, false},
-    {"jet_now", 0, nullIfAnyIsNull<now>, false},
-    {"jet_day_of", 1, nullIfAnyIsNull<wholeDay>},
-    {"jet_date_serial", 3, nullIfAnyIsNull<dateSerial>},
-    {"jet_year", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::year>>},
-    {"jet_month", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::month>>},
-    {"jet_day", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::day>>},
-    {"jet_hour", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::hour>>},
-    {"jet_minute", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::minute>>},
-    {"jet_second", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::second>>},
-    {"jet_weekday", 1, nullIfAnyIsNull<partOf<&runtime::DateParts::weekday>>},
+    {"jet_date", 0, withErrors<today>},
+    {"jet_time", 0, withErrors<timeOfDay>},
+    {"jet_now", 0, withErrors<now>},
+    {"jet_timer", 0, withErrors<timer>},
+    {"jet_day_of", 1, nullIfAnyIsNull<pieceOf<runtime::dayOf>>},
+    {"jet_time_of", 1, nullIfAnyIsNull<pieceOf<runtime::timeOf>>},
+    {"jet_date_serial", 3, nullIfAnyIsNull<fromParts<runtime::dateSerial>>},
+    {"jet_time_serial", 3, nullIfAnyIsNull<fromParts<runtime::timeSerial>>},
+    {"jet_date_add", 3, nullIfAnyIsNull<dateAdd>},
+    {"jet_date_diff", -1, nullIfAnyIsNull<dateDiff>},
+    {"jet_date_part", -1, nullIfAnyIsNull<datePart>},
+    {"jet_year", 1, nullIfAnyIsNull<partOf<&Parts::year>>},
+    {"jet_month", 1, nullIfAnyIsNull<partOf<&Parts::month>>},
+    {"jet_day", 1, nullIfAnyIsNull<partOf<&Parts::day>>},
+    {"jet_hour", 1, nullIfAnyIsNull<partOf<&Parts::hour>>},
+    {"jet_minute", 1, nullIfAnyIsNull<partOf<&Parts::minute>>},
+    {"jet_second", 1, nullIfAnyIsNull<partOf<&Parts::second>>},
+    {"jet_weekday", -1, nullIfAnyIsNull<weekday>},
+    {"jet_month_name", -1, nullIfAnyIsNull<monthName>},
+    {"jet_weekday_name", -1, nullIfAnyIsNull<weekdayName>},
 };
 
 }  // namespace

@@ -17,6 +17,11 @@ runtime::Variant readValue(sqlite3_value* value, Type type);
 /// `value` as `type`, in the image's form, as the result. Error 6 or 13 where it can't be that.
 void returnValue(sqlite3_context* context, const runtime::Variant& value, Type type);
 
+/// The type that a statement tells a function of by its number.
+inline Type typeArgument(sqlite3_value* value) {
+  return static_cast<Type>(sqlite3_value_int(value));
+}
+
 /// UTF-8 of a value, valid as long as the value.
 std::string_view textOf(sqlite3_value* value);
 void returnText(sqlite3_context* context, std::string_view text);
@@ -28,12 +33,9 @@ void returnError(sqlite3_context* context, const runtime::Error& error);
 
 using FunctionBody = void (*)(sqlite3_context*, int count, sqlite3_value** arguments);
 
-/// Runs `body`, whose runtime::Error becomes the function's. Null where an argument is Null.
+/// Runs `body`, whose runtime::Error becomes the function's.
 template <FunctionBody body>
-void nullIfAnyIsNull(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  for (int i = 0; i < count; ++i) {
-    if (sqlite3_value_type(arguments[i]) == SQLITE_NULL) return sqlite3_result_null(context);
-  }
+void withErrors(sqlite3_context* context, int count, sqlite3_value** arguments) {
   try {
     body(context, count, arguments);
   } catch (const runtime::Error& error) {
@@ -43,26 +45,37 @@ void nullIfAnyIsNull(sqlite3_context* context, int count, sqlite3_value** argume
   }
 }
 
+/// The same; Null where an argument is Null.
+template <FunctionBody body>
+void nullIfAnyIsNull(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  for (int i = 0; i < count; ++i) {
+    if (sqlite3_value_type(arguments[i]) == SQLITE_NULL) return sqlite3_result_null(context);
+  }
+  withErrors<body>(context, count, arguments);
+}
+
 /// A function as data, for one registration loop. `arguments` is -1 for any number.
 struct SqliteFunction {
   const char* name;
   int arguments;
   FunctionBody call;
-  bool deterministic = true;
 };
 
-/// Registers each of `functions`.
+/// Registers each of `functions`. All count as deterministic: a call whose arguments are constants is made
+/// once for a statement, so that Now() and Rnd() are one value in it, as the engine has them.
 template <std::size_t Count>
 void registerAll(sqlite3* connection, const SqliteFunction (&functions)[Count]) {
   for (const SqliteFunction& function : functions) {
-    const int flags = SQLITE_UTF8 | (function.deterministic ? SQLITE_DETERMINISTIC : 0);
-    sqlite3_create_function_v2(connection, function.name, function.arguments, flags, nullptr, function.call,
-                               nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(connection, function.name, function.arguments,
+                               SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, function.call, nullptr, nullptr,
+                               nullptr);
   }
 }
 
 void registerConversions(sqlite3* connection);
 void registerArithmetic(sqlite3* connection);
+void registerMathematics(sqlite3* connection);
+void registerValueFunctions(sqlite3* connection);
 void registerTextFunctions(sqlite3* connection);
 void registerDateFunctions(sqlite3* connection);
 void registerAggregates(sqlite3* connection);

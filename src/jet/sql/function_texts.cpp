@@ -1,11 +1,9 @@
-#include <algorithm>
-
+#include "jet/file/text_key.h"
 #include "jet/sql/function_support.h"
-#include "jet/sql/letters.h"
 #include "platform/code_page.h"
-#include "runtime/date.h"
-#include "runtime/format.h"
+#include "runtime/like.h"
 #include "runtime/numbers.h"
+#include "runtime/text.h"
 
 namespace jet::sql {
 
@@ -13,66 +11,77 @@ namespace {
 
 using runtime::languageError;
 
-bool continues(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+std::int64_t number(sqlite3_value* value) {
+  return sqlite3_value_int64(value);
 }
 
-std::size_t length(std::string_view text) {
-  return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continues));
+/// Argument `index`, or `otherwise` where it is not given.
+std::int64_t optional(int count, sqlite3_value** arguments, int index, std::int64_t otherwise) {
+  return index < count ? number(arguments[index]) : otherwise;
 }
 
-/// Byte at which character `index` begins; the text's end behind the last one.
-std::size_t offsetOf(std::string_view text, std::size_t index) {
-  std::size_t at = 0;
-  for (; at < text.size(); ++at) {
-    if (!continues(text[at]) && index-- == 0) break;
-  }
-  return at;
-}
-
-/// Not below `least`; error 5.
-std::size_t count(sqlite3_value* value, std::int64_t least) {
-  const std::int64_t number = sqlite3_value_int64(value);
-  if (number < least) throw languageError(runtime::InvalidCall);
-  return static_cast<std::size_t>(number);
+/// Statements compare without regard to case unless told otherwise.
+runtime::Compare compareMode(int count, sqlite3_value** arguments, int index) {
+  return index < count ? runtime::compareMode(number(arguments[index])) : runtime::Compare::Text;
 }
 
 void lengthOf(sqlite3_context* context, int, sqlite3_value** arguments) {
-  sqlite3_result_int64(context, static_cast<std::int64_t>(length(textOf(arguments[0]))));
+  sqlite3_result_int64(context, static_cast<std::int64_t>(runtime::length(textOf(arguments[0]))));
 }
 
 void left(sqlite3_context* context, int, sqlite3_value** arguments) {
-  const std::string_view text = textOf(arguments[0]);
-  returnText(context, text.substr(0, offsetOf(text, count(arguments[1], 0))));
+  returnText(context, runtime::left(textOf(arguments[0]), number(arguments[1])));
 }
 
 void right(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnText(context, runtime::right(textOf(arguments[0]), number(arguments[1])));
+}
+
+void mid(sqlite3_context* context, int count, sqlite3_value** arguments) {
   const std::string_view text = textOf(arguments[0]);
-  const std::size_t all = length(text), wanted = std::min(all, count(arguments[1], 0));
-  returnText(context, text.substr(offsetOf(text, all - wanted)));
+  returnText(context, count == 2 ? runtime::mid(text, number(arguments[1]))
+                                 : runtime::mid(text, number(arguments[1]), number(arguments[2])));
 }
 
-void mid(sqlite3_context* context, int argumentCount, sqlite3_value** arguments) {
-  std::string_view text = textOf(arguments[0]);
-  text.remove_prefix(offsetOf(text, count(arguments[1], 1) - 1));
-  if (argumentCount == 3) text = text.substr(0, offsetOf(text, count(arguments[2], 0)));
-  returnText(context, text);
+template <std::string_view (*piece)(std::string_view)>
+void pieceOf(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnText(context, piece(textOf(arguments[0])));
 }
 
-template <char32_t (*change)(char32_t)>
-void changeCase(sqlite3_context* context, int, sqlite3_value** arguments) {
-  std::u32string text = characters(textOf(arguments[0]));
-  std::ranges::transform(text, text.begin(), change);
-  returnText(context, toUtf8(text));
+template <std::string (*change)(std::string_view)>
+void changed(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnText(context, change(textOf(arguments[0])));
 }
 
-void inStr(sqlite3_context* context, int, sqlite3_value** arguments) {
-  const std::size_t start = count(arguments[0], 1);
-  returnLong(context, static_cast<std::int64_t>(find(textOf(arguments[1]), textOf(arguments[2]), start)));
+void inStr(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  returnLong(context, runtime::inStr(number(arguments[0]), textOf(arguments[1]), textOf(arguments[2]),
+                                     compareMode(count, arguments, 3)));
+}
+
+void inStrRev(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  returnLong(context, runtime::inStrRev(textOf(arguments[0]), textOf(arguments[1]),
+                                        optional(count, arguments, 2, -1), compareMode(count, arguments, 3)));
+}
+
+void replace(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  returnText(context, runtime::replace(textOf(arguments[0]), textOf(arguments[1]), textOf(arguments[2]),
+                                       optional(count, arguments, 3, 1), optional(count, arguments, 4, -1),
+                                       compareMode(count, arguments, 5)));
 }
 
 void like(sqlite3_context* context, int, sqlite3_value** arguments) {
-  sqlite3_result_int(context, isLike(textOf(arguments[0]), textOf(arguments[1])));
+  sqlite3_result_int(context, runtime::isLike(textOf(arguments[0]), textOf(arguments[1]), file::compareText));
+}
+
+void strComp(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  const std::string_view a = textOf(arguments[0]), b = textOf(arguments[1]);
+  const bool exact = compareMode(count, arguments, 2) == runtime::Compare::Exact;
+  const int order = exact ? runtime::strComp(a, b) : file::compareText(a, b);
+  sqlite3_result_int(context, order < 0 ? -1 : order > 0);
+}
+
+void strConv(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnText(context, runtime::strConv(textOf(arguments[0]), number(arguments[1])));
 }
 
 void val(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -84,61 +93,46 @@ void str(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void space(sqlite3_context* context, int, sqlite3_value** arguments) {
-  constexpr std::size_t longest = 1 << 24;
-  const std::size_t blanks = count(arguments[0], 0);
-  if (blanks > longest) throw languageError(runtime::InvalidCall);
-  returnText(context, std::string(blanks, ' '));
+  returnText(context, runtime::space(number(arguments[0])));
+}
+
+/// Character of code page 1252.
+std::string character(std::int64_t code) {
+  constexpr std::int64_t lastByte = 255;
+  if (code < 0 || code > lastByte) throw languageError(runtime::InvalidCall);
+  const char byte = static_cast<char>(code);
+  return platform::fromCodePage1252({&byte, 1});
+}
+
+/// (count, text whose first character counts | number of a character)
+void string(sqlite3_context* context, int, sqlite3_value** arguments) {
+  constexpr std::int64_t codes = 256;
+  const bool isText = sqlite3_value_type(arguments[1]) == SQLITE_TEXT;
+  const std::string own = isText ? "" : character(number(arguments[1]) % codes);
+  returnText(context, runtime::repeated(number(arguments[0]), isText ? textOf(arguments[1]) : own));
 }
 
 void chr(sqlite3_context* context, int, sqlite3_value** arguments) {
-  constexpr std::size_t lastByte = 255;
-  const std::size_t code = count(arguments[0], 0);
-  if (code > lastByte) throw languageError(runtime::InvalidCall);
-  const char byte = static_cast<char>(code);
-  returnText(context, platform::fromCodePage1252({&byte, 1}));
+  returnText(context, character(number(arguments[0])));
+}
+
+void chrW(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnText(context, runtime::chrW(number(arguments[0])));
 }
 
 void asc(sqlite3_context* context, int, sqlite3_value** arguments) {
-  const std::string bytes = platform::toCodePage1252(textOf(arguments[0]));
+  const std::string bytes = platform::toCodePage1252(runtime::left(textOf(arguments[0]), 1));
   if (bytes.empty()) throw languageError(runtime::InvalidCall);
   sqlite3_result_int(context, static_cast<unsigned char>(bytes.front()));
 }
 
-Type typeArgument(sqlite3_value* value) {
-  return static_cast<Type>(sqlite3_value_int(value));
+void ascW(sqlite3_context* context, int, sqlite3_value** arguments) {
+  sqlite3_result_int(context, runtime::ascW(textOf(arguments[0])));
 }
 
-/// A Null formats to an empty text, so it is let through.
-void format(sqlite3_context* context, int, sqlite3_value** arguments) {
-  try {
-    const bool null = sqlite3_value_type(arguments[1]) == SQLITE_NULL;
-    const runtime::Variant value = readValue(arguments[1], null ? Type::Null : typeArgument(arguments[0]));
-    returnText(context, runtime::format(value, textOf(arguments[2])));
-  } catch (const runtime::Error& error) {
-    returnError(context, error);
-  } catch (const std::bad_alloc&) {
-    sqlite3_result_error_nomem(context);
-  }
-}
-
-void isDate(sqlite3_context* context, int, sqlite3_value** arguments) {
-  const Type type = typeArgument(arguments[0]);
-  const bool text =
-      sqlite3_value_type(arguments[1]) == SQLITE_TEXT && (isText(type) || type == Type::Variant);
-  const bool date = text ? runtime::dateFromText(textOf(arguments[1])).has_value()
-                         : type == Type::Date && sqlite3_value_type(arguments[1]) != SQLITE_NULL;
-  sqlite3_result_int(context, date ? -1 : 0);
-}
-
-void isNumeric(sqlite3_context* context, int, sqlite3_value** arguments) {
-  const Type type = typeArgument(arguments[0]);
-  const int storage = sqlite3_value_type(arguments[1]);
-  bool numeric = storage != SQLITE_NULL && isNumber(type) && type != Type::Date;
-  if (isText(type) || type == Type::Variant) {
-    numeric = storage == SQLITE_INTEGER || storage == SQLITE_FLOAT ||
-              (storage == SQLITE_TEXT && runtime::plainNumber(textOf(arguments[1])));
-  }
-  sqlite3_result_int(context, numeric ? -1 : 0);
+void partition(sqlite3_context* context, int, sqlite3_value** arguments) {
+  returnText(context, runtime::partition(number(arguments[0]), number(arguments[1]), number(arguments[2]),
+                                         number(arguments[3])));
 }
 
 /// The texts one after another, Nulls as empty ones; Null where all are.
@@ -159,19 +153,28 @@ constexpr SqliteFunction functions[] = {
     {"jet_right", 2, nullIfAnyIsNull<right>},
     {"jet_mid", 2, nullIfAnyIsNull<mid>},
     {"jet_mid", 3, nullIfAnyIsNull<mid>},
-    {"jet_upper", 1, nullIfAnyIsNull<changeCase<upperCase>>},
-    {"jet_lower", 1, nullIfAnyIsNull<changeCase<lowerCase>>},
-    {"jet_instr", 3, nullIfAnyIsNull<inStr>},
+    {"jet_left_trim", 1, nullIfAnyIsNull<pieceOf<runtime::leftTrimmed>>},
+    {"jet_right_trim", 1, nullIfAnyIsNull<pieceOf<runtime::rightTrimmed>>},
+    {"jet_trim", 1, nullIfAnyIsNull<pieceOf<runtime::trimmed>>},
+    {"jet_upper", 1, nullIfAnyIsNull<changed<runtime::upperCase>>},
+    {"jet_lower", 1, nullIfAnyIsNull<changed<runtime::lowerCase>>},
+    {"jet_str_conv", -1, nullIfAnyIsNull<strConv>},
+    {"jet_str_reverse", 1, nullIfAnyIsNull<changed<runtime::strReverse>>},
+    {"jet_instr", -1, nullIfAnyIsNull<inStr>},
+    {"jet_instr_rev", -1, nullIfAnyIsNull<inStrRev>},
+    {"jet_replace", -1, nullIfAnyIsNull<replace>},
     {"jet_like", 2, nullIfAnyIsNull<like>},
+    {"jet_str_comp", -1, nullIfAnyIsNull<strComp>},
     {"jet_val", 1, nullIfAnyIsNull<val>},
     {"jet_str", 1, nullIfAnyIsNull<str>},
     {"jet_space", 1, nullIfAnyIsNull<space>},
+    {"jet_string", 2, nullIfAnyIsNull<string>},
     {"jet_chr", 1, nullIfAnyIsNull<chr>},
+    {"jet_chr_w", 1, nullIfAnyIsNull<chrW>},
     {"jet_asc", 1, nullIfAnyIsNull<asc>},
-    {"jet_format", 3, format},
-    {"jet_is_date", 2, isDate},
-    {"jet_is_numeric", 2, isNumeric},
-    {"jet_join", -1, join},
+    {"jet_asc_w", 1, nullIfAnyIsNull<ascW>},
+    {"jet_partition", 4, nullIfAnyIsNull<partition>},
+    {"jet_join", -1, withErrors<join>},
 };
 
 }  // namespace

@@ -7,6 +7,8 @@ namespace jet::sql {
 void registerFunctions(sqlite3* connection) {
   registerConversions(connection);
   registerArithmetic(connection);
+  registerMathematics(connection);
+  registerValueFunctions(connection);
   registerTextFunctions(connection);
   registerDateFunctions(connection);
   registerAggregates(connection);

@@ -80,6 +80,9 @@ class Binder {
   bound::InQuery valueAndQuery(const tree::Expression& value, const tree::Query& query, const Place& place);
   // call.cpp
   std::optional<bound::Expression> specialCall(const tree::Call& call, const Place& place);
+  bound::Expression nullReplacement(const std::vector<tree::Expression>& arguments);
+  bound::Expression choiceChain(const std::vector<tree::Expression>& arguments);
+  bound::Expression chosenValue(const std::vector<tree::Expression>& arguments);
   std::optional<bound::Expression> aggregate(const tree::Call& call, const Place& place);
   // comparison.cpp
   Type comparedTypeOf(Type a, Type b, const Place& place) const;

@@ -136,6 +136,7 @@ struct IsNull {
 struct Call {
   const Function* function = nullptr;
   std::vector<Expression> arguments;
+  bool refusesNull = false;  // of any argument: Left$ and its like
   bool operator==(const Call&) const = default;
 };
 
@@ -151,7 +152,7 @@ struct NullReplacement {
   bool operator==(const NullReplacement&) const = default;
 };
 
-enum class AggregateKind { CountRows, Count, Sum, Avg, Min, Max, First, Last };
+enum class AggregateKind { CountRows, Count, Sum, Avg, Min, Max, First, Last, StDev, StDevP, Var, VarP };
 
 struct Aggregate {
   AggregateKind kind = AggregateKind::CountRows;

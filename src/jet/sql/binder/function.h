@@ -6,23 +6,33 @@
 
 namespace jet::sql {
 
-/// A function of expressions with a given number of arguments, as data.
+/// A function of expressions, as data.
 struct Function {
-  enum class Argument : std::uint8_t { None, Any, Number, Boolean, Long, Double, Date, Text };
+  /// Type that a value is given as: its own (Any), a number as it is and others as Double (Number), or the
+  /// one named. With NotNull a Null is error 94.
+  enum Argument : std::uint8_t { None, Any, Number, Boolean, Long, Double, Date, Text, NotNull = 0x80 };
   enum class Result : std::uint8_t { Fixed, LikeFirst };
 
   const char* name;
-  Argument arguments[4];
+  std::uint8_t least;  // arguments that must be given
+  std::uint8_t arguments[6];
   Result result;
   Type type;  // of a Fixed result
-  /// SQLite expression: $1 to $4 are the arguments, $t the code of the first one's type.
+  /// SQLite expression: $1 to $6 are the arguments, $* all that are given, $t the code of the first one's
+  /// type.
   const char* sql;
 
-  std::size_t argumentCount() const;
+  std::size_t most() const;
+  Argument argument(std::size_t index) const { return static_cast<Argument>(arguments[index] & ~NotNull); }
+  bool refusesNull(std::size_t index) const { return (arguments[index] & NotNull) != 0; }
+  bool isConversion() const { return sql[0] == '$'; }
 };
 
-/// The function of this name and number of arguments, or nullptr. A name of a function that returns text may
-/// end in a dollar sign.
+/// The function of this name with this number of arguments, or nullptr. A name of a function that returns
+/// text may end in a dollar sign.
 const Function* findFunction(const std::string& name, std::size_t arguments);
+
+/// Choose(index, value, ...); its values are of one type, which is the result's.
+const Function& chooseFunction();
 
 }  // namespace jet::sql

@@ -6,17 +6,29 @@ namespace jet::sql {
 using bound::AggregateKind;
 using bound::Expression;
 
+/// What is written in place of the `$` codes of a function's pattern.
 Sql Translator::translate(const bound::Call& node, Type) {
+  const auto argument = [&](std::size_t index) {
+    const Expression& given = node.arguments[index];
+    const Function& function = *node.function;
+    const bool refused = node.refusesNull || (index < function.most() && function.refusesNull(index));
+    const auto* literal = std::get_if<bound::Literal>(&given.node);
+    const bool mayBeNull = !literal || std::holds_alternative<std::monostate>(literal->value);
+    Sql sql = value(given);
+    return refused && mayBeNull ? Sql{"jet_not_null(" + sql.text + ")"} : std::move(sql);
+  };
   const std::string_view pattern = node.function->sql;
-  if (pattern == "$1") return value(node.arguments.front());
+  if (node.function->isConversion()) return argument(0);
   std::string text;
   for (std::size_t i = 0; i < pattern.size(); ++i) {
     if (pattern[i] != '$') {
       text += pattern[i];
     } else if (pattern[++i] == 't') {
       text += std::to_string(static_cast<unsigned>(node.arguments.front().type));
+    } else if (pattern[i] == '*') {
+      for (std::size_t k = 0; k < node.arguments.size(); ++k) text += (k ? ", " : "") + argument(k).text;
     } else {
-      text += value(node.arguments[static_cast<std::size_t>(pattern[i] - '1')]).text;
+      text += argument(static_cast<std::size_t>(pattern[i] - '1')).text;
     }
   }
   return {std::move(text)};
@@ -57,6 +69,14 @@ Sql Translator::translate(const bound::Aggregate& node, Type type) {
       return {"jet_first(" + text + ", " + firstKey_ + ")"};
     case AggregateKind::Last:
       return {"jet_last(" + text + ", " + firstKey_ + ")"};
+    case AggregateKind::StDev:
+      return {"jet_st_dev(" + text + ")"};
+    case AggregateKind::StDevP:
+      return {"jet_st_dev_p(" + text + ")"};
+    case AggregateKind::Var:
+      return {"jet_var(" + text + ")"};
+    case AggregateKind::VarP:
+      return {"jet_var_p(" + text + ")"};
     default:
       return {"count(" + text + ")"};
   }
