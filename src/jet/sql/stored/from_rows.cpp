@@ -98,7 +98,7 @@ FromRows::Names FromRows::query(std::string text) {
 
 std::string FromRows::alias() {
   if (at_ >= end_) return {};
-  if (text_.isWord(at_, "AS")) ++at_;
+  if (text_.at(at_).isWord("AS")) ++at_;  // behind the dot of an older query as well
   const Token& token = text_.at(at_);
   const bool isName =
       token.kind == Token::Kind::QuotedName || (token.kind == Token::Kind::Word && !isReserved(token));
