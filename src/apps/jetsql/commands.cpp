@@ -112,7 +112,10 @@ void keepQuery(Database& database, const std::string& arguments, Output& output)
   const std::string name = takeName(sql);
   if (name.empty()) throw runtime::Error(5, "jetsql", ".query vuole il nome di una query");
   if (sql.empty()) return output.text(withLineFeeds(database.QueryDefs(name)->SQL()));
-  database.CreateQueryDef(name, sql)->Close();
+  if (database.QueryDefs().contains(name))
+    database.QueryDefs(name)->setSQL(sql);
+  else
+    database.CreateQueryDef(name, sql);
 }
 
 void showHelp(Database&, const std::string& arguments, Output& output) {
@@ -130,7 +133,8 @@ constexpr Command table[] = {
      showDesign},
     {".queries", "", "elenca le query memorizzate con il loro tipo", listQueries},
     {".relations", "", "elenca le relazioni", listRelations},
-    {".query", "NOME [SQL]", "mostra una query, o la memorizza; un nome con spazi va tra parentesi quadre",
+    {".query", "NOME [SQL]",
+     "mostra una query, o la memorizza al posto della vecchia; un nome con spazi va tra parentesi quadre",
      keepQuery},
     {".help", "", "mostra questi comandi", showHelp},
     {".quit", "", "termina", endSession, true},
