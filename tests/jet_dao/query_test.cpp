@@ -146,7 +146,7 @@ TEST_F(StoredQueries, NamesAreTakenOnceAndFreedAgain) {
   EXPECT_EQ(errorOf([&] { store("elenco", "SELECT 1"); }), 3012);
   EXPECT_EQ(errorOf([&] { store("Ragioniere", "SELECT 1"); }), 3012);
   EXPECT_EQ(errorOf([&] { store("Sbagliata", "SELECT a FROM T WHERE a ="); }), 3075);
-  EXPECT_EQ(errorOf([&] { db_->Execute("CREATE TABLE Elenco (a LONG)"); }), 3010);
+  EXPECT_EQ(errorOf([&] { db_->Execute("CREATE TABLE Elenco (a LONG)"); }), 3012);
   EXPECT_EQ(errorOf([&] { db_->QueryDefs().Delete("Sbagliata"); }), 3265);
   const auto query = db_->QueryDefs("Elenco");
   db_->QueryDefs().Delete("ELENCO");
@@ -205,8 +205,8 @@ std::set<std::string> storedRows(Database& db) {
   std::set<std::string> lines, joined;  // joins come before sources
   for (; !found->atEnd(); found->MoveNext()) {
     std::vector<std::string> fields;
-    for (std::size_t i = 0; i < found->fieldCount(); ++i)
-      fields.push_back(office::text(found->Fields(i).Value()));
+    for (const auto& field : found->Fields())
+      fields.push_back(office::text(field.Value()));
     const std::string name = fields[Name], attribute = fields[Attribute], flag = fields[Flag];
     const int kind = std::stoi(fields[Flags]) & 0xF0;
     if (kind == dbQSQLPassThrough || attribute == "0" || (attribute == "3" && flag == "0")) continue;
