@@ -12,8 +12,10 @@ namespace {
 
 using support::CommandResult;
 using support::shellWord;
+using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 
 class Jetsql : public testing::Test {
  protected:
@@ -172,8 +174,20 @@ TEST_F(Jetsql, ADesignThatIsPrintedCanBeRunAgain) {
       "CREATE TABLE T (Id COUNTER CONSTRAINT PrimaryKey PRIMARY KEY, [Il nome] TEXT(30), Prezzo CURRENCY,\n"
       "  Foto LONGBINARY, Quando DATETIME, Breve SHORT, Piccolo BYTE, Note MEMO);\n"
       "CREATE UNIQUE INDEX Nome ON T ([Il nome] DESC, Quando);\n"
-      "CREATE INDEX Quando ON T (Quando) WITH IGNORE NULL;\n");
-  const auto design = statement(".schema T");
+      "CREATE INDEX Quando ON T (Quando) WITH IGNORE NULL;\n"
+      "CREATE TABLE [Le voci] (A LONG, B TEXT(4) NOT NULL DEFAULT 'x y', C DECIMAL(10, 3), D DATETIME "
+      "DEFAULT Now(),\n"
+      "  Importo CURRENCY DEFAULT 1 + 2, CONSTRAINT Chiave PRIMARY KEY (A, B),\n"
+      "  CONSTRAINT Padre FOREIGN KEY (A) REFERENCES T (Id) ON UPDATE CASCADE ON DELETE CASCADE);\n"
+      "CREATE TABLE Altra (X LONG, Y TEXT(4), CONSTRAINT Voci FOREIGN KEY (X, Y) REFERENCES [Le voci] (A, "
+      "B));\n");
+  EXPECT_THAT(
+      statement(".schema [Le voci]").output,
+      AllOf(HasSubstr("  [B] TEXT(4) NOT NULL DEFAULT"), HasSubstr("  [C] DECIMAL(10, 3),"),
+            HasSubstr("ALTER TABLE [Le voci] ADD CONSTRAINT [Padre] FOREIGN KEY ([A]) REFERENCES [T] ([Id]) "
+                      "ON UPDATE CASCADE ON DELETE CASCADE;\n"),
+            Not(HasSubstr("[Voci]"))));
+  const auto design = statement(".schema");
   ASSERT_EQ(design.status, 0) << design.errors;
   EXPECT_THAT(design.output, HasSubstr("CREATE UNIQUE INDEX [Nome] ON [T] ([Il nome] DESC, [Quando]);"));
   const auto tables = statement(".tables");
@@ -183,6 +197,22 @@ TEST_F(Jetsql, ADesignThatIsPrintedCanBeRunAgain) {
   file_ = folder_.systemPath("copia.mdb");
   make(design.output);
   EXPECT_EQ(statement(".schema").output, design.output);
+  EXPECT_EQ(statement("INSERT INTO [Le voci] (A) VALUES (7)").status, 1);  // 3201: no row of T has it
+}
+
+TEST_F(Jetsql, StoredQueriesAreShownAndRewritten) {
+  make(
+      "CREATE TABLE T (Id LONG, Nome TEXT(20));\n"
+      "INSERT INTO T VALUES (1, 'Rossi');\n"
+      ".query [I primi] SELECT Nome FROM T WHERE Id < [fino a]\n"
+      ".query Svuota DELETE FROM T\n");
+  EXPECT_EQ(statement(".queries").output, "Name\tType\nI primi\tSELECT\nSvuota\tDELETE\n");
+  EXPECT_EQ(statement(".query [i primi]").output, "SELECT Nome\nFROM T\nWHERE Id < [fino a];\n");
+  EXPECT_EQ(statement("SELECT * FROM [I primi]", "--param 'fino a=5'").output, "Nome\nRossi\n");
+  EXPECT_EQ(statement(".query Svuota DELETE FROM T WHERE Id = 9").status, 0);
+  EXPECT_EQ(statement(".query Svuota").output, "DELETE *\nFROM T\nWHERE Id = 9;\n");
+  EXPECT_THAT(statement(".query Nessuna").errors, HasSubstr("errore 3265"));
+  EXPECT_EQ(statement(".query T SELECT 1").status, 1);
 }
 
 TEST_F(Jetsql, WrongUsageIsToldApart) {

@@ -336,7 +336,7 @@ void SuiteOffice::TearDownTestSuite() {
 QueryDefPtr SuiteOffice::query() const {
   const SuiteCase& row = GetParam();
   auto query = files_->db->CreateQueryDef("", row.sql);
-  for (const auto& [name, value] : row.answers) query->setParameter(name, value);
+  for (const auto& [name, value] : row.answers) query->Parameters(name).setValue(value);
   return query;
 }
 

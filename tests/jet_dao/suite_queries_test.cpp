@@ -1,3 +1,4 @@
+#include "runtime/date.h"
 #include "suite_office.h"
 
 namespace office {

@@ -97,6 +97,31 @@ constexpr Text Texts[] = {
     {"INSERT INTO T SELECT * FROM U", QueryKind::Append, "INSERT INTO T\nSELECT *\nFROM U;\n"},
     {"INSERT INTO T (a, b) SELECT * FROM U", QueryKind::Append,
      "INSERT INTO T ( a, b )\nSELECT *\nFROM U;\n"},
+    {"PARAMETERS p Long; TRANSFORM Sum(x) AS [Il totale] SELECT a, Count(*) AS n FROM T WHERE b = p GROUP BY "
+     "a "
+     "ORDER BY a PIVOT Format(d, 'q') IN ('1', '2')",
+     QueryKind::Crosstab,
+     "PARAMETERS p Long;\nTRANSFORM Sum(x) AS [Il totale]\nSELECT a, Count(*) AS n\nFROM T\nWHERE b = "
+     "p\nGROUP BY "
+     "a\nORDER BY a\nPIVOT Format(d, 'q') IN ('1', '2');\n"},
+    {"SELECT a, b AS c INTO [T 2] FROM T WHERE a IN (SELECT a FROM U)", QueryKind::MakeTable,
+     "SELECT a, b AS c INTO [T 2]\nFROM T\nWHERE a IN (SELECT a FROM U);\n"},
+    {"SELECT a INTO T2 IN 'C:\\x y.mdb' FROM T IN '' [;DATABASE=C:\\z.mdb] WHERE a = 1", QueryKind::MakeTable,
+     "SELECT a INTO T2 IN 'C:\\x y.mdb'\nFROM T IN '' [;DATABASE=C:\\z.mdb]\nWHERE a = 1;\n"},
+    {"INSERT INTO T IN 'C:\\x.mdb' (a) SELECT b FROM U", QueryKind::Append,
+     "INSERT INTO T IN 'C:\\x.mdb' ( a )\nSELECT b\nFROM U;\n"},
+    {"SELECT a FROM T WITH OWNERACCESS OPTION", QueryKind::Select,
+     "SELECT a\nFROM T\nWITH OWNERACCESS OPTION;\n"},
+    {"DELETE DISTINCTROW T.a, T.b FROM T INNER JOIN U ON T.k = U.k", QueryKind::Delete,
+     "DELETE DISTINCTROW T.a, T.b\nFROM T INNER JOIN U ON T.k = U.k;\n"},
+    {"UPDATE DISTINCTROW T SET a = 1", QueryKind::Update, "UPDATE DISTINCTROW T SET a = 1;\n"},
+    {"TABLE T UNION ALL TABLE U", QueryKind::Union, "TABLE T\nUNION ALL TABLE U;\n"},
+    {"TABLE [Il nome]", QueryKind::Select, "SELECT *\nFROM [Il nome];\n"},
+    {"SELECT q.a FROM [SELECT a FROM T]. AS q", QueryKind::Select,
+     "SELECT q.a\nFROM (SELECT a FROM T) AS q;\n"},
+    {"(SELECT a FROM T) UNION (SELECT b FROM U)", QueryKind::Union,
+     "(SELECT a FROM T)\nUNION (SELECT b FROM U);\n"},
+    {"ALTER TABLE T DROP COLUMN a;", QueryKind::DataDefinition, "ALTER TABLE T DROP COLUMN a;"},
     {"DROP TABLE [Il nome]", QueryKind::DataDefinition, "DROP TABLE [Il nome]"},
 };
 
@@ -149,6 +174,14 @@ TEST(StoredQuery, RowsAreThoseOfTheEngine) {
       {"INSERT INTO [T u] SELECT a FROM V", Row::Kind, {"1|T u|-|-|3"}},
       {"PARAMETERS [x y] Text(30), n Short; SELECT [x y]", Row::Parameter, {"2|x y|-|-|10", "2|n|-|-|3"}},
       {"DELETE * FROM T", Row::Options, {"3|-|-|-|1"}},
+      {"TRANSFORM Sum(x) SELECT a FROM T GROUP BY a PIVOT b IN (1, 2)",
+       Row::Output,
+       {"6|-|-|Sum(x)|0", "6|-|-|a|2", "6|-|-|b IN (1, 2)|1"}},
+      {"TRANSFORM Sum(x) SELECT a FROM T GROUP BY a PIVOT b IN (1, 2)",
+       Row::GroupBy,
+       {"9|-|-|a|2", "9|-|-|b|1"}},
+      {"SELECT a INTO [T u] IN 'C:\\x.mdb' FROM V", Row::Kind, {"1|T u|C:\\x.mdb|-|2"}},
+      {"SELECT a FROM V IN '' [;DATABASE=C:\\x.mdb]", Row::OtherDatabase, {"4|-|-|;DATABASE=C:\\x.mdb|-"}},
   };
   for (const auto& test : cases)
     EXPECT_EQ(rowsOf(takeApart(test.sql), test.attribute), test.rows) << test.sql;
@@ -206,7 +239,8 @@ TEST(StoredQuery, WhatCannotBeKeptIsRefused) {
   } cases[] = {{"SELECT a FROM", 3131},
                {"SELECT a +", 3075},
                {"", 3129},
-               {"INSERT INTO T SELECT a FROM U UNION SELECT b FROM V", 3129}};
+               {"INSERT INTO T SELECT a FROM U UNION SELECT b FROM V", 3129},
+               {"(SELECT a FROM T) ORDER BY a", 3129}};
   for (const auto& test : cases) {
     try {
       takeApart(test.sql);

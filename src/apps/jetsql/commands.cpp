@@ -1,12 +1,13 @@
 #include "apps/jetsql/commands.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string_view>
+#include <utility>
 
 #include "apps/jetsql/design.h"
 #include "apps/jetsql/output.h"
 #include "jet/dao/database.h"
+#include "jet/file/definition.h"
 #include "runtime/error.h"
 
 namespace jetsql {
@@ -38,11 +39,25 @@ std::string withLineFeeds(std::string text) {
   return text;
 }
 
-bool isSystemTable(const std::string& name) {
-  static constexpr std::string_view prefix = "msys";
-  return name.size() >= prefix.size() &&
-         std::equal(prefix.begin(), prefix.end(), name.begin(),
-                    [](char a, char b) { return a == std::tolower(static_cast<unsigned char>(b)); });
+bool isSystem(const jet::dao::TableDef& table) {
+  return (table.Attributes() & jet::dao::dbSystemObject) != 0;
+}
+
+std::string queryTypeName(int type) {
+  static constexpr std::pair<int, const char*> names[] = {
+      {jet::dao::dbQSelect, "SELECT"},
+      {jet::dao::dbQCrosstab, "TRANSFORM"},
+      {jet::dao::dbQDelete, "DELETE"},
+      {jet::dao::dbQUpdate, "UPDATE"},
+      {jet::dao::dbQAppend, "INSERT"},
+      {jet::dao::dbQMakeTable, "SELECT INTO"},
+      {jet::dao::dbQDDL, "DDL"},
+      {jet::dao::dbQSQLPassThrough, "PASS-THROUGH"},
+      {jet::dao::dbQSetOperation, "UNION"},
+  };
+  for (const auto& [known, name] : names)
+    if (known == type) return name;
+  return std::to_string(type);
 }
 
 void refuseArguments(const std::string& arguments) {
@@ -52,9 +67,10 @@ void refuseArguments(const std::string& arguments) {
 void listTables(Database& database, const std::string& arguments, Output& output) {
   refuseArguments(arguments);
   output.columns({"Name", "System"});
-  for (const auto& each : database.TableDefs()) output.row({each->Name(), isSystemTable(each->Name())});
+  for (const auto& table : database.TableDefs()) output.row({table->Name(), isSystem(*table)});
 }
 
+/// One table with the relations that lead out of it, or all: the tables first, so that relations find theirs.
 void showDesign(Database& database, const std::string& arguments, Output& output) {
   std::string rest = arguments;
   const std::string chosen = takeName(rest);
@@ -63,17 +79,19 @@ void showDesign(Database& database, const std::string& arguments, Output& output
   if (!chosen.empty()) {
     text = designStatements(*database.TableDefs(chosen));
   } else {
-    for (const auto& each : database.TableDefs()) {
-      if (!isSystemTable(each->Name())) text += designStatements(*each);
-    }
+    for (const auto& table : database.TableDefs())
+      if (!isSystem(*table)) text += designStatements(*table);
   }
+  for (const auto& relation : database.Relations())
+    if (chosen.empty() || jet::file::sameName(relation->ForeignTable(), chosen))
+      text += designStatement(*relation);
   output.text(text);
 }
 
 void listQueries(Database& database, const std::string& arguments, Output& output) {
   refuseArguments(arguments);
-  output.columns({"Name"});
-  for (const auto& query : database.QueryDefs()) output.row({query->Name()});
+  output.columns({"Name", "Type"});
+  for (const auto& query : database.QueryDefs()) output.row({query->Name(), queryTypeName(query->Type())});
 }
 
 void listRelations(Database& database, const std::string& arguments, Output& output) {
@@ -81,10 +99,10 @@ void listRelations(Database& database, const std::string& arguments, Output& out
   output.columns({"Name", "Table", "ForeignTable", "Attributes", "Fields"});
   for (const auto& relation : database.Relations()) {
     std::string fields;
-    for (const auto& pair : relation->Fields()) {
+    for (const auto& pair : relation->Fields())
       fields += (fields.empty() ? "" : ", ") + pair.Name() + " = " + pair.ForeignName();
-    }
-    output.row({relation->Name(), relation->Table(), relation->ForeignTable(), relation->Attributes(), fields});
+    output.row(
+        {relation->Name(), relation->Table(), relation->ForeignTable(), relation->Attributes(), fields});
   }
 }
 
@@ -94,7 +112,10 @@ void keepQuery(Database& database, const std::string& arguments, Output& output)
   const std::string name = takeName(sql);
   if (name.empty()) throw runtime::Error(5, "jetsql", ".query vuole il nome di una query");
   if (sql.empty()) return output.text(withLineFeeds(database.QueryDefs(name)->SQL()));
-  database.CreateQueryDef(name, sql)->Close();
+  if (database.QueryDefs().contains(name))
+    database.QueryDefs(name)->setSQL(sql);
+  else
+    database.CreateQueryDef(name, sql);
 }
 
 void showHelp(Database&, const std::string& arguments, Output& output) {
@@ -108,10 +129,12 @@ void endSession(Database&, const std::string& arguments, Output&) {
 
 constexpr Command table[] = {
     {".tables", "", "elenca le tabelle, anche quelle di sistema", listTables},
-    {".schema", "[TABELLA]", "mostra le istruzioni che creano la tabella, o tutte", showDesign},
-    {".queries", "", "elenca le query memorizzate", listQueries},
+    {".schema", "[TABELLA]", "mostra le istruzioni che creano la tabella e le sue relazioni, o tutte",
+     showDesign},
+    {".queries", "", "elenca le query memorizzate con il loro tipo", listQueries},
     {".relations", "", "elenca le relazioni", listRelations},
-    {".query", "NOME [SQL]", "mostra una query, o la memorizza; un nome con spazi va tra parentesi quadre",
+    {".query", "NOME [SQL]",
+     "mostra una query, o la memorizza al posto della vecchia; un nome con spazi va tra parentesi quadre",
      keepQuery},
     {".help", "", "mostra questi comandi", showHelp},
     {".quit", "", "termina", endSession, true},

@@ -1,6 +1,7 @@
 #include "apps/jetsql/design.h"
 
 #include "jet/dao/constants.h"
+#include "jet/dao/relation.h"
 #include "jet/dao/table_def.h"
 
 namespace jetsql {
@@ -28,15 +29,14 @@ constexpr TypeName typeNames[] = {
     {dbLongBinary, "LONGBINARY", false},
     {dbMemo, "MEMO", false},
     {dbGUID, "GUID", false},
-    {dbDecimal, "DECIMAL", false},
 };
 
 std::string typeText(const Field& field) {
   if (field.Type() == dbLong && (field.Attributes() & dbAutoIncrField)) return "COUNTER";
+  if (field.Type() == dbDecimal)
+    return "DECIMAL(" + std::to_string(field.precision()) + ", " + std::to_string(field.scale()) + ")";
   for (const auto& candidate : typeNames) {
     if (candidate.type != field.Type()) continue;
-    if (field.Type() == dbDecimal)
-      return "DECIMAL(" + std::to_string(field.precision()) + ", " + std::to_string(field.scale()) + ")";
     if (!candidate.sized) return candidate.name;
     return std::string(candidate.name) + "(" + std::to_string(field.Size()) + ")";
   }
@@ -47,15 +47,34 @@ std::string bracketed(const std::string& name) {
   return "[" + name + "]";
 }
 
+/// A default may be written with an equals sign in front, and may be an expression that needs parentheses.
+std::string defaultText(std::string value) {
+  if (value.starts_with('=')) value.erase(0, 1);
+  if (value.empty()) return {};
+  const bool plain = value.find_first_of(" =<>&+*/^") == std::string::npos;
+  return " DEFAULT " + (plain ? value : "(" + value + ")");
+}
+
+std::string columnText(const Field& field) {
+  return bracketed(field.Name()) + " " + typeText(field) + (field.Required() ? " NOT NULL" : "") +
+         defaultText(field.DefaultValue());
+}
+
+/// Names in brackets with a comma between.
+template <class Items, class Name>
+std::string nameList(const Items& items, Name name) {
+  std::string list;
+  for (const auto& item : items) list += (list.empty() ? "" : ", ") + name(item);
+  return "(" + list + ")";
+}
+
 std::string indexStatement(const std::string& table, Index& index) {
-  std::string text = std::string(index.Unique() && !index.Primary() ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
-                     bracketed(index.Name()) + " ON " + bracketed(table) + " (";
-  const char* separator = "";
-  for (const auto& part : index.Fields()) {
-    text += separator + bracketed(part.Name()) + (part.Attributes() & dbDescending ? " DESC" : "");
-    separator = ", ";
-  }
-  text += ")";
+  const std::string text =
+      std::string(index.Unique() && !index.Primary() ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
+      bracketed(index.Name()) + " ON " + bracketed(table) + " " +
+      nameList(index.Fields(), [](const Field& field) {
+        return bracketed(field.Name()) + (field.Attributes() & dbDescending ? " DESC" : "");
+      });
   if (index.Primary()) return text + " WITH PRIMARY;\n";
   if (index.Required()) return text + " WITH DISALLOW NULL;\n";
   if (index.IgnoreNulls()) return text + " WITH IGNORE NULL;\n";
@@ -65,19 +84,29 @@ std::string indexStatement(const std::string& table, Index& index) {
 }  // namespace
 
 std::string designStatements(TableDef& table) {
-  std::string text = "CREATE TABLE " + bracketed(table.Name()) + " (";
-  const char* separator = "\n  ";
-  for (const auto& field : table.Fields()) {
-    text += separator + bracketed(field.Name()) + " " + typeText(field) +
-            (field.Required() ? " NOT NULL" : "") +
-            (field.DefaultValue().empty() ? "" : " DEFAULT " + field.DefaultValue());
-    separator = ",\n  ";
-  }
-  text += ");\n";
-  for (const auto& index : table.Indexes()) {
-    if (!index->Foreign()) text += indexStatement(table.Name(), *index);
-  }
+  if (const std::string source = table.Connect(); !source.empty())
+    return "-- " + bracketed(table.Name()) + " è collegata a " + bracketed(table.SourceTableName()) + " in " +
+           source + "\n";
+  std::string text;
+  for (const auto& field : table.Fields()) text += (text.empty() ? "\n  " : ",\n  ") + columnText(field);
+  text = "CREATE TABLE " + bracketed(table.Name()) + " (" + text + ");\n";
+  // The engine names the index that a relation puts on the table it points at with a dot in front.
+  for (const auto& index : table.Indexes())
+    if (!index->Foreign() && !index->Name().starts_with('.')) text += indexStatement(table.Name(), *index);
   return text;
+}
+
+std::string designStatement(Relation& relation) {
+  const auto own = [](const Field& pair) { return bracketed(pair.ForeignName()); };
+  const auto theirs = [](const Field& pair) { return bracketed(pair.Name()); };
+  const int attributes = relation.Attributes();
+  std::string text = "ALTER TABLE " + bracketed(relation.ForeignTable()) + " ADD CONSTRAINT " +
+                     bracketed(relation.Name()) + " FOREIGN KEY " + nameList(relation.Fields(), own) +
+                     " REFERENCES " + bracketed(relation.Table()) + " " + nameList(relation.Fields(), theirs);
+  if (attributes & dbRelationUpdateCascade) text += " ON UPDATE CASCADE";
+  if (attributes & dbRelationDeleteCascade) text += " ON DELETE CASCADE";
+  // No statement makes a relation that only tells how tables belong together.
+  return (attributes & dbRelationDontEnforce ? "-- non applicata: " : "") + text + ";\n";
 }
 
 }  // namespace jetsql

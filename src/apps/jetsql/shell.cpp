@@ -7,6 +7,7 @@
 namespace jetsql {
 namespace {
 
+constexpr int noSuchItem = 3265;
 constexpr int returnsRows = 3065;
 
 }  // namespace
@@ -31,15 +32,18 @@ void Shell::runStatement(const std::string& text) {
 
 void Shell::answerParameters(jet::dao::QueryDef& query) {
   for (auto& answer : answers_) {
-    if (!query.Parameters().contains(answer.parameter.name)) continue;
-    query.Parameters(answer.parameter.name).setValue(answer.parameter.value);
-    answer.used = true;
+    try {
+      query.Parameters(answer.parameter.name).setValue(answer.parameter.value);
+      answer.used = true;
+    } catch (const runtime::Error& error) {
+      if (error.number() != noSuchItem) throw;
+    }
   }
 }
 
 void Shell::printRows(jet::dao::Recordset& rows) {
   std::vector<std::string> names;
-  for (const auto& field : rows.Fields()) names.push_back(field.Name());
+  for (std::size_t i = 0; i < rows.Fields().Count(); ++i) names.push_back(rows.Fields(i).Name());
   output_.columns(names);
   std::vector<runtime::Variant> values(names.size());
   for (; !rows.atEnd(); rows.MoveNext()) {

@@ -17,8 +17,7 @@ constexpr std::string_view DatabaseKey = ";DATABASE=";
 
 /// The path in ";DATABASE=path"; whatever else follows a semicolon is left out.
 std::string linkedPath(const std::string& connect) {
-  const auto start = connect.starts_with(';') ? file::nameKey(connect).find(file::nameKey(DatabaseKey)) : 1;
-  if (start != 0)
+  if (!file::sameName(connect.substr(0, DatabaseKey.size()), DatabaseKey))
     throw runtime::Error(3170, Source, "Origine di una tabella collegata non disponibile: " + connect);
   return connect.substr(DatabaseKey.size(), connect.find(';', 1) - DatabaseKey.size());
 }

@@ -12,6 +12,7 @@ namespace {
 using file::ColumnType;
 
 constexpr char Source[] = "DAO.Field";
+constexpr std::uint8_t DefaultPrecision = 18;  // of a Decimal, which has no decimals unless SQL says so
 
 [[noreturn]] void invalidOperation() {
   throw runtime::Error(3219, Source, "Operazione non valida per un campo di tabella");
@@ -185,6 +186,7 @@ file::Column TableField::column() const {
   if (sized && (size < 1 || size > 510 || (type == ColumnType::Text && size > 255)))
     throw runtime::Error(3259, Source, "Dimensione non valida per il campo " + draft_.name);
   auto column = image::newColumn(draft_.name, type, static_cast<std::uint16_t>(sized ? size : 0));
+  if (type == ColumnType::Numeric) column.precision = DefaultPrecision;
   if (draft_.attributes & dbAutoIncrField) {
     if (type != ColumnType::Long)
       throw runtime::Error(3259, Source, "Il contatore " + draft_.name + " deve essere di tipo Long");

@@ -67,6 +67,8 @@ std::uint32_t Image::createObject(const std::string& name, file::ObjectType type
 
 void Image::changeObject(std::uint32_t id, const std::string& name, std::uint32_t flags) {
   requireWritable();
+  const auto other = findObject(name);
+  if (other && other->id != id) throw runtime::Error(3012, Source, "Oggetto già presente: " + name);
   Transaction whole(*this);
   renameObject(id, name);
   auto update = connection_.prepare("UPDATE t2 SET c7 = ?2 WHERE c0 = ?1");

@@ -9,14 +9,22 @@ tree::Delete Parser::deletion() {
   if (cursor_.acceptSymbol("*")) {
     deletion.target = tree::Star{};
   } else if (!cursor_.atWord("FROM")) {
-    deletion.target = tree::Star{cursor_.expectName(DeleteSyntax)};
-    if (!cursor_.acceptSymbol(".")) cursor_.expectSymbol("!", DeleteSyntax);
-    if (!cursor_.acceptSymbol("*")) cursor_.expectName(DeleteSyntax);
+    deletion.target = tree::Star{deletedTable()};
+    // The engine writes the columns of a condition behind.
+    while (cursor_.acceptSymbol(",")) deletedTable();
   }
   cursor_.expectWord("FROM", DeleteSyntax);
   deletion.from = from();
   deletion.where = where();
   return deletion;
+}
+
+/// table.* or table.column: which column makes no difference.
+std::string Parser::deletedTable() {
+  std::string table = cursor_.expectName(DeleteSyntax);
+  if (!cursor_.acceptSymbol(".")) cursor_.expectSymbol("!", DeleteSyntax);
+  if (!cursor_.acceptSymbol("*")) cursor_.expectName(DeleteSyntax);
+  return table;
 }
 
 }  // namespace jet::sql

@@ -73,6 +73,7 @@ class Parser {
   // update.cpp, delete.cpp, insert.cpp
   tree::Update update();
   tree::Delete deletion();
+  std::string deletedTable();
   tree::Insert insert();
 
   // table.cpp, constraint.cpp, index.cpp

@@ -73,6 +73,7 @@ decltype(Statement::body) Parser::selection() {
 Transform Parser::transform() {
   cursor_.expectWord("TRANSFORM", TransformSyntax);
   Expression value = expression();
+  cursor_.acceptAlias(true, TransformSyntax);  // the engine writes one, and shows it nowhere
   if (!cursor_.atWord("SELECT")) cursor_.fail(TransformSyntax);
   Query rows = query();
   cursor_.expectWord("PIVOT", TransformSyntax);

@@ -58,7 +58,7 @@ std::int16_t FromRows::joinAt(std::size_t index) const {
 
 FromRows::Names FromRows::single() {
   if (!text_.at(at_).isSymbol("(")) return table();
-  if (text_.isWord(at_ + 1, "SELECT")) return subquery();
+  if (text_.isWord(at_ + 1, "SELECT") || text_.isWord(at_ + 1, "TABLE")) return subquery();
   ++at_;
   Names names = source();
   ++at_;  // the closing parenthesis
@@ -66,13 +66,13 @@ FromRows::Names FromRows::single() {
 }
 
 FromRows::Names FromRows::table() {
+  // An older way to write a query in FROM: [SELECT ...]. AS name
+  if (text_.at(at_).kind == Token::Kind::QuotedName && text_.at(at_ + 1).isSymbol(".")) {
+    at_ += 2;
+    return query(text_.at(at_ - 2).text);
+  }
   QueryRow& row = rows_.add(QueryRow::Source);
   row.name1 = text_.at(at_++).text;
-  if (text_.at(at_).isSymbol(".")) {
-    row.expression = std::move(row.name1);
-    row.name1 = text_.at(at_ + 1).text;
-    at_ += 2;
-  }
   const std::string name = alias();
   if (name.empty()) return {*row.name1};
   row.name2 = name;
@@ -80,9 +80,13 @@ FromRows::Names FromRows::table() {
 }
 
 FromRows::Names FromRows::subquery() {
-  const std::size_t close = text_.closing(at_, end_);
-  QueryRow& row = rows_.add(QueryRow::Source, text_.text({at_ + 1, close}));
-  at_ = close + 1;
+  const Span parenthesised{at_, text_.closing(at_, end_) + 1};
+  at_ = parenthesised.end;
+  return query(text_.text(inside(parenthesised)));
+}
+
+FromRows::Names FromRows::query(std::string text) {
+  QueryRow& row = rows_.add(QueryRow::Source, std::move(text));
   std::string name = alias();
   if (name.empty()) {
     name = UnnamedSubquery;
@@ -94,7 +98,7 @@ FromRows::Names FromRows::subquery() {
 
 std::string FromRows::alias() {
   if (at_ >= end_) return {};
-  if (text_.isWord(at_, "AS")) ++at_;
+  if (text_.at(at_).isWord("AS")) ++at_;  // behind the dot of an older query as well
   const Token& token = text_.at(at_);
   const bool isName =
       token.kind == Token::Kind::QuotedName || (token.kind == Token::Kind::Word && !isReserved(token));
@@ -120,7 +124,7 @@ void FromRows::addJoin(std::int16_t kind, const Names& left, const Names& right,
   if (parts.size() < 2 || !comparisons) return addRow(condition);
   std::ranges::reverse(parts);
   for (Span part : parts) {
-    if (text_.isParenthesised(part)) part = {part.begin + 1, part.end - 1};
+    if (text_.isParenthesised(part)) part = inside(part);
     addRow(part);
   }
 }
@@ -128,7 +132,7 @@ void FromRows::addJoin(std::int16_t kind, const Names& left, const Names& right,
 /// The parts that AND joins; the AND of BETWEEN joins none.
 std::vector<Span> FromRows::conjuncts(Span condition) const {
   static constexpr std::string_view weaker[] = {"OR", "XOR", "EQV", "IMP"};
-  while (text_.isParenthesised(condition)) condition = {condition.begin + 1, condition.end - 1};
+  while (text_.isParenthesised(condition)) condition = inside(condition);
   for (const std::string_view word : weaker)
     if (text_.findWord(condition, word) != condition.end) return {condition};
   std::vector<Span> parts;

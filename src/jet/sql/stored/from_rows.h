@@ -31,6 +31,8 @@ class FromRows {
   Names single();
   Names table();
   Names subquery();
+  /// The text of a query was read; its alias follows.
+  Names query(std::string text);
   std::string alias();
   std::int16_t joinAt(std::size_t index) const;
   void addJoin(std::int16_t kind, const Names& left, const Names& right, Span condition);

@@ -26,9 +26,12 @@ struct Node {
 using NodePtr = std::unique_ptr<Node>;
 
 bool isQuery(std::string_view expression) {
-  constexpr std::string_view select = "SELECT";
   const std::size_t first = expression.find_first_not_of(" \t\r\n(");
-  return first != std::string_view::npos && sameWord(expression.substr(first, select.size()), select);
+  if (first == std::string_view::npos) return false;
+  const auto begins = [&](std::string_view word) {
+    return sameWord(expression.substr(first, word.size()), word);
+  };
+  return begins("SELECT") || begins("TABLE ");
 }
 
 /// Without blanks and semicolons at the end.

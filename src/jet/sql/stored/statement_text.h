@@ -16,6 +16,11 @@ struct Span {
   bool empty() const { return begin >= end; }
 };
 
+/// What stands between a pair of parentheses.
+inline Span inside(Span parenthesised) {
+  return {parenthesised.begin + 1, parenthesised.end - 1};
+}
+
 /// A statement with its tokens: finds words outside of parentheses, and gives the text of a span as it was
 /// written. An index behind the last token stands for the end of the statement.
 class StatementText {

@@ -55,7 +55,7 @@ struct StoredQuery {
 };
 
 /// Takes the text of a query apart. Error 3075 and kin for syntax; 3129 for what rows can't keep: INSERT of a
-/// UNION.
+/// UNION or of a query in parentheses.
 StoredQuery takeApart(std::string_view sql);
 
 /// The text of a query: each clause on a line of its own, a closing semicolon, CR LF at the ends of lines.

@@ -64,6 +64,8 @@ class TakingApart {
   void parameters(Span list);
   void parameter(Span declaration);
   QueryKind query(Span statement);
+  QueryKind single(Span statement);
+  [[noreturn]] void cannotKeep(const char* what, std::size_t token) const;
   QueryKind select(Span statement, const std::vector<std::string>& targets);
   void unionHalves(Span statement, std::size_t last);
   QueryKind crosstab(Span statement);
@@ -110,7 +112,8 @@ StoredQuery TakingApart::run() {
 
 QueryKind TakingApart::body(Span statement) {
   const std::size_t first = statement.begin;
-  if (text_.isWord(first, "SELECT") || text_.at(first).isSymbol("(")) return query(statement);
+  const bool isTable = text_.isWord(first, "TABLE");
+  if (isTable || text_.isWord(first, "SELECT") || text_.at(first).isSymbol("(")) return query(statement);
   if (text_.isWord(first, "TRANSFORM")) return crosstab(statement);
   if (text_.isWord(first, "INSERT")) return append(statement);
   if (text_.isWord(first, "UPDATE")) return update(statement);
@@ -133,13 +136,28 @@ void TakingApart::parameter(Span declaration) {
   if (size < declaration.end) row.size = std::atoi(text_.at(size + 1).text.c_str());
 }
 
+[[noreturn]] void TakingApart::cannotKeep(const char* what, std::size_t token) const {
+  throw SyntaxError(InvalidStatement, std::string("non si può memorizzare ") + what,
+                    text_.at(token).position);
+}
+
+/// SELECT or TABLE
+QueryKind TakingApart::single(Span statement) {
+  if (text_.at(statement.begin).isSymbol("(")) cannotKeep("una SELECT tra parentesi", statement.begin);
+  if (!text_.isWord(statement.begin, "TABLE")) return select(statement, {});
+  options_ = AllColumns;
+  FromRows(text_, rows_).add({statement.begin + 1, statement.end});
+  return QueryKind::Select;
+}
+
 QueryKind TakingApart::query(Span statement) {
   std::size_t last = statement.end;
   for (Span rest = statement; rest.begin < rest.end; ++rest.begin) {
     rest.begin = text_.findWord(rest, "UNION");
     if (rest.begin < rest.end) last = rest.begin;
   }
-  if (last == statement.end) return select(statement, {});
+  while (last == statement.end && text_.isParenthesised(statement)) statement = inside(statement);
+  if (last == statement.end) return single(statement);
   unionHalves(statement, last);
   return QueryKind::Union;
 }
@@ -261,7 +279,7 @@ QueryKind TakingApart::crosstab(Span statement) {
   for (const Span item : text_.list(clauses[Clause::Select])) output(item).flag = RowHeading;
   conditions(clauses);
   expressions(QueryRow::GroupBy, clauses[Clause::GroupBy], RowHeading);
-  // The columns listed behind IN belong to the heading, but not to the grouping.
+  // The columns that IN lists belong to the heading, but not to the grouping.
   Span pivot = clauses[Clause::Pivot];
   rows_.add(QueryRow::Output, text_.text(pivot)).flag = PivotColumn;
   pivot.end = text_.find(pivot, [&](std::size_t i) {
@@ -277,17 +295,17 @@ QueryKind TakingApart::append(Span statement) {
   constexpr std::size_t words = 2;  // INSERT INTO
   const std::size_t rows = text_.find(
       statement, [&](std::size_t i) { return text_.isWord(i, "VALUES") || text_.isWord(i, "SELECT"); });
+  if (rows == statement.end) cannotKeep("l'inserimento di una query tra parentesi", statement.begin);
   Span target{statement.begin + words, rows};
   const std::size_t open = text_.findSymbol(target, "(");
   std::vector<std::string> columns;
   if (open < target.end)
     for (const Span name : text_.list({open + 1, text_.closing(open, target.end)}))
       columns.push_back(text_.at(name.end - 1).text);
-  intoTable({target.begin, open});
+  intoTable(target);
   if (text_.isWord(rows, "SELECT")) {
     if (text_.findWord({rows, statement.end}, "UNION") != statement.end)
-      throw SyntaxError(InvalidStatement, "INSERT di una UNION non si può memorizzare",
-                        text_.at(rows).position);
+      cannotKeep("l'inserimento di una UNION", rows);
     select({rows, statement.end}, columns);
     return QueryKind::Append;
   }
