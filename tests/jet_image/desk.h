@@ -73,7 +73,12 @@ class Desk {
     session_->save();
     session_.reset();
     jet::dao::DBEngine::CompactDatabase(path_, path_ + ".new");
-    platform::copyFile(path_ + ".new", path_);
+    goOnWith(path_ + ".new");
+  }
+  /// Goes on over another file, without saving.
+  void goOnWith(const std::string& path) {
+    session_.reset();
+    platform::copyFile(path, path_);
     abandon();
   }
   /// What the checker has against the file, as it was last saved.

@@ -10,7 +10,8 @@
 
 /// Fields on their way between the file's form and the image's. The image keeps
 ///   Boolean INTEGER -1 or 0, Byte Integer Long INTEGER, Currency INTEGER in ten-thousandths, Single Double
-///   Date REAL, Text Memo TEXT, Numeric TEXT of decimal digits, Guid Binary OLE Raw BLOB.
+///   Date REAL (what is no number: BLOB of its bytes), Text Memo TEXT, Numeric TEXT of decimal digits, Guid
+///   Binary OLE Raw BLOB.
 namespace jet::image {
 
 /// SQLite type and collation of a column of the image ("TEXT COLLATE JET").
