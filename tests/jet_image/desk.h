@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -80,6 +81,11 @@ class Desk {
     session_.reset();
     platform::copyFile(path, path_);
     abandon();
+  }
+  /// Copies the file as it was last saved; the path of the copy.
+  std::string copy(const std::string& name) const {
+    std::filesystem::copy_file(platform::toSystemPath(path_), platform::toSystemPath(path(name)));
+    return path(name);
   }
   /// What the checker has against the file, as it was last saved.
   std::string complaints(const std::string& options = "--strict") const {

@@ -246,6 +246,11 @@ file::FieldBytes ImageRows::encode(std::size_t index) {
   return {false, buffer};
 }
 
+double realValue(sqlite3_stmt* statement, int column) {
+  if (sqlite3_column_type(statement, column) == SQLITE_BLOB) return std::numeric_limits<double>::quiet_NaN();
+  return sqlite3_column_double(statement, column);
+}
+
 std::string tableName(std::uint32_t page) {
   return "t" + std::to_string(page);
 }
