@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -73,8 +74,18 @@ class Desk {
     session_->save();
     session_.reset();
     jet::dao::DBEngine::CompactDatabase(path_, path_ + ".new");
-    platform::copyFile(path_ + ".new", path_);
+    goOnWith(path_ + ".new");
+  }
+  /// Goes on over another file, without saving.
+  void goOnWith(const std::string& path) {
+    session_.reset();
+    platform::copyFile(path, path_);
     abandon();
+  }
+  /// Copies the file as it was last saved; the path of the copy.
+  std::string copy(const std::string& name) const {
+    std::filesystem::copy_file(platform::toSystemPath(path_), platform::toSystemPath(path(name)));
+    return path(name);
   }
   /// What the checker has against the file, as it was last saved.
   std::string complaints(const std::string& options = "--strict") const {

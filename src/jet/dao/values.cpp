@@ -6,6 +6,7 @@
 #include "jet/file/text.h"
 #include "jet/file/values.h"
 #include "jet/image/decimal.h"
+#include "jet/image/row_codec.h"
 #include "jet/sql/decimal.h"
 #include "runtime/error.h"
 
@@ -175,16 +176,17 @@ Variant fromImage(const image::Statement& row, int column, Type type) {
     case Type::Currency:
       return Variant(runtime::Currency{row.integer(column)});
     case Type::Single:
-      return Variant(static_cast<float>(sqlite3_column_double(row.handle(), column)));
+      return Variant(static_cast<float>(image::realValue(row.handle(), column)));
     case Type::Double:
-      return Variant(sqlite3_column_double(row.handle(), column));
+      return Variant(image::realValue(row.handle(), column));
     case Type::Date:
-      return Variant(runtime::Date{sqlite3_column_double(row.handle(), column)});
+      return Variant(runtime::Date{image::realValue(row.handle(), column)});
     case Type::Decimal: {
       const auto digits = text(row, column);
       const auto point = digits.find('.');
       const auto scale = point == std::string_view::npos ? 0 : digits.size() - point - 1;
-      return Variant(image::parseDecimal(digits, static_cast<std::uint8_t>(scale)));
+      return Variant(
+          image::parseDecimal(digits, static_cast<std::uint8_t>(scale), image::DecimalFieldDigits));
     }
     case Type::Guid: {
       const auto value = bytes(row, column);

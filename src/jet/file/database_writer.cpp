@@ -132,14 +132,18 @@ void ChangedDatabase::planTables() {
 /// page, nothing of a kept table is lost.
 void ChangedDatabase::planSpace() {
   space_ = readGlobalMap(source_);
+  std::map<std::uint32_t, TablePages> staying;  // of tables whose content is carried over
   std::set<std::uint32_t> keptMapPages;
   for (const auto& [page, plan] : plans_) {
     if (!plan.isKept()) {
       for (const std::uint32_t number : plan.before.pages) space_.release(number);
       for (const std::uint32_t number : plan.pages.content) space_.release(number);
     }
-    if (!plan.dropped)
-      for (const RowPointer map : plan.pages.maps) keptMapPages.insert(map.page);
+    if (plan.keepsContent()) staying[page] = findPages(source_, plan.change->definition);
+    if (plan.dropped) continue;
+    // A table that is rewritten has use for the places of all its maps.
+    for (const RowPointer map : plan.keepsContent() ? staying[page].maps : plan.pages.maps)
+      keptMapPages.insert(map.page);
   }
   space_.use(0);
   space_.use(GlobalMap.page);
@@ -153,7 +157,7 @@ void ChangedDatabase::planSpace() {
     if (plan.isKept())
       for (const std::uint32_t number : plan.before.pages) space_.use(number);
     if (plan.isRewritten()) continue;
-    const TablePages stay = plan.isKept() ? plan.pages : findPages(source_, plan.change->definition);
+    const TablePages& stay = plan.isKept() ? plan.pages : staying[page];
     for (const std::uint32_t number : stay.content) space_.use(number);
     std::vector<RowPointer> gone = plan.pages.maps;
     std::erase_if(gone, [&](RowPointer map) { return std::ranges::find(stay.maps, map) != stay.maps.end(); });

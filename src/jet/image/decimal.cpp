@@ -12,8 +12,6 @@ namespace {
 
 __extension__ using Magnitude = unsigned __int128;
 
-constexpr int MaxDigits = 28;
-
 [[noreturn]] void notANumber(std::string_view text) {
   throw runtime::Error(3421, "DAO.Field", "Errore di conversione del tipo di dati: " + std::string(text));
 }
@@ -73,7 +71,7 @@ std::string decimalText(const runtime::Decimal& value) {
   return (value.negative && value.magnitude != 0 ? "-" : "") + digits;
 }
 
-runtime::Decimal parseDecimal(std::string_view text, std::uint8_t scale) {
+runtime::Decimal parseDecimal(std::string_view text, std::uint8_t scale, int mostDigits) {
   Digits parts = readDigits(text);
   // The digits that count end at 10^-scale.
   const long wanted = static_cast<long>(parts.digits.size()) + parts.exponent + scale;
@@ -87,16 +85,20 @@ runtime::Decimal parseDecimal(std::string_view text, std::uint8_t scale) {
     const auto first = parts.digits.find_first_not_of('0');
     if (first == std::string::npos)
       parts.digits = "0";
-    else if (wanted - static_cast<long>(first) > MaxDigits)
+    else if (wanted - static_cast<long>(first) > mostDigits)
       throw runtime::languageError(runtime::Overflow);
     else
       parts.digits.resize(static_cast<std::size_t>(wanted), '0');
   }
   runtime::Decimal result{.negative = parts.negative, .scale = scale, .magnitude = 0};
   const auto significant = parts.digits.find_first_not_of('0');
-  if (significant != std::string::npos && parts.digits.size() - significant > MaxDigits)
+  if (significant != std::string::npos &&
+      parts.digits.size() - significant > static_cast<std::size_t>(mostDigits))
     throw runtime::languageError(runtime::Overflow);
-  for (const char c : parts.digits) result.magnitude = result.magnitude * 10 + static_cast<unsigned>(c - '0');
+  for (const char c : parts.digits)
+    if (__builtin_mul_overflow(result.magnitude, Magnitude{10}, &result.magnitude) ||
+        __builtin_add_overflow(result.magnitude, static_cast<Magnitude>(c - '0'), &result.magnitude))
+      throw runtime::languageError(runtime::Overflow);
   if (up) result.magnitude += 1;
   return result;
 }

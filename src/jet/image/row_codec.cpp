@@ -1,5 +1,6 @@
 #include "jet/image/row_codec.h"
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -70,6 +71,13 @@ struct ResultTarget {
   }
 };
 
+/// What is no number would become a Null in SQLite: it keeps its bytes instead.
+template <typename Target>
+void giveReal(Target target, double value, std::span<const std::byte> bytes) {
+  if (std::isnan(value)) return target.blob(bytes);
+  target.real(value);
+}
+
 template <typename Target>
 void give(Target target, const file::Header& header, const file::TableDefinition& table,
           const file::Column& column, const file::FieldBytes& field, std::string& text) {
@@ -87,10 +95,10 @@ void give(Target target, const file::Header& header, const file::TableDefinition
     case ColumnType::Currency:
       return target.integer(load<std::int64_t>(field.bytes));
     case ColumnType::Single:
-      return target.real(load<float>(field.bytes));
+      return giveReal(target, load<float>(field.bytes), field.bytes);
     case ColumnType::Double:
     case ColumnType::Date:
-      return target.real(load<double>(field.bytes));
+      return giveReal(target, load<double>(field.bytes), field.bytes);
     case ColumnType::Numeric:
       text = decimalText(decimalFromBytes(field.bytes, column.scale));
       return target.text(text);
@@ -118,6 +126,18 @@ T narrowed(std::int64_t value, const file::TableDefinition& table, const file::C
   if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
     outOfRange(table, column);
   return static_cast<T>(value);
+}
+
+/// A number, or what is kept of one that is none.
+template <typename Real>
+Real realOf(sqlite3_stmt* statement, int column) {
+  Real value;
+  if (sqlite3_column_type(statement, column) == SQLITE_BLOB &&
+      sqlite3_column_bytes(statement, column) == sizeof value) {
+    std::memcpy(&value, sqlite3_column_blob(statement, column), sizeof value);
+    return value;
+  }
+  return static_cast<Real>(sqlite3_column_double(statement, column));
 }
 
 }  // namespace
@@ -198,15 +218,16 @@ file::FieldBytes ImageRows::encode(std::size_t index) {
       store(buffer, statement_.integer(at));
       break;
     case ColumnType::Single:
-      store(buffer, static_cast<float>(sqlite3_column_double(statement, at)));
+      store(buffer, realOf<float>(statement, at));
       break;
     case ColumnType::Double:
     case ColumnType::Date:
-      store(buffer, sqlite3_column_double(statement, at));
+      store(buffer, realOf<double>(statement, at));
       break;
     case ColumnType::Numeric:
       buffer.resize(17);
-      decimalToBytes(parseDecimal(text(), column.scale), std::span<std::byte, 17>(buffer.data(), 17));
+      decimalToBytes(parseDecimal(text(), column.scale, DecimalFieldDigits),
+                     std::span<std::byte, 17>(buffer.data(), 17));
       break;
     case ColumnType::Text:
     case ColumnType::Memo: {
@@ -223,6 +244,11 @@ file::FieldBytes ImageRows::encode(std::size_t index) {
     }
   }
   return {false, buffer};
+}
+
+double realValue(sqlite3_stmt* statement, int column) {
+  if (sqlite3_column_type(statement, column) == SQLITE_BLOB) return std::numeric_limits<double>::quiet_NaN();
+  return sqlite3_column_double(statement, column);
 }
 
 std::string tableName(std::uint32_t page) {

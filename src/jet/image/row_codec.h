@@ -10,7 +10,8 @@
 
 /// Fields on their way between the file's form and the image's. The image keeps
 ///   Boolean INTEGER -1 or 0, Byte Integer Long INTEGER, Currency INTEGER in ten-thousandths, Single Double
-///   Date REAL, Text Memo TEXT, Numeric TEXT of decimal digits, Guid Binary OLE Raw BLOB.
+///   Date REAL (what is no number: BLOB of its bytes), Text Memo TEXT, Numeric TEXT of decimal digits, Guid
+///   Binary OLE Raw BLOB.
 namespace jet::image {
 
 /// SQLite type and collation of a column of the image ("TEXT COLLATE JET").
@@ -45,6 +46,8 @@ class ImageRows : public file::RowSource {
   std::vector<std::vector<std::byte>> buffers_;
 };
 
+/// A Single, Double or Date of the image; NaN for the bytes of what is no number.
+double realValue(sqlite3_stmt* statement, int column);
 /// "t<page>", the table's name in the image.
 std::string tableName(std::uint32_t page);
 /// "c<number>"
