@@ -1,12 +1,12 @@
 // Times and memory on a large office's database, each as a ratio to something of the machine within one run.
 #include <CLI/CLI.hpp>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 
 #include "child.h"
 #include "platform/paths.h"
+#include "report.h"
 #include "runtime/error.h"
 #include "steps.h"
 
@@ -18,15 +18,6 @@ struct Settings {
   long rows = 1'000'000;
   std::string step;  // set in a child
 };
-
-/// One line of the report: a figure and the bound that it is held to.
-void report(const char* what, double figure, const char* unit, const char* relation, double aim) {
-  const bool held = aim == 0 || (relation[0] == '<' ? figure < aim : figure >= aim);
-  std::printf("%-58s %9.2f %-5s", what, figure, unit);
-  if (aim != 0) std::printf(" %s %-6g %s", relation, aim, held ? "ok" : "MISSED");
-  std::printf("\n");
-  std::fflush(stdout);
-}
 
 class Bench {
  public:

@@ -15,6 +15,7 @@ using Bytes = std::span<const std::byte>;
 constexpr std::byte Zero{0};
 constexpr char32_t Replacement = 0xFFFD;
 constexpr char16_t Mark = 0xFEFF;  // stored FF FE, what compressed text begins with
+constexpr std::size_t ShortestCompressed = 3;
 
 bool isHigh(char32_t unit) {
   return unit >= 0xD800 && unit < 0xDC00;
@@ -70,24 +71,34 @@ bool isCompressed(Bytes field) {
 void appendPlain(Bytes field, std::string& out) {
   if (field.size() % 2 != 0)
     throw damagedFile("testo di " + std::to_string(field.size()) + " byte, un numero dispari");
-  out.reserve(out.size() + field.size() / 2);
+  // ASCII goes straight to its place; at the first other unit the rest is decoded one by one.
+  const std::size_t units = field.size() / 2, begin = out.size();
+  out.resize(begin + units);
+  std::size_t unit = 0;
+  for (; unit < units; ++unit) {
+    const char16_t value = readU16(&field[2 * unit]);
+    if (value >= 0x80) break;
+    out[begin + unit] = static_cast<char>(value);
+  }
+  out.resize(begin + unit);
   Utf16Decoder decoder(out);
-  for (std::size_t i = 0; i < field.size(); i += 2) decoder.put(readU16(&field[i]));
+  for (; unit < units; ++unit) decoder.put(readU16(&field[2 * unit]));
   decoder.end();
 }
 
 // One byte a character and two bytes a character take turns; a zero byte changes over.
 void appendCompressed(Bytes packed, std::string& out) {
-  const std::size_t ascii = asciiRun(packed);
-  appendAscii(packed.first(ascii), out);
   Utf16Decoder decoder(out);
   bool wide = false;
-  for (std::size_t i = ascii; i < packed.size();) {
+  for (std::size_t i = 0; i < packed.size();) {
     if (packed[i] == Zero) {
       wide = !wide;
       ++i;
     } else if (!wide) {
       decoder.put(std::to_integer<char16_t>(packed[i++]));
+      const std::size_t ascii = asciiRun(packed.subspan(i));
+      appendAscii(packed.subspan(i, ascii), out);
+      i += ascii;
     } else {
       if (i + 1 == packed.size()) throw damagedFile("testo compresso interrotto a metà di un carattere");
       decoder.put(readU16(&packed[i]));
@@ -136,6 +147,30 @@ void putUnit(char16_t unit, std::vector<std::byte>& out) {
   out.push_back(static_cast<std::byte>(unit >> 8));
 }
 
+/// Appends a text of characters U+0001 to U+00FF in the form of one byte each; leaves `out` as it was and
+/// gives false where another character stands in it, or where it is too short for that form.
+bool appendNarrow(std::string_view utf8, std::vector<std::byte>& out) {
+  const std::size_t begin = out.size();
+  putUnit(Mark, out);
+  const Bytes bytes = std::as_bytes(std::span(utf8));
+  for (std::size_t at = 0; at < utf8.size();) {
+    const std::size_t ascii = asciiRun(bytes.subspan(at));
+    out.insert(out.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at),
+               bytes.begin() + static_cast<std::ptrdiff_t>(at + ascii));
+    at += ascii;
+    if (at == utf8.size()) break;
+    const char32_t character = nextCharacter(utf8, at);
+    if (character == 0 || character > 0xFF) {
+      out.resize(begin);
+      return false;
+    }
+    out.push_back(static_cast<std::byte>(character));
+  }
+  const bool longEnough = out.size() - begin >= 2 + ShortestCompressed;
+  if (!longEnough) out.resize(begin);
+  return longEnough;
+}
+
 }  // namespace
 
 void appendText(const Format& format, Bytes field, std::string& out, std::uint16_t codePage) {
@@ -157,13 +192,8 @@ std::string nameText(const Format& format, Bytes name, std::uint16_t codePage) {
 }
 
 void encodeText(std::string_view utf8, bool compress, std::vector<std::byte>& out) {
+  if (compress && appendNarrow(utf8, out)) return;
   const std::u16string text = toUtf16(utf8);
-  const bool narrow = std::ranges::all_of(text, [](char16_t unit) { return unit >= 1 && unit <= 0xFF; });
-  if (compress && narrow && text.size() >= 3) {
-    putUnit(Mark, out);
-    for (const char16_t unit : text) out.push_back(static_cast<std::byte>(unit));
-    return;
-  }
   if (!text.empty() && text.front() == Mark) {
     // In two-byte mode a zero low byte would change modes, so such a character can't follow.
     if (std::ranges::any_of(text, [](char16_t unit) { return (unit & 0xFF) == 0; }))

@@ -62,6 +62,10 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
   return runtime::Error(3000, Source, "Errore riservato: " + message);
 }
 
+void registerTextOrder(sqlite3* connection) {
+  sqlite3_create_collation_v2(connection, "JET", SQLITE_UTF8, nullptr, compareJet, nullptr);
+}
+
 Statement::Statement(sqlite3* connection, std::string_view sql) {
   sqlite3_stmt* statement = nullptr;
   if (sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &statement, nullptr) !=
@@ -101,7 +105,7 @@ Connection::Connection() {
       "", &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(connection);
   if (result != SQLITE_OK) throw errorFromSqlite(connection);
-  sqlite3_create_collation_v2(connection, "JET", SQLITE_UTF8, nullptr, compareJet, nullptr);
+  registerTextOrder(connection);
   execute(Settings);
 }
 

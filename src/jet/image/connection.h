@@ -16,6 +16,9 @@ namespace jet::image {
 /// memory 7, a statement beyond SQLite's limits 3360, an overflow 6, anything else 3000.
 runtime::Error errorFromSqlite(sqlite3* connection);
 
+/// Registers the collation JET: the order of texts in the file's keys.
+void registerTextOrder(sqlite3* connection);
+
 /// One prepared statement. Parameters count from 1, columns from 0, as SQLite counts them.
 class Statement {
  public:
