@@ -8,6 +8,7 @@
 #include "jet/image/connection.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/parser/parser.h"
+#include "jet/sql/stored_query.h"
 #include "jet/sql/tree/print.h"
 #include "jet_sql/small_image.h"
 
@@ -37,7 +38,7 @@ void printAndParse(const std::string& text) {
 
 int ticks = 0;
 
-/// Carries a translated statement out for a few rows and takes back what it changed.
+/// Carries a translated statement out for a few rows.
 void step(sqlite3* connection, const sql::RowStatement& rows) {
   sqlite3_stmt* prepared = nullptr;
   int code = sqlite3_prepare_v2(connection, rows.sql.c_str(), -1, &prepared, nullptr);
@@ -56,6 +57,27 @@ void step(sqlite3* connection, const sql::RowStatement& rows) {
     broken("SQLite refuses", rows.sql + ": " + error.description());
 }
 
+/// The same, and takes back what it changed.
+void carryOut(sqlite3* connection, const sql::RowStatement& rows) {
+  sqlite3_exec(connection, "SAVEPOINT one", nullptr, nullptr, nullptr);
+  try {
+    step(connection, rows);
+  } catch (const runtime::Error& error) {
+    broken("a result is not of its type", rows.sql + ": " + error.description());
+  }
+  sqlite3_exec(connection, "ROLLBACK TO one; RELEASE one", nullptr, nullptr, nullptr);
+}
+
+/// Runs `work`, which may end in a numbered error.
+template <typename Work>
+void passes(const std::string& text, const Work& work) {
+  try {
+    work();
+  } catch (const runtime::Error& error) {
+    if (error.number() == 0 || error.description().empty()) broken("error without number or text", text);
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -67,20 +89,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return made;
   }();
   const std::string text(reinterpret_cast<const char*>(data), size);
-  try {
-    const sql::Statement statement = sql::compile(text, *image, {});
-    printAndParse(text);
-    if (const auto* rows = std::get_if<sql::RowStatement>(&statement)) {
-      sqlite3_exec(image->connection(), "SAVEPOINT one", nullptr, nullptr, nullptr);
-      try {
-        step(image->connection(), *rows);
-      } catch (const runtime::Error& error) {
-        broken("a result is not of its type", rows->sql + ": " + error.description());
-      }
-      sqlite3_exec(image->connection(), "ROLLBACK TO one; RELEASE one", nullptr, nullptr, nullptr);
-    }
-  } catch (const runtime::Error& error) {
-    if (error.number() == 0 || error.description().empty()) broken("error without number or text", text);
-  }
+  passes(text, [&] { sql::takeApart(text); });
+  passes(text, [&] { printAndParse(text); });
+  for (const bool withRowKeys : {false, true})
+    passes(text, [&] {
+      const sql::Statement statement = sql::compile(text, *image, {withRowKeys});
+      if (const auto* rows = std::get_if<sql::RowStatement>(&statement)) carryOut(image->connection(), *rows);
+    });
   return 0;
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "office.h"
+#include "platform/disk.h"
 #include "support/child_process.h"
 
 namespace jet::dao {
@@ -100,6 +101,19 @@ TEST(Locks, ASharerThatSavesDoesNotOverwriteAnother) {
   EXPECT_EQ(errorOf([&] { first->Close(); }), 3356);
   second->Close();
   EXPECT_EQ(office::query(path, "SELECT * FROM t"), "2");
+}
+
+TEST(Locks, AFileThatWasReplacedMeanwhileIsNotOverwritten) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("a.mdb"), restored = folder.path("b.mdb");
+  office::make(path, {"CREATE TABLE t (a LONG)"});
+  office::make(restored, {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (7)"});
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, true);
+  db->Execute("INSERT INTO t VALUES (1)");
+  platform::replaceFile(restored, path);
+  EXPECT_EQ(errorOf([&] { db->Close(); }), 3197);
+  EXPECT_EQ(office::query(path, "SELECT * FROM t"), "7");
 }
 
 }  // namespace
