@@ -44,7 +44,17 @@ Source Binder::declareTable(const tree::TableSource& table, std::size_t position
   return {result};
 }
 
+/// An error within the query is told where the statement names it.
 Source Binder::storedQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
+  try {
+    return openQuery(text, table, position);
+  } catch (const SyntaxError& error) {
+    if (error.number() == TooComplex) throw;
+    throw SyntaxError(error.number(), table.name + ": " + error.description(), position);
+  }
+}
+
+Source Binder::openQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
   const tree::Statement statement = parse(text);
   const auto* query = std::get_if<tree::Query>(&statement.body);
   if (!query) throw SyntaxError(UnknownTable, table.name, position);
