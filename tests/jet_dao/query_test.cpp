@@ -65,7 +65,13 @@ TEST_F(StoredQueries, StandWhereATableStands) {
   store("Tutti i nomi", "SELECT ds_cognome AS nome FROM ragioniere UNION SELECT ds_comune FROM comune");
   store("Per comune",
         "PARAMETERS parComune Text; SELECT cd_matr FROM ragioniere WHERE cd_comune = parComune");
+  store("Incrocio",
+        "TRANSFORM Count(*) SELECT Left(ds_cognome, 1) AS iniziale FROM ragioniere GROUP BY Left(ds_cognome, "
+        "1) "
+        "PIVOT cd_comune IN ('A001', 'B002')");
   for (int pass = 0; pass < 2; ++pass) {
+    EXPECT_EQ(read("Incrocio"), "B|Null|1 R|1|Null V|1|Null");
+    EXPECT_EQ(read("SELECT iniziale FROM Incrocio WHERE A001 = 1 ORDER BY iniziale"), "R V");
     EXPECT_EQ(read("Di Abano"), "Verdi Rossi");
     EXPECT_EQ(read("SELECT Count(*) FROM [tutti I nomi] WHERE nome LIKE 'B*'"), "2");
     EXPECT_EQ(read("SELECT x.ds_cognome FROM [Di Abano] AS x, comune WHERE ds_comune = 'Bari' ORDER BY 1"),
