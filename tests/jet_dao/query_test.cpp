@@ -7,6 +7,7 @@
 #include <set>
 #include <sstream>
 
+#include "jet/sql/syntax_error.h"
 #include "office.h"
 #include "platform/files.h"
 
@@ -64,7 +65,13 @@ TEST_F(StoredQueries, StandWhereATableStands) {
   store("Tutti i nomi", "SELECT ds_cognome AS nome FROM ragioniere UNION SELECT ds_comune FROM comune");
   store("Per comune",
         "PARAMETERS parComune Text; SELECT cd_matr FROM ragioniere WHERE cd_comune = parComune");
+  store("Incrocio",
+        "TRANSFORM Count(*) SELECT Left(ds_cognome, 1) AS iniziale FROM ragioniere GROUP BY Left(ds_cognome, "
+        "1) "
+        "PIVOT cd_comune IN ('A001', 'B002')");
   for (int pass = 0; pass < 2; ++pass) {
+    EXPECT_EQ(read("Incrocio"), "B|Null|1 R|1|Null V|1|Null");
+    EXPECT_EQ(read("SELECT iniziale FROM Incrocio WHERE A001 = 1 ORDER BY iniziale"), "R V");
     EXPECT_EQ(read("Di Abano"), "Verdi Rossi");
     EXPECT_EQ(read("SELECT Count(*) FROM [tutti I nomi] WHERE nome LIKE 'B*'"), "2");
     EXPECT_EQ(read("SELECT x.ds_cognome FROM [Di Abano] AS x, comune WHERE ds_comune = 'Bari' ORDER BY 1"),
@@ -86,6 +93,17 @@ TEST_F(StoredQueries, ARingOfThemIsAnError) {
   store("Se stessa", "SELECT * FROM [Se stessa]");
   EXPECT_EQ(errorOf([&] { read("Uno"); }), 3360);
   EXPECT_EQ(errorOf([&] { read("Se stessa"); }), 3360);
+
+  store("Rotta", "SELECT a FROM nessuna");
+  try {
+    read("SELECT * FROM ragioniere, Rotta");
+    ADD_FAILURE();
+  } catch (const sql::SyntaxError& error) {
+    EXPECT_EQ(error.number(), 3078);
+    EXPECT_EQ(error.position(), 26u);  // where the statement names the query, not within the query's own text
+    EXPECT_NE(error.description().find("Rotta"), std::string::npos) << error.description();
+    EXPECT_NE(error.description().find("nessuna"), std::string::npos) << error.description();
+  }
 }
 
 TEST_F(StoredQueries, ActionsRunByTheirName) {
@@ -131,7 +149,7 @@ TEST_F(StoredQueries, AreRewrittenInPlace) {
     EXPECT_EQ(query->SQL(), text);
   }
   EXPECT_EQ(errorOf([&] { query->setName("Altra"); }), 3012);
-  EXPECT_EQ(errorOf([&] { query->setName("ragioniere"); }), 3010);
+  EXPECT_EQ(errorOf([&] { query->setName("ragioniere"); }), 3012);
   EXPECT_EQ(errorOf([&] { query->setName("a.b"); }), 3125);
   query->setName("elenco");
   query->setName("Modifica");
@@ -161,6 +179,15 @@ TEST_F(StoredQueries, NamesAreTakenOnceAndFreedAgain) {
   workspace_.Rollback();
   EXPECT_EQ(names(), "");
   EXPECT_EQ(errorOf([&] { read("SELECT * FROM Nuova"); }), 3078);
+  // A text that was read before is not taken for the one that is there now.
+  store("Cambia", "SELECT 1 AS n");
+  EXPECT_EQ(read("SELECT n FROM Cambia"), "1");
+  db_->QueryDefs("Cambia")->setSQL("SELECT 2 AS n");
+  EXPECT_EQ(read("SELECT n FROM Cambia"), "2");
+  db_->Execute("UPDATE MSysQueries SET Expression = '3' WHERE Attribute = 6");
+  EXPECT_EQ(read("SELECT n FROM Cambia"), "3");
+  db_->QueryDefs("Cambia")->setName("Cambiata");
+  EXPECT_EQ(errorOf([&] { read("SELECT n FROM Cambia"); }), 3078);
 }
 
 TEST_F(StoredQueries, NothingIsStoredInAReadOnlyDatabase) {
@@ -205,8 +232,7 @@ std::set<std::string> storedRows(Database& db) {
   std::set<std::string> lines, joined;  // joins come before sources
   for (; !found->atEnd(); found->MoveNext()) {
     std::vector<std::string> fields;
-    for (std::size_t i = 0; i < found->Fields().Count(); ++i)
-      fields.push_back(office::text(found->Fields(i).Value()));
+    for (const auto& field : found->Fields()) fields.push_back(office::text(field.Value()));
     const std::string name = fields[Name], attribute = fields[Attribute], flag = fields[Flag];
     const int kind = std::stoi(fields[Flags]) & 0xF0;
     if (kind == dbQSQLPassThrough || attribute == "0" || (attribute == "3" && flag == "0")) continue;

@@ -26,6 +26,14 @@ StatementRunner::StatementRunner(image::Image& image) : image_(image) {
 }
 
 std::optional<std::string> StatementRunner::findQuery(std::string_view name) const {
+  if (queries_.generation != image_.generation()) queries_ = {image_.generation(), {}};
+  const std::string key = file::nameKey(name);
+  const auto known = queries_.texts.find(key);
+  if (known != queries_.texts.end()) return known->second;
+  return queries_.texts.emplace(key, readQuery(name)).first->second;
+}
+
+std::optional<std::string> StatementRunner::readQuery(std::string_view name) const {
   using sql::QueryKind;
   const auto object = findQueryObject(image_, name);
   if (!object) return std::nullopt;
@@ -68,8 +76,7 @@ image::Statement StatementRunner::prepareInto(const std::string& prefix, const s
   return statement;
 }
 
-std::int64_t StatementRunner::execute(sql::Statement statement, const Answers& answers,
-                                      bool failOnError) {
+std::int64_t StatementRunner::execute(sql::Statement statement, const Answers& answers, bool failOnError) {
   return std::visit(runtime::Overloaded{
                         [&](sql::RowStatement& plan) {
                           return RowChanges(image_, change(std::move(plan))).run(answers, failOnError);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,6 +18,7 @@ class StatementRunner : public sql::Schema {
   const file::TableDefinition* findTable(std::string_view name) const override {
     return image_.definition(name);
   }
+  /// The texts are kept until a design changes.
   std::optional<std::string> findQuery(std::string_view name) const override;
   std::string defaultOf(const file::TableDefinition& table, const file::Column& column) const override;
 
@@ -37,8 +39,14 @@ class StatementRunner : public sql::Schema {
   image::Image& image() { return image_; }
 
  private:
+  std::optional<std::string> readQuery(std::string_view name) const;
 
   image::Image& image_;
+  struct Queries {
+    std::uint64_t generation = 0;                             // Image::generation()
+    std::map<std::string, std::optional<std::string>> texts;  // by file::nameKey
+  };
+  mutable Queries queries_;
 };
 
 }  // namespace jet::dao

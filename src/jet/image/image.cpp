@@ -239,6 +239,8 @@ void Image::readyChange(Table& wanted, const std::vector<std::uint16_t>& compare
 }
 
 void Image::markChanged(std::uint32_t page) {
+  // What a statement does to these rows changes designs as well.
+  if (page == file::CatalogueTable || page == file::QueriesTable) ++generation_;
   table(page).rowsChanged = true;
   for (const auto other : cascaded_) table(other).rowsChanged = true;
   cascaded_.clear();

@@ -49,6 +49,7 @@ class Binder {
   bound::Source declareQuery(bound::Query query, const std::string& name);
   void bindConditions(const tree::Source& source, bound::Source& result);
   bound::Source storedQuery(const std::string& text, const tree::TableSource& table, std::size_t position);
+  bound::Source openQuery(const std::string& text, const tree::TableSource& table, std::size_t position);
 
   // expression.cpp
   bound::Expression expression(const tree::Expression& expression);

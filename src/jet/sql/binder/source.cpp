@@ -1,4 +1,5 @@
 #include "jet/sql/binder/binder.h"
+#include "jet/sql/binder/crosstab.h"
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {
@@ -44,8 +45,20 @@ Source Binder::declareTable(const tree::TableSource& table, std::size_t position
   return {result};
 }
 
+/// An error within the query is told where the statement names it.
 Source Binder::storedQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
-  const tree::Statement statement = parse(text);
+  try {
+    return openQuery(text, table, position);
+  } catch (const SyntaxError& error) {
+    if (error.number() == TooComplex) throw;
+    throw SyntaxError(error.number(), table.name + ": " + error.description(), position);
+  }
+}
+
+Source Binder::openQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
+  tree::Statement statement = parse(text);
+  if (auto* transform = std::get_if<tree::Transform>(&statement.body))
+    statement.body = crosstab(tree::Transform(std::move(*transform)));
   const auto* query = std::get_if<tree::Query>(&statement.body);
   if (!query) throw SyntaxError(UnknownTable, table.name, position);
   for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
