@@ -35,10 +35,13 @@ class Desk {
   int error(const Statement& statement) {
     return office::errorOf([&] { run(statement); });
   }
+  jet::dao::PreparedRows prepare(const std::string& sql) {
+    auto& runner = session_->runner();
+    return runner.prepare(std::get<jet::sql::RowStatement>(runner.compile(sql)), {});
+  }
   /// Rows of a SELECT, fields joined by '|', rows by blanks, as the image keeps them.
   std::string rows(const std::string& sql) {
-    auto& runner = session_->runner();
-    auto prepared = runner.prepare(std::get<jet::sql::RowStatement>(runner.compile(sql)), {});
+    auto prepared = prepare(sql);
     std::string result;
     while (prepared.statement.step()) {
       if (!result.empty()) result += " ";

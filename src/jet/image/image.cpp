@@ -41,6 +41,12 @@ class Savepoint {
   bool kept_ = false;
 };
 
+std::string columnNames(const file::TableDefinition& design) {
+  std::string names;
+  for (const auto& column : design.columns) names += (names.empty() ? "" : ",") + columnName(column.number);
+  return names;
+}
+
 std::string levelName(std::size_t level) {
   return "level" + std::to_string(level);
 }
@@ -144,7 +150,7 @@ void Image::load(Table& table) {
     if (table.link)
       loadFrom(openLinked(table.linked->path), table.linked->source, table);
     else
-      loadFrom(*source_, design, table);
+      loadFromFile(design);
   } catch (...) {
     table.made = made;
     throw;
@@ -154,13 +160,20 @@ void Image::load(Table& table) {
   table.scanned = false;
 }
 
+/// One statement over the virtual table takes half the time of one for each row.
+void Image::loadFromFile(const file::TableDefinition& design) {
+  const std::string columns = columnNames(design);
+  connection_.execute("CREATE VIRTUAL TABLE temp.loading USING jet_file(" + std::to_string(design.page) +
+                      ")");
+  connection_.execute("INSERT INTO main." + tableName(design.page) + "(" + columns + ") SELECT " + columns +
+                      " FROM temp.loading");
+  connection_.execute("DROP TABLE temp.loading");
+}
+
 void Image::loadFrom(const file::PageFile& pages, const file::TableDefinition& design, const Table& table) {
-  std::string columns, values;
-  for (const auto& column : design.columns) {
-    columns += (columns.empty() ? "" : ",") + columnName(column.number);
-    values += values.empty() ? "?" : ",?";
-  }
-  auto insert = connection_.prepare("INSERT INTO main." + tableName(table.page) + "(" + columns +
+  std::string values = "?";
+  for (std::size_t i = 1; i < design.columns.size(); ++i) values += ",?";
+  auto insert = connection_.prepare("INSERT INTO main." + tableName(table.page) + "(" + columnNames(design) +
                                     ") VALUES (" + values + ")");
   FieldBinder binder(pages, design);
   file::TableReader reader(pages, design);

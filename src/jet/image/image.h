@@ -213,6 +213,7 @@ class Image {
   /// Makes the empty t<page>.
   void makeRows(Table& table);
   void load(Table& table);
+  void loadFromFile(const file::TableDefinition& design);
   void loadFrom(const file::PageFile& pages, const file::TableDefinition& design, const Table& table);
   /// Takes t<page> out of the image, as it stands in the file's stead or as a scan.
   void dropRows(Table& table);
