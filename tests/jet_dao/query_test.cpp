@@ -205,8 +205,7 @@ std::set<std::string> storedRows(Database& db) {
   std::set<std::string> lines, joined;  // joins come before sources
   for (; !found->atEnd(); found->MoveNext()) {
     std::vector<std::string> fields;
-    for (const auto& field : found->Fields())
-      fields.push_back(office::text(field.Value()));
+    for (const auto& field : found->Fields()) fields.push_back(office::text(field.Value()));
     const std::string name = fields[Name], attribute = fields[Attribute], flag = fields[Flag];
     const int kind = std::stoi(fields[Flags]) & 0xF0;
     if (kind == dbQSQLPassThrough || attribute == "0" || (attribute == "3" && flag == "0")) continue;

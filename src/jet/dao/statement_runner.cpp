@@ -61,8 +61,7 @@ image::Statement StatementRunner::prepareInto(const std::string& prefix, const s
   return statement;
 }
 
-std::int64_t StatementRunner::execute(sql::Statement statement, const Answers& answers,
-                                      bool failOnError) {
+std::int64_t StatementRunner::execute(sql::Statement statement, const Answers& answers, bool failOnError) {
   return std::visit(runtime::Overloaded{
                         [&](sql::RowStatement& plan) {
                           return RowChanges(image_, change(std::move(plan))).run(answers, failOnError);

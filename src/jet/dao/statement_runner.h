@@ -37,7 +37,6 @@ class StatementRunner : public sql::Schema {
   image::Image& image() { return image_; }
 
  private:
-
   image::Image& image_;
 };
 
