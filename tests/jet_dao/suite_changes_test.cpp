@@ -211,8 +211,8 @@ INSTANTIATE_TEST_SUITE_P(
                   "1: Null 01/04/2004"},
         SuiteCase{"UPDATE ragioniere SET ragioniere.DatiProfessionali = '' ",
                   {},
-                  "SELECT DatiProfessionali FROM ragioniere",
-                  "3:   "},
+                  "SELECT Len(DatiProfessionali) FROM ragioniere",
+                  "3: 0 0 0"},
         SuiteCase{"UPDATE ragioniere SET ragioniere.DatiProfessionali = [DatiProfessionali] + \"; Albo "
                   "\"\"A\"\"\" WHERE "
                   "ragioniere.cd_matr = 1",
@@ -221,12 +221,12 @@ INSTANTIATE_TEST_SUITE_P(
                   "1: Perito; Albo \"A\""},
         SuiteCase{"UPDATE ragioniere SET ragioniere.Settori = '' WHERE (((ragioniere.cd_matr) = 2)) ",
                   {},
-                  "SELECT Settori FROM ragioniere WHERE cd_matr > 1",
-                  "1:  Null"},
+                  "SELECT Len(Settori) FROM ragioniere WHERE cd_matr > 1",
+                  "1: 0 Null"},
         SuiteCase{"UPDATE ragioniere SET ragioniere.SettoriExt = '' ",
                   {},
-                  "SELECT SettoriExt FROM ragioniere",
-                  "3:   "},
+                  "SELECT Len(SettoriExt) FROM ragioniere",
+                  "3: 0 0 0"},
         SuiteCase{"UPDATE ragioniere SET ragioniere.Settori = [Settori] + \"a\", ragioniere.SettoriExt = "
                   "[SettoriExt] + "
                   "\"Civile\", ragioniere.fl_old_ordinamento = -1 , ragioniere.Set = 'B' WHERE "

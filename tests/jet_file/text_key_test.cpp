@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "corpus.h"
+#include "jet/file/definition.h"
 #include "jet/file/general_order.h"
 #include "jet/file/text.h"
 #include "writing.h"
@@ -91,6 +92,14 @@ TEST(TextKey, ComparingTextsIsComparingTheirKeys) {
   for (const std::string& a : texts)
     for (const std::string& b : texts)
       EXPECT_EQ(compareText(a, b), sign(keyOf(a, 1000) <=> keyOf(b, 1000))) << a << " / " << b;
+}
+
+TEST(TextKey, NamesAreTheSameWhereTheirKeysAre) {
+  std::vector<std::string> names = {"",    "Set", "SET", "SetBis", "nr_1", "NR_1",
+                                    "nr1", "è",   "È",   "a b",    "A B",  "a"};
+  for (char c = ' '; c < '\x7F'; ++c) names.emplace_back(1, c);
+  for (const std::string& a : names)
+    for (const std::string& b : names) EXPECT_EQ(sameName(a, b), compareText(a, b) == 0) << a << " / " << b;
 }
 
 }  // namespace

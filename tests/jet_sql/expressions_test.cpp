@@ -28,20 +28,16 @@ TEST(Expressions, FollowThePrecedenceOfTheLanguage) {
 
 TEST(Expressions, CarryNullAsTheEngineDoes) {
   expectValues({
-      {"Null = Null", "Null"},
-      {"1 + Null", "Null"},
-      {"'a' + Null", "Null"},
-      {"'a' & Null", "a"},
-      {"Null & Null", "Null"},
-      {"Null OR True", "Vero"},
-      {"Null AND False", "Falso"},
-      {"False IMP Null", "Vero"},
-      {"Null LIKE '*'", "Null"},
-      {"IIf(Null, 1, 2)", "2"},
-      {"IsNull(Null)", "Vero"},
-      {"1 IN (2, Null)", "Null"},
-      {"Left(Null, 2)", "Null"},
-      {"Nz(Null, 'x') & Nz(Null) & Nz(5)", "x5"},
+      {"Null = Null", "Null"},     {"1 + Null", "Null"},
+      {"NOT Null", "Null"},        {"NOT (1 = Null)", "Null"},
+      {"Null <> 1", "Null"},       {"2 BETWEEN Null AND 1", "Falso"},
+      {"Null & 'a' & Null", "a"},  {"'a' + Null & 'b'", "b"},
+      {"'a' + Null", "Null"},      {"'a' & Null", "a"},
+      {"Null & Null", "Null"},     {"Null OR True", "Vero"},
+      {"Null AND False", "Falso"}, {"False IMP Null", "Vero"},
+      {"Null LIKE '*'", "Null"},   {"IIf(Null, 1, 2)", "2"},
+      {"IsNull(Null)", "Vero"},    {"1 IN (2, Null)", "Null"},
+      {"Left(Null, 2)", "Null"},   {"Nz(Null, 'x') & Nz(Null) & Nz(5)", "x5"},
   });
 }
 
@@ -95,6 +91,11 @@ TEST(Expressions, CompareTextsByTheirOrder) {
       {"'a' < 'B'", "Vero"},
       {"'e' = 'è'", "Falso"},
       {"'È' = 'è'", "Vero"},
+      {"'a ' = 'a'", "Vero"},
+      {"' a' = 'a'", "Falso"},
+      {"'coop' < 'co-op'", "Vero"},
+      {"'ß' = 'SS'", "Vero"},
+      {"True + True & True", "-2-1"},
       {"'b' IN ('A', 'B')", "Vero"},
       {"'M' BETWEEN 'a' AND 'z'", "Vero"},
       {"'x' & 'y' = 'X' + 'Y'", "Vero"},

@@ -121,6 +121,21 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"SELECT\tid\r\nFROM\r\n  soci\r\nWHERE id = 1 ;\r\n", "1"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    Crossing, Statements,
+    testing::Values(
+        Case{"TRANSFORM Sum(importo) SELECT socio FROM pagamenti GROUP BY socio PIVOT Format(data, 'dd') IN "
+             "('10', "
+             "'11', '12')",
+             "1|10|25,5|Null; 2|Null|Null|5; 9|Null|Null|Null"},
+        Case{"TRANSFORM Count(*) SELECT cognome, Count(*) AS tutti FROM soci GROUP BY cognome PIVOT Set IN "
+             "('B', "
+             "Null, 'a')",
+             "Bianchi|1|Null|1|Null; Rossi|2|1|Null|1"},
+        Case{
+            "TRANSFORM Nz(First(nome), '-') & '!' SELECT attivo FROM soci GROUP BY attivo PIVOT id IN (1, 2)",
+            "Vero|Anna!|-!; Falso|-!|bruno!"}));
+
+INSTANTIATE_TEST_SUITE_P(
     WithoutDoubleRows, Statements,
     testing::Values(
         Case{"SELECT DISTINCTROW nome FROM soci INNER JOIN pagamenti ON soci.id = pagamenti.socio",

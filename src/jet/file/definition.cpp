@@ -64,8 +64,24 @@ std::uint16_t TableDefinition::fixedLength() const {
   return length;
 }
 
+namespace {
+
+/// -1 for a character that may not be compared by itself.
+int plainLetter(char c) {
+  if (c >= 'a' && c <= 'z') return c - 'a' + 'A';
+  return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ? c : -1;
+}
+
+bool isPlain(std::string_view name) {
+  return std::ranges::all_of(name, [](char c) { return plainLetter(c) >= 0; });
+}
+
+}  // namespace
+
 bool sameName(std::string_view a, std::string_view b) {
-  return a == b || compareText(a, b) == 0;
+  // Keys of letters and digits differ where these do, but for the case.
+  if (isPlain(a) && isPlain(b)) return std::ranges::equal(a, b, {}, plainLetter, plainLetter);
+  return compareText(a, b) == 0;
 }
 
 std::string nameKey(std::string_view name) {

@@ -1,6 +1,7 @@
 #include "jet/sql/compile.h"
 
 #include "jet/sql/binder/binder.h"
+#include "jet/sql/binder/crosstab.h"
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/syntax_error.h"
 #include "jet/sql/translation/translator.h"
@@ -14,9 +15,9 @@ class Compilation {
  public:
   Compilation(const Schema& schema, const Options& options) : context_(schema), options_(options) {}
 
-  Statement run(const tree::Statement& statement) {
+  Statement run(tree::Statement statement) {
     for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
-    return std::visit([&](const auto& body) { return compileBody(body); }, statement.body);
+    return std::visit([&](auto& body) { return compileBody(body); }, statement.body);
   }
 
  private:
@@ -38,8 +39,9 @@ class Compilation {
     return SelectInto{tree.table.text, std::get<RowStatement>(compileBody(tree.query))};
   }
 
-  Statement compileBody(const tree::Transform& tree) {
-    throw SyntaxError(TransformSyntax, "", tree.pivot.place.position);
+  Statement compileBody(tree::Transform& tree) {
+    options_.withRowKeys = false;
+    return compileBody(crosstab(std::move(tree)));
   }
 
   Statement compileBody(const tree::Execute& tree) {

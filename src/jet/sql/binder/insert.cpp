@@ -48,8 +48,8 @@ bound::Insert Binder::insert(const tree::Insert& tree) {
     bound::Query rows = bindQuery(context_, nullptr, *query);
     columns = targetColumns(*table, tree, &rows);
     insert.rows = std::move(std::get<bound::QuerySource>(declareQuery(std::move(rows), "").node));
-    for (const VisibleColumn& column : scope_.sources().front().columns) {
-      values.push_back({column.value.type, std::get<bound::Column>(column.value.node)});
+    for (VisibleColumn& column : scope_.sources().front().columns()) {
+      values.push_back(std::move(column.value));
     }
   } else {
     columns = targetColumns(*table, tree, nullptr);

@@ -6,30 +6,21 @@ namespace jet::sql {
 
 using bound::Expression;
 
-namespace {
-
-/// A second reference to the same column or parameter.
-Expression copyOf(const Expression& column) {
-  return {column.type, std::get<bound::Column>(column.node)};
-}
-
-}  // namespace
-
 /// A column of this level, an alias of the list, a column of a level around it, or else a parameter.
 Expression Binder::bind(const tree::Name& node, const Place& place) {
   if (auto found = column(node, place)) return std::move(*found);
   if (auto found = alias(node)) return std::move(*found);
   for (const Scope* scope = scope_.outer(); scope; scope = scope->outer()) {
-    if (const auto found = scope->find(node, place.position)) return copyOf(found->column->value);
+    if (auto found = scope->find(node, place.position)) return std::move(found->column.value);
   }
   return context_.parameter(node.table.empty() ? node.column : node.table + "." + node.column);
 }
 
 std::optional<Expression> Binder::column(const tree::Name& name, const Place& place) {
-  const auto found = scope_.find(name, place.position);
+  auto found = scope_.find(name, place.position);
   if (!found) return std::nullopt;
   ungrouped_.push_back({name.column, place.position, found->source->source});
-  return copyOf(found->column->value);
+  return std::move(found->column.value);
 }
 
 std::optional<Expression> Binder::alias(const tree::Name& name) {

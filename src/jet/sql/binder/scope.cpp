@@ -8,13 +8,41 @@ namespace jet::sql {
 
 namespace {
 
-const VisibleColumn* findColumn(const VisibleSource& source, const std::string& name) {
-  const auto found = std::ranges::find_if(
-      source.columns, [&](const VisibleColumn& column) { return file::sameName(column.name, name); });
-  return found == source.columns.end() ? nullptr : &*found;
+/// A second reference to the same column.
+VisibleColumn copyOf(const VisibleColumn& column) {
+  const bound::Expression& value = column.value;
+  return {column.name,
+          {value.type, std::get<bound::Column>(value.node)},
+          column.sourceTable,
+          column.sourceColumn};
 }
 
 }  // namespace
+
+VisibleColumn VisibleSource::columnOf(const file::Column& column) const {
+  bound::Column value{source, "c" + std::to_string(column.number), file::isText(column.type)};
+  return {column.name, {typeOf(column.type), std::move(value)}, table->name, column.name};
+}
+
+std::optional<VisibleColumn> VisibleSource::find(const std::string& columnName) const {
+  if (table) {
+    const auto index = table->find(columnName);
+    return index ? std::optional(columnOf(table->columns[*index])) : std::nullopt;
+  }
+  for (const VisibleColumn& column : queryColumns) {
+    if (file::sameName(column.name, columnName)) return copyOf(column);
+  }
+  return std::nullopt;
+}
+
+std::vector<VisibleColumn> VisibleSource::columns() const {
+  std::vector<VisibleColumn> all;
+  if (table) {
+    for (const std::size_t index : table->displayOrder()) all.push_back(columnOf(table->columns[index]));
+  }
+  for (const VisibleColumn& column : queryColumns) all.push_back(copyOf(column));
+  return all;
+}
 
 const VisibleSource* Scope::find(const std::string& sourceName) const {
   const auto found = std::ranges::find_if(
@@ -26,12 +54,12 @@ std::optional<Scope::Found> Scope::find(const tree::Name& name, std::size_t posi
   Found found;
   for (const VisibleSource& source : sources_) {
     if (!name.table.empty() && !file::sameName(source.name, name.table)) continue;
-    const VisibleColumn* column = findColumn(source, name.column);
+    auto column = source.find(name.column);
     if (!column) continue;
-    if (found.column) throw SyntaxError(AmbiguousColumn, name.column, position);
-    found = {&source, column};
+    if (found.source) throw SyntaxError(AmbiguousColumn, name.column, position);
+    found = {&source, std::move(*column)};
   }
-  return found.column ? std::optional(found) : std::nullopt;
+  return found.source ? std::optional(std::move(found)) : std::nullopt;
 }
 
 }  // namespace jet::sql

@@ -15,12 +15,19 @@ struct VisibleColumn {
   std::string sourceTable, sourceColumn;  // of the file; empty for an expression of a query
 };
 
-/// A table or query of FROM with its columns in the order of `*`.
+/// A table or query of FROM. The columns of a table are made when they are asked for: most are not.
 struct VisibleSource {
   unsigned source = 0;
   std::string name;                              // its alias, or its own name
   const file::TableDefinition* table = nullptr;  // nullptr for a query
-  std::vector<VisibleColumn> columns;
+  std::vector<VisibleColumn> queryColumns;
+
+  std::optional<VisibleColumn> find(const std::string& columnName) const;
+  /// In the order of `*`.
+  std::vector<VisibleColumn> columns() const;
+
+ private:
+  VisibleColumn columnOf(const file::Column& column) const;
 };
 
 /// The names that one SELECT, UPDATE or DELETE sees, and through `outer` those around it.
@@ -35,7 +42,7 @@ class Scope {
 
   struct Found {
     const VisibleSource* source = nullptr;
-    const VisibleColumn* column = nullptr;
+    VisibleColumn column;
   };
   /// The column in this scope alone. Error 3079 where several sources have one of the name.
   std::optional<Found> find(const tree::Name& name, std::size_t position) const;

@@ -72,13 +72,12 @@ void Binder::star(const tree::Star& star, std::size_t position, Select& result) 
   if (!star.table.empty() && !scope_.find(star.table)) throw SyntaxError(UnknownTable, star.table, position);
   for (const VisibleSource& source : scope_.sources()) {
     if (!star.table.empty() && &source != scope_.find(star.table)) continue;
-    for (const VisibleColumn& column : source.columns) {
+    for (VisibleColumn& column : source.columns()) {
       context_.countNode(position);
-      bound::Expression value{column.value.type, std::get<bound::Column>(column.value.node)};
-      if (std::ranges::find(groupKeys_, value) == groupKeys_.end())
+      if (std::ranges::find(groupKeys_, column.value) == groupKeys_.end())
         ungrouped_.push_back({column.name, position, source.source});
-      result.items.push_back(
-          {std::move(value), column.name, column.sourceTable, column.sourceColumn, source.source});
+      result.items.push_back({std::move(column.value), std::move(column.name), std::move(column.sourceTable),
+                              std::move(column.sourceColumn), source.source});
     }
   }
 }
@@ -89,11 +88,11 @@ void Binder::item(const tree::SelectItem& tree, Select& result) {
   bound::Item item{expression(value), tree.alias, "", "", {}};
   for (Alias& alias : aliases_) alias.open = false;
   const auto* name = std::get_if<tree::Name>(&value.node);
-  const auto found = name ? scope_.find(*name, value.place.position) : std::nullopt;
+  auto found = name ? scope_.find(*name, value.place.position) : std::nullopt;
   if (found) {
-    if (item.name.empty()) item.name = found->column->name;
-    item.sourceTable = found->column->sourceTable;
-    item.sourceColumn = found->column->sourceColumn;
+    if (item.name.empty()) item.name = found->column.name;
+    item.sourceTable = std::move(found->column.sourceTable);
+    item.sourceColumn = std::move(found->column.sourceColumn);
     item.source = found->source->source;
   }
   result.items.push_back(std::move(item));
@@ -102,6 +101,7 @@ void Binder::item(const tree::SelectItem& tree, Select& result) {
 /// What has no name is called by its position; columns of one name are told apart by their tables' names.
 void Binder::nameItems(const tree::Select& tree, Select& result) {
   constexpr std::size_t firstNumber = 1000;
+  const bool mayClash = tree.items.size() > 1 || scope_.sources().size() > 1;
   std::vector<std::string> names;
   for (std::size_t i = 0; i < result.items.size(); ++i) {
     const bound::Item& item = result.items[i];
@@ -111,7 +111,7 @@ void Binder::nameItems(const tree::Select& tree, Select& result) {
     };
     const bool aliased =
         std::ranges::any_of(tree.items, [&](const auto& treeItem) { return treeItem.alias == name; });
-    if (item.source && !aliased && std::ranges::any_of(result.items, same)) {
+    if (mayClash && item.source && !aliased && std::ranges::any_of(result.items, same)) {
       for (const VisibleSource& source : scope_.sources()) {
         if (source.source == *item.source) name = source.name + "." + name;
       }

@@ -39,11 +39,6 @@ Source Binder::declareTable(const tree::TableSource& table, std::size_t position
   visible.name = table.alias.empty() ? table.name : table.alias;
   visible.source = context_.addSource(definition, visible.name);
   visible.table = definition;
-  for (const std::size_t index : definition->displayOrder()) {
-    const file::Column& column = definition->columns[index];
-    const bound::Column value{visible.source, "c" + std::to_string(column.number), file::isText(column.type)};
-    visible.columns.push_back({column.name, {typeOf(column.type), value}, definition->name, column.name});
-  }
   const bound::TableSource result{visible.source, definition->page};
   scope_.add(std::move(visible));
   return {result};
@@ -66,7 +61,7 @@ Source Binder::declareQuery(bound::Query query, const std::string& name) {
   const auto& items = query.parts.front().items;
   for (std::size_t i = 0; i < items.size(); ++i) {
     const bound::Column value{visible.source, "x" + std::to_string(i + 1), false};
-    visible.columns.push_back(
+    visible.queryColumns.push_back(
         {items[i].name, {items[i].value.type, value}, items[i].sourceTable, items[i].sourceColumn});
   }
   const unsigned source = visible.source;

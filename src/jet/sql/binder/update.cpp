@@ -39,7 +39,7 @@ bound::Update Binder::update(const tree::Update& tree) {
     }
     const VisibleSource& source = *found->source;
     if (!source.table) throw SyntaxError(UpdateImpossible, assignment.column.column, position);
-    const file::Column& column = source.table->columns[*source.table->find(found->column->name)];
+    const file::Column& column = source.table->columns[*source.table->find(found->column.name)];
     targetOf(update, source)
         .assignments.push_back({column.number, store(expression(assignment.value), column)});
     context_.noteChanged(source.source, TouchedTable::Change::Update);
