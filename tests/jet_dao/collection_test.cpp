@@ -182,7 +182,8 @@ TEST_F(Collections, PropertiesAreGivenToTablesAndFields) {
     describe(table->Properties(), text);
     describe(table->Fields("nome").Properties(), text);
   }
-  EXPECT_EQ(errorOf([&] { table->Properties().Append(table->CreateProperty("description", dbText, "")); }), 3367);
+  EXPECT_EQ(errorOf([&] { table->Properties().Append(table->CreateProperty("description", dbText, "")); }),
+            3367);
   EXPECT_EQ(errorOf([&] { table->Properties().Delete("Name"); }), 3384);
   table->Fields("nome").Properties().Item("DefaultValue").setValue("'d'");
   table->Fields("nome").setName("altro");
@@ -195,12 +196,14 @@ TEST_F(Collections, PropertiesAreGivenToTablesAndFields) {
   EXPECT_EQ(db->OpenRecordset("t")->Fields("altro").DefaultValue(), "'d'");
   field.Properties().Delete("Description");
   EXPECT_FALSE(field.Properties().contains("Description"));
-  EXPECT_NE(support::runCommand("mdb-prop " + office::system(path) + " t").output.find("seconda"), std::string::npos);
+  EXPECT_NE(support::runCommand("mdb-prop " + office::system(path) + " t").output.find("seconda"),
+            std::string::npos);
 }
 
 TEST_F(Collections, ALinkShowsTheTableOfAnotherFile) {
   const std::string other = folder.path("altro.mdb");
-  office::make(other, {"CREATE TABLE ADD_codici (c LONG, d TEXT(9))", "INSERT INTO ADD_codici VALUES (7, 'sette')"});
+  office::make(other,
+               {"CREATE TABLE ADD_codici (c LONG, d TEXT(9))", "INSERT INTO ADD_codici VALUES (7, 'sette')"});
   const auto link = db->CreateTableDef("linkcodici");
   link->setConnect(";DATABASE=" + other);
   link->setSourceTableName("ADD_codici");

@@ -20,9 +20,9 @@ class Cursors : public testing::Test {
       statements.push_back("INSERT INTO t VALUES (" + std::to_string(i) + ", " +
                            (i == 10 ? "NULL" : std::to_string((i + 1) / 2)) + ", '" +
                            std::string(1, static_cast<char>('z' - i)) + "')");
-    statements.insert(statements.end(), {"CREATE TABLE gruppi (g SHORT CONSTRAINT pk PRIMARY KEY, nome TEXT)",
-                                         "INSERT INTO gruppi VALUES (1, 'primo')",
-                                         "INSERT INTO gruppi VALUES (2, 'secondo')"});
+    statements.insert(statements.end(),
+                      {"CREATE TABLE gruppi (g SHORT CONSTRAINT pk PRIMARY KEY, nome TEXT)",
+                       "INSERT INTO gruppi VALUES (1, 'primo')", "INSERT INTO gruppi VALUES (2, 'secondo')"});
     office::make(path, statements);
     db = workspace.OpenDatabase(path, true);
   }
@@ -42,8 +42,9 @@ struct Counting {
 };
 
 TEST_F(Cursors, RecordCountTellsWhatItsKindKnows) {
-  for (const auto& [type, counts] : {Counting{dbOpenTable, "10 10 10 10"}, Counting{dbOpenDynaset, "1 3 10 10"},
-                                     Counting{dbOpenSnapshot, "1 3 10 10"}}) {
+  for (const auto& [type, counts] :
+       {Counting{dbOpenTable, "10 10 10 10"}, Counting{dbOpenDynaset, "1 3 10 10"},
+        Counting{dbOpenSnapshot, "1 3 10 10"}}) {
     const auto rows = db->OpenRecordset("t", type);
     std::string found = std::to_string(rows->RecordCount());
     rows->Move(2);
@@ -81,7 +82,8 @@ TEST_F(Cursors, MovesStopBesideTheRecords) {
     ASSERT_EQ(rest.size(), 3u);
     EXPECT_EQ(rest[0].size(), 3u);
     EXPECT_TRUE(rows->atEnd());
-    const auto none = db->OpenRecordset("SELECT * FROM t WHERE a = 77", type == dbOpenTable ? dbOpenDynaset : type);
+    const auto none =
+        db->OpenRecordset("SELECT * FROM t WHERE a = 77", type == dbOpenTable ? dbOpenDynaset : type);
     for (const auto& move : {&Recordset::MoveFirst, &Recordset::MoveLast, &Recordset::MoveNext})
       EXPECT_EQ(errorOf([&] { ((*none).*move)(); }), 3021);
   }
@@ -165,10 +167,10 @@ struct Sought {
 
 TEST_F(Cursors, ATableIsReadAndSoughtByItsIndex) {
   const Sought sought[] = {
-      {"=", {3}, "6"},          {"=", {3, "u"}, "5"},   {"=", {3, "x"}, "no"}, {">", {3}, "4"},
-      {">=", {3}, "6"},         {"<", {3}, "7"},        {"<=", {3}, "5"},      {"=", {runtime::Null{}}, "10"},
-      {">=", {3, "t"}, "6"},    {">", {3, "t"}, "5"},   {"<", {1}, "3"},       {">", {1, "y"}, "10"},
-      {"<", {5}, "no"},         {">", {1}, "10"},       {"=", {"2"}, "4"},
+      {"=", {3}, "6"},       {"=", {3, "u"}, "5"}, {"=", {3, "x"}, "no"}, {">", {3}, "4"},
+      {">=", {3}, "6"},      {"<", {3}, "7"},      {"<=", {3}, "5"},      {"=", {runtime::Null{}}, "10"},
+      {">=", {3, "t"}, "6"}, {">", {3, "t"}, "5"}, {"<", {1}, "3"},       {">", {1, "y"}, "10"},
+      {"<", {5}, "no"},      {">", {1}, "10"},     {"=", {"2"}, "4"},
   };
   for (const bool readOnly : {false, true}) {
     if (readOnly) {
@@ -189,7 +191,8 @@ TEST_F(Cursors, ATableIsReadAndSoughtByItsIndex) {
     EXPECT_EQ(at(*rows), "1");
     for (const auto& [comparison, keys, found] : sought) {
       rows->Seek(comparison, keys);
-      EXPECT_EQ(rows->NoMatch() ? "no" : at(*rows), found) << comparison << office::text(keys[0]) << keys.size();
+      EXPECT_EQ(rows->NoMatch() ? "no" : at(*rows), found)
+          << comparison << office::text(keys[0]) << keys.size();
     }
     EXPECT_EQ(errorOf([&] { rows->Seek("=>", {1}); }), 3001);
     EXPECT_EQ(errorOf([&] { rows->Seek("=", {"x"}); }), 3421);

@@ -10,12 +10,13 @@ using office::errorOf;
 class Edits : public testing::Test {
  protected:
   Edits() {
-    office::make(path, {"CREATE TABLE p (id COUNTER CONSTRAINT pk PRIMARY KEY, nome TEXT(10), quando DATETIME, "
-                        "n LONG, si YESNO)",
-                        "CREATE TABLE f (x LONG CONSTRAINT pk PRIMARY KEY, p LONG, importo CURRENCY)",
-                        "INSERT INTO p (nome, n) VALUES ('uno', 1)", "INSERT INTO p (nome, n) VALUES ('due', 2)",
-                        "INSERT INTO f VALUES (10, 1, 1.5)", "INSERT INTO f VALUES (11, 1, 2)",
-                        "INSERT INTO f VALUES (12, 9, 3)"});
+    office::make(path,
+                 {"CREATE TABLE p (id COUNTER CONSTRAINT pk PRIMARY KEY, nome TEXT(10), quando DATETIME, "
+                  "n LONG, si YESNO)",
+                  "CREATE TABLE f (x LONG CONSTRAINT pk PRIMARY KEY, p LONG, importo CURRENCY)",
+                  "INSERT INTO p (nome, n) VALUES ('uno', 1)", "INSERT INTO p (nome, n) VALUES ('due', 2)",
+                  "INSERT INTO f VALUES (10, 1, 1.5)", "INSERT INTO f VALUES (11, 1, 2)",
+                  "INSERT INTO f VALUES (12, 9, 3)"});
     db = workspace.OpenDatabase(path, true);
   }
   support::TempFolder folder;
@@ -27,8 +28,8 @@ class Edits : public testing::Test {
 TEST_F(Edits, ANewRecordShowsItsDefaultsAndItsNumber) {
   db->TableDefs("p")->Fields("n").setDefaultValue("=2 + 3");
   db->TableDefs("p")->Fields("nome").setDefaultValue("\"nuovo\"");
-  for (const auto& [source, type] : {std::pair("p", dbOpenTable), {"p", dbOpenDynaset},
-                                     {"SELECT id, nome, si FROM p", dbOpenDynaset}}) {
+  for (const auto& [source, type] :
+       {std::pair("p", dbOpenTable), {"p", dbOpenDynaset}, {"SELECT id, nome, si FROM p", dbOpenDynaset}}) {
     const auto rows = db->OpenRecordset(source, type);
     rows->MoveNext();
     rows->AddNew();
@@ -44,8 +45,9 @@ TEST_F(Edits, ANewRecordShowsItsDefaultsAndItsNumber) {
     EXPECT_EQ(rows->value("id").toLong(), 2);  // where it was before
     rows->setBookmark(rows->LastModified());
     EXPECT_EQ(rows->value("id").toLong(), number);
-    EXPECT_EQ(office::rows(*db->OpenRecordset("SELECT nome, n, si FROM p WHERE id = " + std::to_string(number))),
-              "nuovo|5|Vero");
+    EXPECT_EQ(
+        office::rows(*db->OpenRecordset("SELECT nome, n, si FROM p WHERE id = " + std::to_string(number))),
+        "nuovo|5|Vero");
     rows->MovePrevious();
     EXPECT_EQ(rows->value("id").toLong(), number - 1);
   }
@@ -59,9 +61,15 @@ TEST_F(Edits, WhatIsSetIsConvertedAtOnce) {
     const char* text;
   };
   const Set sets[] = {
-      {"n", "12", 0, "12"},           {"n", 2.5, 0, "2"},         {"n", "dodici", 3421, ""},
-      {"nome", "undici lettere", 3163, ""}, {"nome", 12, 0, "12"}, {"quando", "16/11/2006", 0, "16/11/2006"},
-      {"n", 3e9, 6, ""},              {"id", 7, 3164, ""},        {"nome", runtime::Null{}, 0, "Null"},
+      {"n", "12", 0, "12"},
+      {"n", 2.5, 0, "2"},
+      {"n", "dodici", 3421, ""},
+      {"nome", "undici lettere", 3163, ""},
+      {"nome", 12, 0, "12"},
+      {"quando", "16/11/2006", 0, "16/11/2006"},
+      {"n", 3e9, 6, ""},
+      {"id", 7, 3164, ""},
+      {"nome", runtime::Null{}, 0, "Null"},
       {"somma", 1, 3164, ""},
   };
   const auto rows = db->OpenRecordset("SELECT *, n + 1 AS somma FROM p");
@@ -69,7 +77,8 @@ TEST_F(Edits, WhatIsSetIsConvertedAtOnce) {
   EXPECT_EQ(errorOf([&] { rows->Update(); }), 3020);
   for (const auto& [field, value, error, text] : sets) {
     rows->Edit();
-    EXPECT_EQ(errorOf([&, name = field, given = value] { rows->Fields(name).setValue(given); }), error) << field;
+    EXPECT_EQ(errorOf([&, name = field, given = value] { rows->Fields(name).setValue(given); }), error)
+        << field;
     if (error == 0) {
       rows->Update();
       EXPECT_EQ(office::text(rows->value(field)), text);
@@ -95,11 +104,13 @@ TEST_F(Edits, WhatIsSetIsConvertedAtOnce) {
   rows->Update();
   db->Close();
   EXPECT_EQ(office::complaints(path), "");
-  EXPECT_EQ(office::exported(path, "p"), "id,nome,quando,n,si\n1,\"uno\",\"11/16/06 00:00:00\",2,0\n3,\"tre\",,,0\n");
+  EXPECT_EQ(office::exported(path, "p"),
+            "id,nome,quando,n,si\n1,\"uno\",\"11/16/06 00:00:00\",2,0\n3,\"tre\",,,0\n");
 }
 
 TEST_F(Edits, AJoinChangesEachFieldInItsTable) {
-  const auto rows = db->OpenRecordset("SELECT f.x, f.importo, p.nome, p.id FROM f LEFT JOIN p ON f.p = p.id ORDER BY f.x");
+  const auto rows =
+      db->OpenRecordset("SELECT f.x, f.importo, p.nome, p.id FROM f LEFT JOIN p ON f.p = p.id ORDER BY f.x");
   rows->Edit();
   rows->Fields("importo").setValue(7);
   rows->Fields("nome").setValue("UNO");
@@ -126,7 +137,8 @@ TEST_F(Edits, AJoinChangesEachFieldInItsTable) {
   rows->Fields("x").setValue(21);
   rows->Fields("nome").setValue("y");
   EXPECT_EQ(errorOf([&] { rows->Update(); }), 3027);
-  EXPECT_EQ(office::rows(*db->OpenRecordset("SELECT x, importo FROM f ORDER BY x")), "10|7 11|2 12|3 20|Null");
+  EXPECT_EQ(office::rows(*db->OpenRecordset("SELECT x, importo FROM f ORDER BY x")),
+            "10|7 11|2 12|3 20|Null");
 }
 
 TEST_F(Edits, RowsThatAreRefusedAreLeftOutUnlessAllAreWanted) {
@@ -135,15 +147,16 @@ TEST_F(Edits, RowsThatAreRefusedAreLeftOutUnlessAllAreWanted) {
     db->Execute(std::string("INSERT INTO da VALUES ") + row);
   struct Statement {
     const char* sql;
-    int error;      // with dbFailOnError
-    int affected;   // without
+    int error;     // with dbFailOnError
+    int affected;  // without
     const char *question, *answer;
   };
   const Statement statements[] = {
       {"INSERT INTO f (x, p) SELECT id, p FROM da", 3022, 3, "SELECT x FROM f ORDER BY x", "1 2 3 10 11 12"},
       {"INSERT INTO f (x) VALUES (1)", 3022, 0, "SELECT Count(*) FROM f", "6"},
       {"UPDATE f SET x = 11 WHERE x >= 11", 3022, 1, "SELECT x FROM f WHERE x > 9 ORDER BY x", "10 11 12"},
-      {"UPDATE p SET nome = nome & nome & nome & nome WHERE id = 1", 3163, 0, "SELECT nome FROM p WHERE id = 1", "uno"},
+      {"UPDATE p SET nome = nome & nome & nome & nome WHERE id = 1", 3163, 0,
+       "SELECT nome FROM p WHERE id = 1", "uno"},
       {"UPDATE f INNER JOIN p ON f.p = p.id SET f.x = f.x + 2, p.n = p.n + 10", 3022, 1,
        "SELECT f.x, p.n FROM f INNER JOIN p ON f.p = p.id ORDER BY f.x", "1|11 10|11 13|11"},
   };
@@ -155,13 +168,16 @@ TEST_F(Edits, RowsThatAreRefusedAreLeftOutUnlessAllAreWanted) {
     EXPECT_EQ(db->RecordsAffected(), affected) << sql;
     EXPECT_EQ(office::rows(*db->OpenRecordset(question)), answer) << sql;
   }
-  for (const auto& [sql, error] : {std::pair("UPDATE manca SET a = 1", 3078), {"UPDATE f SET x = chi", 3061},
-                                   {"UPDATE f SET", 3144}, {"SELECT * FROM f", 3065}})
+  for (const auto& [sql, error] : {std::pair("UPDATE manca SET a = 1", 3078),
+                                   {"UPDATE f SET x = chi", 3061},
+                                   {"UPDATE f SET", 3144},
+                                   {"SELECT * FROM f", 3065}})
     EXPECT_EQ(errorOf([&, text = sql] { db->Execute(text); }), error) << sql;
 }
 
 TEST_F(Edits, AQueryIsRunAgainWithOtherAnswersAndAnotherDesign) {
-  const auto query = db->CreateQueryDef("", "PARAMETERS quale LONG, nuovo TEXT; UPDATE p SET nome = nuovo WHERE id = quale");
+  const auto query =
+      db->CreateQueryDef("", "PARAMETERS quale LONG, nuovo TEXT; UPDATE p SET nome = nuovo WHERE id = quale");
   EXPECT_EQ(query->Parameters().Count(), 2u);
   EXPECT_EQ(query->Parameters(0).Name(), "quale");
   EXPECT_EQ(query->Parameters(0).Type(), dbLong);

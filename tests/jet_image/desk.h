@@ -29,27 +29,26 @@ class Desk {
   std::uint32_t page(const std::string& table) { return image().find(table)->page; }
 
   std::int64_t run(const std::string& sql) { return run(session_->runner().compile(sql)); }
-  std::int64_t run(const jet::sql::Statement& statement) { return session_->runner().execute(statement, {}); }
+  std::int64_t run(const jet::sql::Statement& statement) {
+    return session_->runner().execute(statement, {}, true);
+  }
   /// Number of the error in which the statement ends, or 0.
   template <typename Statement>
   int error(const Statement& statement) {
     return office::errorOf([&] { run(statement); });
   }
-  jet::dao::PreparedRows prepare(const std::string& sql) {
+  image::Statement prepare(const std::string& sql) {
     auto& runner = session_->runner();
-    return runner.prepare(std::get<jet::sql::RowStatement>(runner.compile(sql)), {});
+    return runner.prepare(runner.selection(sql), {});
   }
   /// Rows of a SELECT, fields joined by '|', rows by blanks, as the image keeps them.
   std::string rows(const std::string& sql) {
     auto prepared = prepare(sql);
     std::string result;
-    while (prepared.statement.step()) {
+    while (prepared.step()) {
       if (!result.empty()) result += " ";
-      for (std::size_t i = 0; i < prepared.plan.columns.size(); ++i) {
-        const int column = static_cast<int>(i);
-        result += (i ? "|" : "") +
-                  (prepared.statement.null(column) ? std::string("Null") : prepared.statement.text(column));
-      }
+      for (int column = 0; column < sqlite3_column_count(prepared.handle()); ++column)
+        result += (column ? "|" : "") + (prepared.null(column) ? std::string("Null") : prepared.text(column));
     }
     return result;
   }

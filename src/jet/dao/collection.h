@@ -79,7 +79,8 @@ class Collection {
     return *position;
   }
   [[noreturn]] void missing(const std::string& what) const {
-    throw runtime::Error(source_->missingError(), source_->title(), "Elemento inesistente nell'insieme: " + what);
+    throw runtime::Error(source_->missingError(), source_->title(),
+                         "Elemento inesistente nell'insieme: " + what);
   }
 
   std::shared_ptr<const CollectionSource<T>> source_;

@@ -21,9 +21,9 @@ class Database {
   virtual ~Database() = default;
   virtual const std::string& Name() const = 0;  // its path
 
-  /// `source` is the name of a table or of a stored query, or a SELECT. Without a type, a table of this file is
-  /// opened as a table and anything else as a dynaset. Error 3078 unknown table, 3061 parameters, 3075 and kin
-  /// syntax.
+  /// `source` is the name of a table or of a stored query, or a SELECT. Without a type, a table of this file
+  /// is opened as a table and anything else as a dynaset. Error 3078 unknown table, 3061 parameters, 3075 and
+  /// kin syntax.
   virtual RecordsetPtr OpenRecordset(const std::string& source, RecordsetType type = {}, int options = 0) = 0;
   /// Runs a statement that returns no rows, or the stored query of that name: UPDATE, INSERT, DELETE or a
   /// change of design. With dbFailOnError all its rows are changed or none; without it, rows that a key, a
@@ -47,8 +47,8 @@ class Database {
   virtual RelationPtr CreateRelation(const std::string& name = "", const std::string& table = "",
                                      const std::string& foreignTable = "", int attributes = 0) = 0;
   virtual Property CreateProperty(const std::string& name, int type, const runtime::Variant& value) = 0;
-  /// A temporary query where `name` is empty; else one that is stored at once. Error 3012 if the name is taken,
-  /// 3075 and kin for syntax; the tables it names need not exist.
+  /// A temporary query where `name` is empty; else one that is stored at once. Error 3012 if the name is
+  /// taken, 3075 and kin for syntax; the tables it names need not exist.
   virtual QueryDefPtr CreateQueryDef(const std::string& name, const std::string& sql) = 0;
 
   /// Saves where no transaction holds it back, and lets the file go. An error of the save leaves the old file

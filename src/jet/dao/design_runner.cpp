@@ -198,7 +198,8 @@ void DesignRunner::convert(const file::TableDefinition& design, const file::Colu
   const auto page = design.page;
   image_.addColumn(page, columnOf(column));
   runner_.execute(
-      runner_.compile("UPDATE [" + design.name + "] SET [" + column.name + "] = [" + from.name + "]"), {}, true);
+      runner_.compile("UPDATE [" + design.name + "] SET [" + column.name + "] = [" + from.name + "]"), {},
+      true);
   image_.replaceColumn(page, from.name, column.name);
   if (to.autoNumber) image_.makeAutoNumber(page, from.name);
 }

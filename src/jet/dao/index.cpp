@@ -33,7 +33,8 @@ class IndexFields : public CollectionSource<Field> {
   }
   void append(const Field& field) const override {
     auto& parts = index_->draft().parts;
-    if (find(field.Name())) throw runtime::Error(3191, Source, "Campo già presente nell'indice: " + field.Name());
+    if (find(field.Name()))
+      throw runtime::Error(3191, Source, "Campo già presente nell'indice: " + field.Name());
     parts.push_back({field.Name(), (field.Attributes() & dbDescending) != 0});
   }
   void remove(std::size_t position) const override {

@@ -43,7 +43,8 @@ class ObjectProperties : public CollectionSource<Property>,
     return std::nullopt;
   }
   void append(const Property& property) const override {
-    if (find(property.Name())) throw runtime::Error(3367, Source, "Proprietà già presente: " + property.Name());
+    if (find(property.Name()))
+      throw runtime::Error(3367, Source, "Proprietà già presente: " + property.Name());
     const int type = property.Type();
     const auto column = type == dbDecimal ? file::ColumnType::Numeric : static_cast<file::ColumnType>(type);
     session_->image().setProperty(id_, column_(),
@@ -155,8 +156,8 @@ Property Field::CreateProperty(const std::string& name, int type, const runtime:
   return Property(name, type, value);
 }
 
-PropertyCollection columnProperties(std::shared_ptr<Session> session, std::uint32_t page, std::uint16_t column,
-                                    Field field) {
+PropertyCollection columnProperties(std::shared_ptr<Session> session, std::uint32_t page,
+                                    std::uint16_t column, Field field) {
   std::vector<BuiltIn> builtIn;
   for (const auto& [name, type, item] : FieldProperties)
     builtIn.push_back({name, type, [field, which = item] { return field.owner()->fieldItem(0, which); },
@@ -179,8 +180,10 @@ PropertyCollection tableProperties(std::shared_ptr<Session> session, std::uint32
       {"Attributes", dbLong, [table] { return runtime::Variant(table->Attributes()); }, {}},
       {"Connect", dbText, [table] { return runtime::Variant(table->Connect()); }, {}},
       {"SourceTableName", dbText, [table] { return runtime::Variant(table->SourceTableName()); }, {}},
-      {"RecordCount", dbLong,
-       [table] { return runtime::Variant(static_cast<std::int32_t>(table->RecordCount())); }, {}},
+      {"RecordCount",
+       dbLong,
+       [table] { return runtime::Variant(static_cast<std::int32_t>(table->RecordCount())); },
+       {}},
   };
   return PropertyCollection(std::make_shared<ObjectProperties>(
       std::move(session), page, [] { return std::string(); }, std::move(builtIn)));

@@ -30,8 +30,8 @@ bool isStatement(std::string_view text) {
 
 }  // namespace
 
-RecordsetPtr openRows(const std::shared_ptr<Session>& session, const std::string& name, const std::string& sql,
-                      const Answers& answers, RecordsetType type, int options) {
+RecordsetPtr openRows(const std::shared_ptr<Session>& session, const std::string& name,
+                      const std::string& sql, const Answers& answers, RecordsetType type, int options) {
   auto& runner = session->runner();
   if (type == dbOpenTable) notATable(name);
   if (type == RecordsetType{}) type = dbOpenDynaset;
@@ -55,7 +55,8 @@ RecordsetPtr openTable(const std::shared_ptr<Session>& session, const std::strin
   if (type == dbOpenTable && table->link) notATable(name);
   RecordsetBase::Origin origin{table->name, type == RecordsetType{} ? dbOpenTable : type};
   if (origin.type == dbOpenTable && !table->link)
-    return std::make_shared<TableRecordset>(session, std::move(origin), table->page, (options & dbReadOnly) != 0);
+    return std::make_shared<TableRecordset>(session, std::move(origin), table->page,
+                                            (options & dbReadOnly) != 0);
   // Nothing can change under a read-only database, so its rows need not be loaded to be read in order.
   if (session->readOnly() && type == dbOpenForwardOnly && !table->link)
     return std::make_shared<FileRecordset>(session, std::move(origin), table->page);
@@ -63,8 +64,8 @@ RecordsetPtr openTable(const std::shared_ptr<Session>& session, const std::strin
                   table->link ? options | dbReadOnly : options);
 }
 
-RecordsetPtr openSource(const std::shared_ptr<Session>& session, const std::string& source, RecordsetType type,
-                        int options) {
+RecordsetPtr openSource(const std::shared_ptr<Session>& session, const std::string& source,
+                        RecordsetType type, int options) {
   if (session->image().find(source)) return openTable(session, source, type, options);
   const std::string statement = statementFor(*session, source);
   if (type == dbOpenTable && statement == source)

@@ -58,7 +58,7 @@ class PositionedRecordset : public RecordsetBase {
   /// Error 3021 without a current record, 3167 if it was deleted here.
   std::int64_t requireRecord() const;
   bool onRecord() const { return cursor_ == Cursor::On; }
-  void deleted();                          // the current record was
+  void deleted();  // the current record was
   void touched(std::int64_t place) { lastModified_ = place; }
   /// The places that remain, in their order, of a newly filled recordset.
   std::vector<std::int64_t> narrowed(const Narrowing& narrowing);

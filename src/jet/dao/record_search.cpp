@@ -12,8 +12,8 @@ constexpr char Place[] = "[~place]";
 
 /// A column whose values are kept in the image as those of `type`.
 file::ColumnType columnType(sql::Type type) {
-  for (int each = static_cast<int>(file::ColumnType::Boolean); each <= static_cast<int>(file::ColumnType::Raw);
-       ++each)
+  for (int each = static_cast<int>(file::ColumnType::Boolean);
+       each <= static_cast<int>(file::ColumnType::Raw); ++each)
     if (sql::typeOf(static_cast<file::ColumnType>(each)) == type) return static_cast<file::ColumnType>(each);
   return file::ColumnType::Text;
 }
@@ -47,8 +47,8 @@ RecordSearch::~RecordSearch() {
   last_ = {};
   if (session_->released()) return;
   // What can't be dropped goes with the connection.
-  const std::string drop = "DROP VIEW IF EXISTS temp." + image::tableName(table_.page) +
-                           "; DROP TABLE IF EXISTS " + scratch();
+  const std::string drop =
+      "DROP VIEW IF EXISTS temp." + image::tableName(table_.page) + "; DROP TABLE IF EXISTS " + scratch();
   sqlite3_exec(session_->image().connection().handle(), drop.c_str(), nullptr, nullptr, nullptr);
 }
 
@@ -65,8 +65,8 @@ void RecordSearch::show(const std::vector<std::string>& fields, const std::strin
   std::string columns;
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const bool text = file::isText(table_.columns[i].type);
-    columns += fields[i] + (text ? " COLLATE JET AS " : " AS ") + image::columnName(table_.columns[i].number) +
-               ", ";
+    columns +=
+        fields[i] + (text ? " COLLATE JET AS " : " AS ") + image::columnName(table_.columns[i].number) + ", ";
   }
   session_->image().connection().execute("CREATE TEMP VIEW " + image::tableName(table_.page) + " AS SELECT " +
                                          columns + place + " AS " +

@@ -21,9 +21,9 @@ using RecordsetPtr = std::shared_ptr<Recordset>;
 /// Error 3021 where a current record is needed and there is none, 3251 for what its kind doesn't offer, 3420
 /// after Close.
 ///
-/// Kinds: a table (records in the order of its Index, or as they lie; all changes are seen at once), a dynaset
-/// (the records that were there when it was opened, and those it added itself, at the end; values are read
-/// when the cursor comes to a record), a snapshot (a copy) and forward-only (MoveNext alone).
+/// Kinds: a table (records in the order of its Index, or as they lie; all changes are seen at once), a
+/// dynaset (the records that were there when it was opened, and those it added itself, at the end; values are
+/// read when the cursor comes to a record), a snapshot (a copy) and forward-only (MoveNext alone).
 class Recordset {
  public:
   virtual ~Recordset() = default;

@@ -10,8 +10,14 @@ namespace {
 constexpr char Source[] = "DAO.Recordset";
 
 FieldInfo fieldInfo(const file::TableDefinition& table, const file::Column& column) {
-  FieldInfo info{column.name, sql::typeOf(column.type), fieldSize(column), fieldAttributes(column),
-                 table.name,  column.name,              {},                column.number};
+  FieldInfo info{column.name,
+                 sql::typeOf(column.type),
+                 fieldSize(column),
+                 fieldAttributes(column),
+                 table.name,
+                 column.name,
+                 {},
+                 column.number};
   return info;
 }
 

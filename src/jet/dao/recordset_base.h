@@ -80,11 +80,11 @@ class RecordsetBase : public Recordset,
  protected:
   /// Error 3420 once the recordset or its database is closed.
   void requireOpen() const;
-  [[noreturn]] static void noCurrentRecord();   // 3021
-  [[noreturn]] static void recordDeleted();     // 3167
-  [[noreturn]] void invalidOperation() const;   // 3219
-  [[noreturn]] static void invalidBookmark();   // 3159
-  [[noreturn]] void unsupported() const;        // 3251
+  [[noreturn]] static void noCurrentRecord();    // 3021
+  [[noreturn]] static void recordDeleted();      // 3167
+  [[noreturn]] void invalidOperation() const;    // 3219
+  [[noreturn]] static void invalidBookmark();    // 3159
+  [[noreturn]] void unsupported() const;         // 3251
   [[noreturn]] static void readOnlyRecordset();  // 3027
 
   std::shared_ptr<Session> session_;
@@ -100,7 +100,7 @@ class RecordsetBase : public Recordset,
 
 /// Fields of a query's result; those of the plan's row keys belong to a part.
 std::vector<FieldInfo> resultFields(const sql::RowStatement& plan, const sql::Schema& schema);
-/// Fields of a table in display order, all of part 0.
+/// Fields of a table in display order.
 std::vector<FieldInfo> tableFields(const file::TableDefinition& table);
 
 }  // namespace jet::dao

@@ -14,8 +14,8 @@ using Change = sql::TouchedTable::Change;
 constexpr std::uint32_t SystemObject = 0x80000002;  // of a table's flags
 
 /// Errors that say that one row can't be changed so, not that the statement is wrong: overflow, division by
-/// zero, types, Null; keys, a record that is too large, texts that are too long; relations; rules; numbers and
-/// conversions.
+/// zero, types, Null; keys, a record that is too large, texts that are too long; relations; rules; numbers
+/// and conversions.
 constexpr int RowErrors[] = {6,    11,   13,   94,   3022, 3047, 3058, 3163, 3200, 3201, 3314,
                              3315, 3316, 3317, 3320, 3349, 3396, 3397, 3399, 3421, 3464};
 
@@ -107,9 +107,11 @@ void makeReady(image::Image& image, const sql::RowStatement& plan) {
 RowChanges::RowChanges(image::Image& image, sql::RowStatement plan) : image_(image), plan_(std::move(plan)) {
   makeReady(image_, plan_);
   manyRowsInserted_ = plan_.kind == Kind::Insert && plan_.tables.size() > 1;
+  for (const auto& table : plan_.tables) readsLinks_ = readsLinks_ || image_.link(table.page).has_value();
 }
 
 std::int64_t RowChanges::run(const Answers& answers, bool failOnError) {
+  if (readsLinks_) makeReady(image_, plan_);  // the other file may have changed
   if (plan_.sql.empty()) return runRowByRow(answers, failOnError);
   if (failOnError) return runWhole(answers);
   try {

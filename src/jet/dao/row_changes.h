@@ -35,7 +35,7 @@ class RowChanges {
   image::Image& image_;
   sql::RowStatement plan_;
   image::Statement whole_;
-  bool manyRowsInserted_ = false;
+  bool manyRowsInserted_ = false, readsLinks_ = false;
 };
 
 /// Makes the tables of `plan` ready for it.

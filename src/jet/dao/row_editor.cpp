@@ -37,7 +37,11 @@ void RowEditor::edit() {
 
 void RowEditor::add() {
   auto& image = session_->image();
-  for (const auto page : pages_) image.prepareToChange(page, {}, {image::RowChange::Kind::Insert, {}});
+  if (addDesign_ != image.generation()) {
+    for (const auto page : pages_) image.prepareToChange(page, {}, {image::RowChange::Kind::Insert, {}});
+    defaults_.reset();
+    addDesign_ = image.generation();
+  }
   edits_.assign(fields_.size(), std::nullopt);
   if (!defaults_) findDefaults();
   for (auto& each : *defaults_) {
@@ -107,10 +111,14 @@ void RowEditor::set(std::size_t field, const runtime::Variant& value) {
   edits_[field] = Edit{converted(field, value), true};
 }
 
-image::Statement& RowEditor::prepared(const std::string& sql) {
-  if (sql != lastSql_ || !last_) {
-    last_ = session_->image().connection().prepare(sql);
+image::Statement& RowEditor::prepared(std::size_t part, const image::RowChange& change,
+                                      const std::string& sql) {
+  auto& image = session_->image();
+  if (sql != lastSql_ || lastDesign_ != image.generation() || !last_) {
+    image.prepareToChange(pages_[part], {}, change);
+    last_ = image.connection().prepare(sql);
     lastSql_ = sql;
+    lastDesign_ = image.generation();
   }
   last_.reset();
   return last_;
@@ -143,9 +151,9 @@ void RowEditor::changePart(std::size_t part, std::int64_t rowid) {
     assignments += (assignments.empty() ? "" : ", ") + image::columnName(fields_[i].column) + " = ?" +
                    std::to_string(assigned.size() + 1);
   }
-  image.prepareToChange(pages_[part], {}, {image::RowChange::Kind::Update, assigned});
-  auto& statement = prepared("UPDATE " + image::tableName(pages_[part]) + " SET " + assignments +
-                             " WHERE rowid = ?1");
+  auto& statement =
+      prepared(part, {image::RowChange::Kind::Update, assigned},
+               "UPDATE " + image::tableName(pages_[part]) + " SET " + assignments + " WHERE rowid = ?1");
   statement.bind(1, rowid);
   int parameter = 1;
   for (std::size_t i = 0; i < fields_.size(); ++i)
@@ -177,7 +185,6 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
   for (const auto& each : *defaults_)
     if (each.part == part && !each.field) values.emplace_back(each.column, &each.value);
 
-  image.prepareToChange(pages_[part], {}, {image::RowChange::Kind::Insert, {}});
   std::string names, places;
   for (const auto& [number, value] : values) {
     names += (names.empty() ? "" : ", ") + image::columnName(number);
@@ -185,7 +192,8 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
   }
   const std::string into = "INSERT INTO " + image::tableName(pages_[part]);
   auto& statement =
-      prepared(values.empty() ? into + " DEFAULT VALUES" : into + "(" + names + ") VALUES (" + places + ")");
+      prepared(part, {image::RowChange::Kind::Insert, {}},
+               values.empty() ? into + " DEFAULT VALUES" : into + "(" + names + ") VALUES (" + places + ")");
   const std::string table = image.definition(pages_[part]).name;
   int parameter = 0;
   for (const auto& [number, value] : values)
@@ -198,8 +206,8 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
 
 void RowEditor::remove(std::size_t part, std::int64_t rowid) {
   auto& image = session_->image();
-  image.prepareToChange(pages_[part], {}, {image::RowChange::Kind::Delete, {}});
-  auto& statement = prepared("DELETE FROM " + image::tableName(pages_[part]) + " WHERE rowid = ?1");
+  auto& statement = prepared(part, {image::RowChange::Kind::Delete, {}},
+                             "DELETE FROM " + image::tableName(pages_[part]) + " WHERE rowid = ?1");
   statement.bind(1, rowid);
   statement.run();
   image.markChanged(pages_[part]);

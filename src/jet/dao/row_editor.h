@@ -51,7 +51,8 @@ class RowEditor {
   runtime::Variant converted(std::size_t field, const runtime::Variant& value);
   std::size_t partToInsert() const;
   void changePart(std::size_t part, std::int64_t rowid);
-  image::Statement& prepared(const std::string& sql);
+  /// Makes the part's table ready for the change and gives its statement; those of the last one are kept.
+  image::Statement& prepared(std::size_t part, const image::RowChange& change, const std::string& sql);
 
   std::shared_ptr<Session> session_;
   std::vector<std::uint32_t> pages_;
@@ -59,8 +60,10 @@ class RowEditor {
   EditModeType mode_ = dbEditNone;
   std::vector<std::optional<Edit>> edits_;  // by field
   std::optional<std::vector<Default>> defaults_;
+  std::optional<std::uint64_t> addDesign_;  // Image::generation() when add() was last made ready
   image::Statement echo_;
   std::string lastSql_;
+  std::uint64_t lastDesign_ = 0;  // Image::generation() when it was made ready
   image::Statement last_;
 };
 

@@ -12,13 +12,16 @@ void TableCursor::orderBy(std::vector<file::IndexColumn> columns) {
   key_.clear();
   key_.resize(columns_.size());
   statements_.clear();
+  readyDesign_.reset();
 }
 
 void TableCursor::prepareTable() {
+  if (readyDesign_ == image_.generation()) return;
   if (columns_.empty())
     image_.prepareToRead(page_, {});
   else
     image_.prepareToRead(page_, {columns_.front().column});
+  readyDesign_ = image_.generation();
 }
 
 image::Statement& TableCursor::prepared(const std::string& sql) {
@@ -79,8 +82,8 @@ std::optional<std::int64_t> TableCursor::beyond(std::size_t columns, bool forwar
 std::optional<std::int64_t> TableCursor::neighbour(bool forward) {
   prepareTable();
   readKey();
-  const std::string rowid = std::string("rowid ") + (forward ? ">" : "<") + " ?" +
-                            std::to_string(columns_.size() + 1);
+  const std::string rowid =
+      std::string("rowid ") + (forward ? ">" : "<") + " ?" + std::to_string(columns_.size() + 1);
   if (const auto found = run(equals(columns_.size()) + rowid, columns_.size(), forward)) return found;
   for (std::size_t columns = columns_.size(); columns > 0; --columns)
     if (const auto found = beyond(columns, forward)) return found;
@@ -125,8 +128,7 @@ void TableCursor::readKey() {
   if (columns_.empty()) return;
   std::string names;
   for (const auto& column : columns_) names += (names.empty() ? "" : ", ") + image::columnName(column.column);
-  auto& statement =
-      prepared("SELECT " + names + " FROM " + image::tableName(page_) + " WHERE rowid = ?1");
+  auto& statement = prepared("SELECT " + names + " FROM " + image::tableName(page_) + " WHERE rowid = ?1");
   statement.bind(1, rowid_);
   if (statement.step())
     for (std::size_t i = 0; i < key_.size(); ++i)

@@ -32,7 +32,8 @@ TableDef::TableDef(std::shared_ptr<Session> session, std::uint32_t page)
     : session_(std::move(session)), page_(page) {}
 
 TableDef::Draft& TableDef::draft() {
-  if (page_) throw runtime::Error(3219, Source, "Operazione non valida: la tabella fa già parte del database");
+  if (page_)
+    throw runtime::Error(3219, Source, "Operazione non valida: la tabella fa già parte del database");
   return draft_;
 }
 

@@ -40,7 +40,7 @@ const KeptItem* keptItem(FieldItem item) {
 
 ColumnType columnType(int type, const std::string& name) {
   if (type == dbDecimal) return ColumnType::Numeric;
-  constexpr int Known[] = {dbBoolean, dbByte,   dbInteger, dbLong, dbCurrency, dbSingle, dbDouble,
+  constexpr int Known[] = {dbBoolean, dbByte,   dbInteger, dbLong, dbCurrency, dbSingle,    dbDouble,
                            dbDate,    dbBinary, dbText,    dbMemo, dbGUID,     dbLongBinary};
   for (const int known : Known)
     if (type == known) return static_cast<ColumnType>(type);
@@ -202,8 +202,8 @@ void TableField::writeProperties(file::PropertyBlock& properties) const {
     const auto value = draftItem(kept.item);
     const bool textOnly = kept.item == FieldItem::AllowZeroLength;
     if (textOnly && draft_.type != dbText && draft_.type != dbMemo) continue;
-    const bool absent = kept.type == ColumnType::Boolean ? !textOnly && !value.toBoolean()
-                                                         : value.toText().empty();
+    const bool absent =
+        kept.type == ColumnType::Boolean ? !textOnly && !value.toBoolean() : value.toText().empty();
     if (!absent) properties.set(draft_.name, image::propertyItem(kept.name, kept.type, value));
   }
 }

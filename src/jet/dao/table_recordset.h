@@ -70,7 +70,7 @@ class TableRecordset : public RecordsetBase {
   mutable RowReader reader_;
   mutable bool fetched_ = false;
   RowEditor editor_;
-  mutable std::int64_t count_ = 0;          // RecordCount,
+  mutable std::int64_t count_ = 0;            // RecordCount,
   mutable std::int64_t countedChanges_ = -1;  // when the image had seen so many changes
 };
 
