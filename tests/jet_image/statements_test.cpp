@@ -54,16 +54,16 @@ TEST(Statements, TablesAreLoadedAndAlteredWhileOthersAreBeingRead) {
   Desk desk({"CREATE TABLE a (n LONG)", "INSERT INTO a (n) VALUES (1)", "INSERT INTO a (n) VALUES (2)",
              "CREATE TABLE b (n LONG CONSTRAINT pk PRIMARY KEY)", "INSERT INTO b (n) VALUES (1)"});
   auto reading = desk.prepare("SELECT n FROM a ORDER BY n");
-  ASSERT_TRUE(reading.statement.step());
+  ASSERT_TRUE(reading.step());
   EXPECT_EQ(desk.rows("SELECT * FROM b"), "1");
   EXPECT_EQ(desk.error("ALTER TABLE a ADD COLUMN m LONG"), 0);
   EXPECT_EQ(desk.error("ALTER TABLE b ADD COLUMN m LONG"), 0);
   EXPECT_EQ(desk.error("ALTER TABLE a ADD CONSTRAINT r FOREIGN KEY (m) REFERENCES b"), 0);
   EXPECT_EQ(desk.error("UPDATE a SET m = 7"), 3201);
   EXPECT_EQ(desk.error("CREATE TABLE c (n LONG)"), 0);
-  ASSERT_TRUE(reading.statement.step());
-  EXPECT_EQ(reading.statement.text(0), "2");
-  EXPECT_FALSE(reading.statement.step());
+  ASSERT_TRUE(reading.step());
+  EXPECT_EQ(reading.text(0), "2");
+  EXPECT_FALSE(reading.step());
 }
 
 TEST(Statements, ARollbackTakesEveryDesignChangeBack) {
