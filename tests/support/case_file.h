@@ -1,0 +1,111 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace support {
+
+/// A case of a case file, and the line where it begins.
+struct Case {
+  int line = 0;
+  std::string statement;
+  std::vector<std::pair<std::string, std::string>> answers;  // "? NAME = VALUE"
+  std::string look;                                          // "@ LOOK"
+  std::string result;                                        // "=> RESULT"
+};
+
+/// Reads a text of cases. A case is a statement, then lines "? NAME = VALUE" and "@ LOOK" where it needs
+/// them, and its result: "=> RESULT", on a line of its own or behind the last of these. Lines that go on are
+/// indented; they are joined by a blank, those of a result by a line feed. A result between double quotes is
+/// what stands between them. Between cases stand empty lines and comments: '#' and a blank.
+class CaseFile {
+ public:
+  /// Throws std::runtime_error with the place: the file is missing, has no case, or its form is wrong.
+  explicit CaseFile(std::string path) : path_(std::move(path)) {
+    std::ifstream file(path_);
+    for (std::string line; std::getline(file, line);) {
+      ++line_;
+      read(line);
+    }
+    if (open_ && open_ != &cases_.back().result) fail("the last case has no result");
+    if (cases_.empty()) fail("no case");
+  }
+
+  /// Fails at the place of each case for which `found(case)` is not its result.
+  template <typename Found>
+  void expectResults(Found found) const {
+    for (const Case& each : cases_) {
+      const std::string result = found(each);
+      if (result == each.result) continue;
+      ADD_FAILURE_AT(path_.c_str(), each.line)
+          << each.statement << "\ngives    " << result << "\nand not  " << each.result;
+    }
+  }
+
+ private:
+  [[noreturn]] void fail(const char* what) const {
+    throw std::runtime_error(path_ + ":" + std::to_string(line_) + ": " + what);
+  }
+
+  void read(const std::string& line) {
+    const bool ended = !open_ || open_ == &cases_.back().result;
+    if (line.empty() || line == "#" || line.starts_with("# ")) {
+      if (!ended) fail("the case before has no result");
+      open_ = nullptr;
+    } else if (line.starts_with("  ")) {
+      if (!open_) fail("this line goes on with nothing");
+      if (ended) {
+        *open_ += "\n" + line.substr(2);
+      } else {
+        split(line.substr(2), *open_ + " ");
+      }
+    } else if (ended && !line.starts_with("=>") && !line.starts_with("? ") && !line.starts_with("@ ")) {
+      cases_.emplace_back().line = line_;
+      open_ = &cases_.back().statement;
+      split(line, "");
+    } else if (ended) {
+      fail("this line has no statement before it");
+    } else if (line.starts_with("? ")) {
+      answer(line.substr(2));
+    } else if (line.starts_with("@ ")) {
+      open_ = &cases_.back().look;
+      split(line.substr(2), "");
+    } else if (line.starts_with("=>")) {
+      result(line.substr(2));
+    } else {
+      fail("the case before has no result");
+    }
+  }
+
+  /// Adds the rest of a line to what is open, up to a result.
+  void split(const std::string& text, const std::string& before) {
+    const auto mark = (text + " ").rfind(" => ");
+    *open_ = before + text.substr(0, mark);
+    if (mark != std::string::npos) result(text.substr(mark + 3));
+  }
+
+  void answer(const std::string& text) {
+    const auto equals = text.find(" = ");
+    if (equals == std::string::npos) fail("a parameter without a value");
+    open_ = &cases_.back().answers.emplace_back(text.substr(0, equals), text.substr(equals + 3)).second;
+  }
+
+  void result(std::string text) {
+    if (text.starts_with(' ')) text.erase(0, 1);
+    if (text.size() > 1 && text.front() == '"' && text.back() == '"') text = text.substr(1, text.size() - 2);
+    open_ = &cases_.back().result;
+    *open_ = text;
+  }
+
+  const std::string path_;
+  std::vector<Case> cases_;
+  std::string* open_ = nullptr;  // the part of the last case that an indented line goes on with
+  int line_ = 0;
+};
+
+}  // namespace support
