@@ -168,11 +168,6 @@ TEST_F(Edits, RowsThatAreRefusedAreLeftOutUnlessAllAreWanted) {
     EXPECT_EQ(db->RecordsAffected(), affected) << sql;
     EXPECT_EQ(office::rows(*db->OpenRecordset(question)), answer) << sql;
   }
-  for (const auto& [sql, error] : {std::pair("UPDATE manca SET a = 1", 3078),
-                                   {"UPDATE f SET x = chi", 3061},
-                                   {"UPDATE f SET", 3144},
-                                   {"SELECT * FROM f", 3065}})
-    EXPECT_EQ(errorOf([&, text = sql] { db->Execute(text); }), error) << sql;
 }
 
 TEST_F(Edits, AQueryIsRunAgainWithOtherAnswersAndAnotherDesign) {
@@ -183,9 +178,10 @@ TEST_F(Edits, AQueryIsRunAgainWithOtherAnswersAndAnotherDesign) {
   EXPECT_EQ(query->Parameters(0).Type(), dbLong);
   EXPECT_TRUE(query->Parameters("nuovo").Value().isEmpty());
   EXPECT_EQ(errorOf([&] { query->Parameters(2); }), 3265);
+  EXPECT_EQ(errorOf([&] { query->Parameters("altro"); }), 3265);
   EXPECT_EQ(errorOf([&] { query->Execute(); }), 3061);
   for (const char* name : {"prima", "seconda"}) {
-    query->Parameters("QUALE").setValue(1);
+    query->Parameters("QUALE").setValue("1");
     query->Parameters("nuovo").setValue(name);
     query->Execute(dbFailOnError);
     EXPECT_EQ(query->RecordsAffected(), 1);

@@ -103,18 +103,5 @@ TEST_F(Recordsets, ReadOnlyOnesRefuseChanges) {
   EXPECT_EQ(errorOf([&] { writable->OpenRecordset("SELECT DISTINCT b FROM t")->AddNew(); }), 3027);
 }
 
-TEST_F(Recordsets, QueriesTakeParameters) {
-  const auto db = workspace.OpenDatabase(path, true);
-  const auto query = db->CreateQueryDef("", "PARAMETERS quale TEXT; SELECT a FROM t WHERE b = quale");
-  EXPECT_EQ(errorOf([&] { query->OpenRecordset(); }), 3061);
-  EXPECT_EQ(errorOf([&] { query->Parameters("altro"); }), 3265);
-  query->Parameters("QUALE").setValue("TRE ");
-  EXPECT_EQ(office::rows(*query->OpenRecordset(dbOpenSnapshot)), "3");
-  const auto update = db->CreateQueryDef("", "PARAMETERS n LONG; UPDATE t SET c = TRUE WHERE a >= n");
-  update->Parameters(0).setValue("2");
-  update->Execute();
-  EXPECT_EQ(update->RecordsAffected(), 2);
-}
-
 }  // namespace
 }  // namespace jet::dao

@@ -16,24 +16,20 @@ namespace {
 
 using file::ColumnType;
 
-struct ColumnRow {
-  const char* name;
-  ColumnType type;
-  std::uint16_t length = 0;
-};
-
-file::TableDefinition makeTable(std::uint32_t page, const char* name, const std::vector<ColumnRow>& rows) {
+/// The table that a CREATE TABLE asks for, as a file would hold it.
+file::TableDefinition makeTable(std::uint32_t page, const CreateTable& create) {
   file::TableDefinition table;
   table.page = page;
-  table.name = name;
-  for (const ColumnRow& row : rows) {
+  table.name = create.table;
+  for (const NewColumn& wanted : create.columns) {
     file::Column column;
-    column.name = row.name;
-    column.type = row.type;
+    column.name = wanted.name;
+    column.type = wanted.type;
     column.number = column.position = static_cast<std::uint16_t>(table.columns.size());
-    column.length = row.length;
-    column.precision = 10;
-    column.scale = 2;
+    column.length = wanted.size;
+    if (wanted.type == ColumnType::Text) column.length *= 2;
+    column.precision = wanted.precision;
+    column.scale = wanted.scale;
     table.columns.push_back(column);
   }
   return table;
@@ -69,6 +65,16 @@ std::string shown(sqlite3_stmt* statement, int column, Type type) {
   return readValue(sqlite3_column_value(statement, column), type).toText();
 }
 
+/// On the pages from 10 on.
+constexpr const char* tables[] = {
+    "CREATE TABLE soci (id LONG, nome TEXT(10), cognome TEXT(30), quota CURRENCY, attivo BIT, iscritto "
+    "DATETIME, "
+    "Set TEXT(1), [legge494/96] BIT, Note MEMO, altezza DOUBLE, livello SHORT)",
+    "CREATE TABLE pagamenti (id LONG, socio LONG, importo CURRENCY, data DATETIME, peso DECIMAL(10, 2))",
+    "CREATE TABLE tipi (uno BYTE, mezzo SINGLE, chiave GUID, dati BINARY(4), nome TEXT(10))",
+    "CREATE TABLE rate (id LONG, stato TEXT(1), data DATETIME, importo CURRENCY)",
+    "CREATE TABLE guasti (a LONG, b LONG, c LONG)"};
+
 /// Expressions that new rows get in columns without a value.
 constexpr std::pair<std::string_view, const char*> defaults[] = {{"rate.stato", "\"N\""},
                                                                  {"rate.data", "=DateSerial(2006, 1, 2)"},
@@ -103,36 +109,8 @@ SmallImage::SmallImage() {
   sqlite3_create_collation_v2(connection_, "JET", SQLITE_UTF8, nullptr, compare, nullptr);
   registerFunctions(connection_);
   registerDomainFunction(connection_, [this](const std::string& text) { return compileRows(text); });
-  add(makeTable(10, "soci",
-                {{"id", ColumnType::Long},
-                 {"nome", ColumnType::Text, 20},
-                 {"cognome", ColumnType::Text, 60},
-                 {"quota", ColumnType::Currency},
-                 {"attivo", ColumnType::Boolean},
-                 {"iscritto", ColumnType::Date},
-                 {"Set", ColumnType::Text, 2},
-                 {"legge494/96", ColumnType::Boolean},
-                 {"Note", ColumnType::Memo},
-                 {"altezza", ColumnType::Double},
-                 {"livello", ColumnType::Integer}}));
-  add(makeTable(11, "pagamenti",
-                {{"id", ColumnType::Long},
-                 {"socio", ColumnType::Long},
-                 {"importo", ColumnType::Currency},
-                 {"data", ColumnType::Date},
-                 {"peso", ColumnType::Numeric}}));
-  add(makeTable(12, "tipi",
-                {{"uno", ColumnType::Byte},
-                 {"mezzo", ColumnType::Single},
-                 {"chiave", ColumnType::Guid},
-                 {"dati", ColumnType::Binary, 4},
-                 {"nome", ColumnType::Text, 20}}));
-  add(makeTable(13, "rate",
-                {{"id", ColumnType::Long},
-                 {"stato", ColumnType::Text, 2},
-                 {"data", ColumnType::Date},
-                 {"importo", ColumnType::Currency}}));
-  add(makeTable(14, "guasti", {{"a", ColumnType::Long}, {"b", ColumnType::Long}, {"c", ColumnType::Long}}));
+  std::uint32_t page = 10;
+  for (const char* table : tables) add(makeTable(page++, std::get<CreateTable>(compile(table, *this))));
   execute(content);
 }
 
