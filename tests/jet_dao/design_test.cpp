@@ -9,15 +9,13 @@ namespace {
 using office::errorOf;
 
 const std::vector<std::string> EveryType = {
-    "CREATE TABLE Ogni (id COUNTER CONSTRAINT pk PRIMARY KEY, si BIT, b BYTE, i SHORT, l LONG, v CURRENCY, s "
-    "SINGLE, "
-    "d DOUBLE, q DATETIME, t TEXT(30) NOT NULL, m MEMO, n DECIMAL(10, 3), bin BINARY(8), o LONGBINARY, g "
-    "GUID)",
+    "CREATE TABLE Ogni (id COUNTER CONSTRAINT pk PRIMARY KEY, si BIT, b BYTE, i SHORT, l LONG, v CURRENCY, "
+    "s SINGLE, d DOUBLE, q DATETIME, t TEXT(30) NOT NULL, m MEMO, n DECIMAL(10, 3), bin BINARY(8), o "
+    "LONGBINARY, g GUID)",
     "CREATE UNIQUE INDEX perTesto ON Ogni (t DESC, l)",
     "CREATE INDEX perNumero ON Ogni (n, v)",
     "INSERT INTO Ogni (si, b, i, l, v, s, d, q, t, m, n) VALUES (TRUE, 255, -32768, 2147483647, 12.3456, "
-    "1.5, -0.1, "
-    "#2026-11-16 17:16:00#, 'Niccolò D''Agostino', 'perché', -12.345)",
+    "1.5, -0.1, #2026-11-16 17:16:00#, 'Niccolò D''Agostino', 'perché', -12.345)",
     "INSERT INTO Ogni (t, l) VALUES ('Ωmega', NULL)",
     "INSERT INTO Ogni (t, l) VALUES ('', 0)",
 };

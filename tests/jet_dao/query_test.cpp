@@ -66,9 +66,8 @@ TEST_F(StoredQueries, StandWhereATableStands) {
   store("Per comune",
         "PARAMETERS parComune Text; SELECT cd_matr FROM ragioniere WHERE cd_comune = parComune");
   store("Incrocio",
-        "TRANSFORM Count(*) SELECT Left(ds_cognome, 1) AS iniziale FROM ragioniere GROUP BY Left(ds_cognome, "
-        "1) "
-        "PIVOT cd_comune IN ('A001', 'B002')");
+        "TRANSFORM Count(*) SELECT Left(ds_cognome, 1) AS iniziale FROM ragioniere GROUP BY "
+        "Left(ds_cognome, 1) PIVOT cd_comune IN ('A001', 'B002')");
   for (int pass = 0; pass < 2; ++pass) {
     EXPECT_EQ(read("Incrocio"), "B|Null|1 R|1|Null V|1|Null");
     EXPECT_EQ(read("SELECT iniziale FROM Incrocio WHERE A001 = 1 ORDER BY iniziale"), "R V");

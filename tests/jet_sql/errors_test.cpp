@@ -53,11 +53,9 @@ TEST(Errors, NameWhatTheyStumbledOver) {
 /// Any beginning of a statement, and any of it with one character gone, is compiled or is a numbered error.
 TEST(Errors, MeetNoBrokenStatementUnprepared) {
   const std::string whole =
-      "PARAMETERS p Text(5); SELECT TOP 2 s.*, IIf(s.nome LIKE 'a*', -1, Count(*)) AS x FROM (soci AS s LEFT "
-      "JOIN "
-      "pagamenti ON s.id = pagamenti.socio) WHERE [Set] NOT IN ('A', \"B\") AND data BETWEEN #1/1/2000# AND "
-      "p "
-      "GROUP BY s.nome HAVING Sum(importo) > 1.5E2 ORDER BY 1 DESC;";
+      "PARAMETERS p Text(5); SELECT TOP 2 s.*, IIf(s.nome LIKE 'a*', -1, Count(*)) AS x FROM (soci AS s "
+      "LEFT JOIN pagamenti ON s.id = pagamenti.socio) WHERE [Set] NOT IN ('A', \"B\") AND data BETWEEN "
+      "#1/1/2000# AND p GROUP BY s.nome HAVING Sum(importo) > 1.5E2 ORDER BY 1 DESC;";
   const SmallImage image;
   int errors = 0;
   const auto tryOut = [&](const std::string& text) {

@@ -8,19 +8,16 @@ namespace {
 TEST(Printing, GivesTheTreeBack) {
   const char* statements[] = {
       "PARAMETERS [p q] Text (255), n DECIMAL(10,2); SELECT DISTINCT TOP 5 PERCENT a.*, b![c d] AS [e f], "
-      "`x]y` "
-      "FROM (a INNER JOIN b ON a.x = b.x AND (a.y <> b.y OR a.z IS NOT NULL)) LEFT JOIN (SELECT * FROM c) AS "
-      "d "
-      "ON d.x = a.x, e WHERE NOT (x NOT IN (1, -2, 3) XOR y NOT BETWEEN #1/2/03 4:05# AND #12:00:01 AM#) "
-      "GROUP BY x, y & z HAVING Count(*) > 1 AND f() ORDER BY 1 DESC, x ASC, Mid('a''b', 2);",
+      "`x]y` FROM (a INNER JOIN b ON a.x = b.x AND (a.y <> b.y OR a.z IS NOT NULL)) LEFT JOIN (SELECT * "
+      "FROM c) AS d ON d.x = a.x, e WHERE NOT (x NOT IN (1, -2, 3) XOR y NOT BETWEEN #1/2/03 4:05# AND "
+      "#12:00:01 AM#) GROUP BY x, y & z HAVING Count(*) > 1 AND f() ORDER BY 1 DESC, x ASC, Mid('a''b', 2);",
       "SELECT a - (b - c) - d, a = (b = c), (a AND b) OR (c AND (d OR e)), -(-a), -(a ^ b), (-a) ^ b FROM t",
       "SELECT ALL * FROM t UNION ALL SELECT DISTINCTROW t.* FROM t UNION SELECT 1 FROM u ORDER BY a",
       "DELETE DISTINCTROW t.* FROM t INNER JOIN [Select] ON t.Where = [Select].Order WHERE EXISTS (SELECT 1 "
       "FROM x)",
       "INSERT INTO t SELECT (SELECT Max(x) FROM u) AS y FROM t WHERE x IN (SELECT y FROM u)",
       "CREATE TABLE [a b] (Table COUNTER CONSTRAINT k PRIMARY KEY, Set TEXT(10) NOT NULL UNIQUE, d "
-      "NUMERIC(5, 1), "
-      "CONSTRAINT u UNIQUE (Set, d), PRIMARY KEY (Table))",
+      "NUMERIC(5, 1), CONSTRAINT u UNIQUE (Set, d), PRIMARY KEY (Table))",
       "CREATE UNIQUE INDEX [i j] ON t (a DESC, b ASC) WITH DISALLOW NULL",
       "CREATE INDEX i ON t (a) WITH PRIMARY",
       "SELECT a.x INTO [n m] IN 'C:\\x.mdb' FROM a IN '' [;DATABASE=C:\\y.mdb] WHERE x >= ALL (SELECT y FROM "

@@ -68,8 +68,7 @@ std::string shown(sqlite3_stmt* statement, int column, Type type) {
 /// On the pages from 10 on.
 constexpr const char* tables[] = {
     "CREATE TABLE soci (id LONG, nome TEXT(10), cognome TEXT(30), quota CURRENCY, attivo BIT, iscritto "
-    "DATETIME, "
-    "Set TEXT(1), [legge494/96] BIT, Note MEMO, altezza DOUBLE, livello SHORT)",
+    "DATETIME, Set TEXT(1), [legge494/96] BIT, Note MEMO, altezza DOUBLE, livello SHORT)",
     "CREATE TABLE pagamenti (id LONG, socio LONG, importo CURRENCY, data DATETIME, peso DECIMAL(10, 2))",
     "CREATE TABLE tipi (uno BYTE, mezzo SINGLE, chiave GUID, dati BINARY(4), nome TEXT(10))",
     "CREATE TABLE rate (id LONG, stato TEXT(1), data DATETIME, importo CURRENCY)",
