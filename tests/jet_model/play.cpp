@@ -426,10 +426,12 @@ void Play::dropColumn() {
   if (!table || table->columns.size() < 2) return;
   const std::string name = table->name,
                     column = table->columns[below(static_cast<unsigned>(table->columns.size()))].name;
-  const Relation* parent = model_.parentOf(name);
-  if (parent && parent->childColumn == column) return;
   both("ALTER TABLE [" + name + "] DROP COLUMN [" + column + "]", [&](Database& model) {
-    constexpr int inIndex = 3280;
+    constexpr int inIndex = 3280, inRelation = 3303;
+    for (const Relation& each : model.relations)
+      if ((each.parent == name && each.parentColumn == column) ||
+          (each.child == name && each.childColumn == column))
+        return inRelation;
     Table& changed = *model.find(name);
     for (const Index& index : changed.indexes)
       if (index.column == column) return inIndex;

@@ -79,6 +79,8 @@ class ChangedDatabase {
     for (auto& [page, plan] : plans_)
       if (plan.isRewritten()) rewrite(plan);
     keptMaps_.write(out_);
+    // A table that was written anew may have had use for fewer maps.
+    for (const std::uint32_t page : keptMaps_.emptied()) space_.release(page);
     writeGlobalMap(space_, secondGlobalMap(), out_);
     out_.finish(space_.pageCount());
   }

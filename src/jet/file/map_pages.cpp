@@ -48,6 +48,18 @@ void KeptMapPages::markDeleted(RowPointer pointer) {
   putU16(&bytes[entry], readU16(&bytes[entry]) | DataPage::Deleted | DataPage::Elsewhere);
 }
 
+std::vector<std::uint32_t> KeptMapPages::emptied() const {
+  std::vector<std::uint32_t> numbers;
+  for (const auto& [number, bytes] : pages_) {
+    const std::size_t records = readU16(&bytes[Jet4.rowCountAt]);
+    bool any = false;
+    for (std::size_t row = 0; row < records && !any; ++row)
+      any = !(readU16(&bytes[Jet4.rowDirectoryAt + 2 * row]) & DataPage::Deleted);
+    if (!any) numbers.push_back(number);
+  }
+  return numbers;
+}
+
 void KeptMapPages::write(PageOutput& out) const {
   for (const auto& [number, bytes] : pages_) out.write(number, bytes);
 }

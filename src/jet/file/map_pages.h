@@ -16,6 +16,8 @@ class KeptMapPages {
   /// The record, to be overwritten. Error 3343 if there is no such record.
   std::span<std::byte> record(RowPointer pointer);
   void markDeleted(RowPointer pointer);
+  /// Pages that hold no record any more.
+  std::vector<std::uint32_t> emptied() const;
   void write(PageOutput& out) const;
 
  private:
