@@ -23,6 +23,9 @@ StatementRunner::StatementRunner(image::Image& image) : image_(image) {
     for (const auto& table : plan.tables) image_.prepareToRead(table.page, {});
     return plan;
   });
+  image.setRuleCompiler([this](const auto& table, const auto* column, const std::string& rule) {
+    return sql::compileRule(rule, table, column, *this);
+  });
 }
 
 std::optional<std::string> StatementRunner::findQuery(std::string_view name) const {

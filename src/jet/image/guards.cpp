@@ -1,5 +1,5 @@
 // Rules that rows of the image must keep once a table is changed: required fields and keys, empty texts,
-// auto-numbers.
+// validation rules, auto-numbers.
 #include <algorithm>
 
 #include "jet/image/image.h"
@@ -11,7 +11,7 @@ namespace jet::image {
 
 namespace {
 
-/// What a column must not hold. `broken` is a condition over NEW.
+/// What a column must not hold, or a row where there is no column. `broken` is a condition over NEW.
 struct Rule {
   const file::Column* column;
   std::string broken;
@@ -48,11 +48,25 @@ void addPropertyRules(const file::TableDefinition& design, const file::PropertyB
   }
 }
 
+/// A column's rule, or the table's. One that says neither yes nor no is kept.
+void addValidation(const file::TableDefinition& design, const file::PropertyBlock& block,
+                   const RuleCompiler& compile, const file::Column* column, std::vector<Rule>& rules) {
+  const std::string owner = column ? column->name : std::string();
+  const std::string rule = textProperty(block, owner, "ValidationRule");
+  if (rule.find_first_not_of(' ') == std::string::npos) return;
+  std::string text = textProperty(block, owner, "ValidationText");
+  if (text.empty())
+    text = "Uno o più valori non rispettano la regola di convalida " + rule + " - " +
+           (column ? "campo " + design.name + "." + owner : "tabella " + design.name);
+  rules.push_back(
+      {column, "NOT (" + compile(design, column, rule) + ")", column ? 3317 : 3316, std::move(text)});
+}
+
 /// One trigger for new rows, whose auto-numbers the engine fills in.
 void guardInsert(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
   std::string any, which;
   for (const Rule& rule : rules) {
-    if (rule.column->autoNumber()) continue;
+    if (rule.column && rule.column->autoNumber()) continue;
     any += (any.empty() ? "" : " OR ") + rule.broken;
     which += " WHEN " + rule.broken + " THEN " + raiseCall(rule.number, rule.description);
   }
@@ -66,7 +80,8 @@ void guardUpdate(const Connection& connection, std::uint32_t page, const std::ve
   std::size_t number = 0;
   for (const Rule& rule : rules)
     connection.execute(afterTrigger("g" + std::to_string(page) + "u" + std::to_string(number++),
-                                    "UPDATE OF " + columnName(rule.column->number), page, rule.broken,
+                                    rule.column ? "UPDATE OF " + columnName(rule.column->number) : "UPDATE",
+                                    page, rule.broken,
                                     raise(rule.number, rule.description)));
 }
 
@@ -88,7 +103,14 @@ void Image::guard(Table& table) {
   const auto& design = definition(table);
   std::vector<Rule> rules;
   addIndexRules(design, rules);
-  if (table.flags == 0) addPropertyRules(design, properties(table.page), rules);
+  if (table.flags == 0) {
+    const auto& block = properties(table.page);
+    addPropertyRules(design, block, rules);
+    if (compileRule_) {
+      for (const auto& column : design.columns) addValidation(design, block, compileRule_, &column, rules);
+      addValidation(design, block, compileRule_, nullptr, rules);
+    }
+  }
   guardInsert(connection_, table.page, rules);
   guardUpdate(connection_, table.page, rules);
   for (const auto& column : design.columns)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -54,6 +55,11 @@ struct Link {
   std::string connect;      // kind of source; empty: a Jet file
 };
 
+/// The condition in SQLite SQL, about the row NEW of a trigger, under which a row keeps a validation rule of a
+/// column, or of its table where that is nullptr. Throws where the rule makes no sense.
+using RuleCompiler = std::function<std::string(const file::TableDefinition&, const file::Column*,
+                                               const std::string& rule)>;
+
 /// Tables and stored rows of one open `.mdb`. A table's rows are loaded when a statement first needs them; a
 /// table that nothing changed is carried over page by page when the file is saved.
 class Image {
@@ -63,6 +69,9 @@ class Image {
 
   file::PageFile& source() { return *source_; }
   const Connection& connection() const { return connection_; }
+
+  /// Validation rules are watched once there is somebody who can read them.
+  void setRuleCompiler(RuleCompiler compiler) { compileRule_ = std::move(compiler); }
 
   /// All tables in catalogue order, system ones included.
   const std::vector<Table>& tables() const { return state_.tables; }
@@ -77,10 +86,10 @@ class Image {
   void prepareToRead(std::uint32_t page, const std::vector<std::uint16_t>& compared);
   /// Makes `t<page>` ready for a statement that reads its rows once, in order: large tables stay in the file.
   void prepareToScan(std::uint32_t page);
-  /// Makes `t<page>` ready for `change`: unique and required indexes, Required and AllowZeroLength,
-  /// auto-numbers and relations are watched (3022, 3058, 3314, 3315, 3200, 3201). Of the tables that
-  /// relations lead to only those are loaded that the change can meet. Error 3027 in a read-only database and
-  /// for a link.
+  /// Makes `t<page>` ready for `change`: unique and required indexes, Required, AllowZeroLength
+  /// and validation rules, auto-numbers and relations are watched (3022, 3058, 3314 to 3317, 3200, 3201). Of
+  /// the tables that relations lead to only those are loaded that the change can meet. Error 3027 in a
+  /// read-only database and for a link; that of a rule that can't be read.
   void prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared,
                        const RowChange& change = {});
   /// Notes that rows of the table have changed, and those of other tables that cascades of the last statement
@@ -265,6 +274,7 @@ class Image {
 
   std::unique_ptr<file::PageFile> source_;
   Connection connection_;
+  RuleCompiler compileRule_;
   State state_;
   std::vector<State> saved_;  // one for each open transaction
   std::uint64_t generation_ = 0;

@@ -96,4 +96,18 @@ Statement compile(std::string_view text, const Schema& schema, const Options& op
   return Compilation(schema, options).run(parse(text));
 }
 
+std::string compileRule(std::string_view text, const file::TableDefinition& table, const file::Column* column,
+                        const Schema& schema) {
+  try {
+    Context context(schema);
+    return Translator().rule(
+        Binder(context, nullptr).rule(parseRule(text, column ? column->name : std::string()), table));
+  } catch (const SyntaxError& error) {
+    throw SyntaxError(error.number(),
+                      error.description() + " - regola di convalida " + table.name +
+                          (column ? "." + column->name : std::string()) + ": " + std::string(text),
+                      error.position());
+  }
+}
+
 }  // namespace jet::sql

@@ -41,7 +41,7 @@ constexpr Description descriptions[] = {
     {InsertCountDiffers, "Il numero dei valori non corrisponde a quello dei campi di destinazione"},
     {ExternalDatabase, "Le tabelle di un altro database non sono disponibili"},
     {TooComplex, "Espressione troppo complessa"},
-    {UnknownReference, "Riferimento sconosciuto nel valore predefinito"},
+    {UnknownReference, "Riferimento sconosciuto"},
     {TypesDiffer, "Tipi di dati non corrispondenti nell'espressione criterio"},
 };
 

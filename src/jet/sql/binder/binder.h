@@ -26,6 +26,11 @@ class Binder {
   std::optional<bound::Expression> defaultValue(const file::TableDefinition& table,
                                                 const file::Column& column, std::size_t position);
 
+  // rule.cpp
+  /// A condition about one row of `table`, which is source number 0. Error 3387 for what is no column of it
+  /// nor a value.
+  bound::Expression rule(const tree::Expression& rule, const file::TableDefinition& table);
+
   // select.cpp
   bound::Select select(const tree::Select& select);
   /// The keys of the query whose only part this binder has bound as `select`.

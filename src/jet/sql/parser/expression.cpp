@@ -100,14 +100,15 @@ Expression parseExpression(std::string_view text) {
 
 Expression Parser::expression(int minimum) {
   const Level level(*this);
-  Expression left = operand();
+  Expression left = operand(minimum);
   while (auto longer = operation(left, minimum)) left = std::move(*longer);
   return left;
 }
 
 /// The operand at the cursor with the signs and NOT before it.
-Expression Parser::operand() {
+Expression Parser::operand(int minimum) {
   const std::size_t position = cursor_.peek().position;
+  if (auto implied = impliedColumn(minimum)) return std::move(*implied);
   if (cursor_.acceptWord("NOT")) {
     Expression inner = expression(NotLevel);
     const unsigned depth = inner.place.depth;
@@ -125,8 +126,7 @@ Expression Parser::operand() {
 /// `left` joined with what the operator at the cursor binds to it; nothing if that operator is weaker than
 /// `minimum` or there is none.
 std::optional<Expression> Parser::operation(Expression& left, int minimum) {
-  static constexpr std::string_view predicates[] = {"LIKE", "IN", "BETWEEN", "IS", "NOT"};
-  if (std::ranges::any_of(predicates, [&](std::string_view word) { return cursor_.atWord(word); })) {
+  if (atPredicate() || cursor_.atWord("NOT")) {
     if (minimum > ComparisonLevel) return std::nullopt;
     return predicate(std::move(left));
   }

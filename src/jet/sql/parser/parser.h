@@ -21,6 +21,9 @@ class Parser {
   /// The whole text as one expression, as one query.
   tree::Expression wholeExpression();
   tree::Query wholeQuery(unsigned levels);
+  /// The whole text as the rule of a column, which stands where a comparison lacks its left side, and which a
+  /// mere value is compared with ("M" Or "F"). An empty `column`: as the rule of a table.
+  tree::Expression wholeRule(const std::string& column);
 
  private:
   // statement.cpp
@@ -32,12 +35,17 @@ class Parser {
 
   // expression.cpp: operators; `minimum` is the weakest level that still belongs to the expression.
   tree::Expression expression(int minimum = 0);
-  tree::Expression operand();
+  tree::Expression operand(int minimum);
   std::optional<tree::Expression> operation(tree::Expression& left, int minimum);
   tree::Expression predicate(tree::Expression left);
   tree::Expression in(tree::Expression value, bool negated);
   tree::Expression quantified(ComparisonOperator op, tree::Expression value);
   std::vector<tree::Expression> expressions(std::string_view closing);
+
+  // rule.cpp
+  bool atPredicate() const;
+  /// The column of the rule being read, where a comparison begins without its left side.
+  std::optional<tree::Expression> impliedColumn(int minimum) const;
 
   // operand.cpp: what stands without operators
   tree::Expression primary();
@@ -116,11 +124,13 @@ class Parser {
   Cursor cursor_;
   unsigned levels_ = 0;
   Into* into_ = nullptr;
+  std::string ruledColumn_;  // while its rule is read
   /// What an unexpected word behind the statement is an error of: the clause read last.
   StatementError clause_ = ExpressionSyntax;
 };
 
 tree::Statement parse(std::string_view text);
 tree::Expression parseExpression(std::string_view text);
+tree::Expression parseRule(std::string_view text, const std::string& column);
 
 }  // namespace jet::sql

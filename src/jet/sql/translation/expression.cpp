@@ -66,6 +66,13 @@ Sql Translator::ordered(const Expression& expression) {
   return column && column->collated && !lost ? sql : withCollation(std::move(sql), expression.type);
 }
 
+std::string Translator::rule(const Expression& rule) {
+  newRow_ = true;
+  std::string text = condition(rule).text;
+  newRow_ = false;
+  return text;
+}
+
 std::string Translator::list(const std::vector<Expression>& expressions) {
   std::string text;
   for (const Expression& expression : expressions)
@@ -89,6 +96,7 @@ Sql Translator::translate(const bound::Literal& node, Type) {
 
 Sql Translator::translate(const bound::Column& node, Type) {
   if (gathering_) return {gathered(node)};
+  if (newRow_) return {"NEW." + node.name};
   return {"a" + std::to_string(node.source) + "." + node.name};
 }
 

@@ -40,6 +40,8 @@ class Translator {
   Change update(const bound::Update& update);
   Change deletion(const bound::Delete& deletion);
   Change insert(const bound::Insert& insert);
+  /// A condition about the row NEW of a trigger.
+  std::string rule(const bound::Expression& rule);
 
  private:
   /// FROM, and its tables; none where a query stands among them.
@@ -130,6 +132,7 @@ class Translator {
   /// Tables of FROM that stand in parentheses, by source number.
   std::vector<bool> enclosed_;
   Gathering* gathering_ = nullptr;
+  bool newRow_ = false;  // columns are read from NEW
   /// Rowid that tells the order of the rows of the SELECT being translated, or "0".
   std::string firstKey_ = "0";
 };
