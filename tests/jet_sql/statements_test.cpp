@@ -51,30 +51,12 @@ TEST(Changes, LeaveTheSameRowsOneByOne) {
   });
 }
 
-/// A change, its effect row by row, and what a look at the data then shows.
-struct Change {
-  const char* statement;
-  const char* applied;
-  const char* look;
-  const char* rows;
-};
-
-TEST(RowsOneByOne, FailAlone) {
-  const Change cases[] = {
-      {"UPDATE soci SET livello = cognome & '' WHERE id < 3", "0 applied, error 3421, error 3421",
-       "SELECT livello FROM soci", "3; 7; Null"},
-      {"UPDATE soci SET livello = IIf(id = 2, 'x', '4')", "2 applied, error 3421", "SELECT livello FROM soci",
-       "4; 7; 4"},
-      {"UPDATE soci SET altezza = 10 / (livello - 7) WHERE livello Is Not Null", "1 applied, error 11",
-       "SELECT altezza FROM soci", "-2,5; 2,5; Null"},
-      {"INSERT INTO tipi (nome) SELECT cognome & nome FROM soci WHERE id > 1 UNION SELECT 'corto' FROM soci",
-       "2 applied, error 3163", "SELECT nome FROM tipi", "corto; ROSSIbruno"},
-  };
-  for (const Change& row : cases) {
+TEST(Changes, OfRowsThatFailDoTheOthers) {
+  cases("failing_rows").expectResults([](const support::Case& each) {
     SmallImage image;
-    EXPECT_EQ(image.stepByRow(image.compileRows(row.statement)), row.applied) << row.statement;
-    EXPECT_EQ(image.rows(row.look), row.rows) << row.statement;
-  }
+    const std::string applied = image.stepByRow(image.compileRows(each.statement));
+    return applied + ": " + image.run(each.look);
+  });
 }
 
 TEST(Parameters, AreDeclaredOrFoundAndKeepTheirType) {

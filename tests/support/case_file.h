@@ -40,10 +40,15 @@ class CaseFile {
   template <typename Found>
   void expectResults(Found found) const {
     for (const Case& each : cases_) {
-      const std::string result = found(each);
+      const testing::ScopedTrace place(path_.c_str(), each.line, each.statement);
+      std::string result;
+      try {
+        result = found(each);
+      } catch (const std::exception& error) {
+        result = std::string("exception ") + error.what();
+      }
       if (result == each.result) continue;
-      ADD_FAILURE_AT(path_.c_str(), each.line)
-          << each.statement << "\ngives    " << result << "\nand not  " << each.result;
+      ADD_FAILURE_AT(path_.c_str(), each.line) << "gives    " << result << "\nand not  " << each.result;
     }
   }
 
