@@ -181,4 +181,38 @@ TEST(Columns, AlteredOnesKeepTheirPlaceAndTheirValues) {
   EXPECT_EQ(complaints, "");
 }
 
+TEST(Columns, OnesThatWereDroppedAreForgottenByCompaction) {
+  Desk desk({"CREATE TABLE p (id LONG CONSTRAINT pk PRIMARY KEY, v MEMO)", "INSERT INTO p (id) VALUES (1)",
+             "CREATE TABLE t (nome TEXT(20), note MEMO, si BIT, n LONG, d DATETIME, v LONG)",
+             "CREATE INDEX i ON t (v, nome)", "ALTER TABLE t ADD CONSTRAINT r FOREIGN KEY (v) REFERENCES p"});
+  desk.image().setProperty(desk.page("t"), "nome",
+                           propertyItem("ValidationRule", ColumnType::Memo, std::string("<>'9'")));
+  const auto grow = [&](int limit) {
+    int added = 0;
+    for (int error = 0; error == 0 && added < limit; ++added) {
+      const std::string column = added % 2 ? "x TEXT(9)" : "x CURRENCY";
+      error = desk.error("ALTER TABLE t ADD COLUMN " + column);
+      if (error == 0) error = desk.error("ALTER TABLE t DROP COLUMN x");
+      EXPECT_TRUE(error == 0 || error == 3190) << error;
+    }
+    return added;
+  };
+  for (const char* sql :
+       {"ALTER TABLE t DROP COLUMN n", "ALTER TABLE t DROP COLUMN note", "ALTER TABLE t ADD COLUMN b BIT",
+        "ALTER TABLE t ADD COLUMN m MEMO", "ALTER TABLE t ALTER COLUMN d DOUBLE",
+        "INSERT INTO t VALUES ('Anna', TRUE, 2.5, 1, TRUE, 'lungo')", "INSERT INTO t (nome) VALUES ('Bo')"})
+    EXPECT_EQ(desk.error(sql), 0) << sql;
+  EXPECT_LT(grow(300), 255);
+  desk.compact();
+  EXPECT_EQ(desk.complaints(), "");
+  EXPECT_EQ(desk.image().definition("t")->maxColumns, 6);
+  EXPECT_EQ(desk.rows("SELECT * FROM t WHERE v = 1 OR v IS NULL ORDER BY nome"),
+            "Anna|-1|2.5|1|-1|lungo Bo|0|Null|Null|0|Null");
+  EXPECT_EQ(office::exported(desk.path(), "t"),
+            "nome,si,v,b,m,d\n\"Anna\",1,1,1,\"lungo\",2.5\n\"Bo\",0,,0,,\n");
+  EXPECT_EQ(desk.error("UPDATE t SET v = 2"), 3201);
+  EXPECT_EQ(desk.error("UPDATE t SET nome = '9'"), 3317);
+  EXPECT_EQ(grow(5), 5);
+}
+
 }  // namespace

@@ -1,5 +1,9 @@
+#include <algorithm>
+#include <map>
+
 #include "jet/file/catalogue.h"
 #include "jet/file/database_writer.h"
+#include "jet/file/errors.h"
 #include "jet/file/global_map.h"
 #include "jet/file/page_use.h"
 #include "jet/file/table_writer.h"
@@ -9,10 +13,58 @@ namespace jet::file {
 
 namespace {
 
+/// The columns in the order of a key.
+template <typename Key>
+std::vector<Column*> columnsBy(TableDefinition& table, Key key) {
+  std::vector<Column*> sorted;
+  for (Column& column : table.columns) sorted.push_back(&column);
+  std::ranges::stable_sort(sorted, {}, key);
+  return sorted;
+}
+
+/// The same columns without the numbers, slots and bytes of those that were dropped.
+TableDefinition withoutHoles(TableDefinition table) {
+  std::map<std::uint16_t, std::uint16_t> numbers;
+  table.maxColumns = 0;
+  for (Column* column : columnsBy(table, [](const Column* each) { return each->number; })) {
+    numbers[column->number] = table.maxColumns;
+    column->number = table.maxColumns++;
+  }
+  for (RealIndex& index : table.realIndexes)
+    for (IndexColumn& part : index.columns) {
+      const auto number = numbers.find(part.column);
+      if (number == numbers.end())
+        throw damagedFile("tabella " + table.name + ": indice su un campo che manca");
+      part.column = number->second;
+    }
+
+  std::uint16_t offset = 0;
+  for (Column* column : columnsBy(table, [](const Column* each) { return each->fixedOffset; })) {
+    if (!column->fixed() || column->type == ColumnType::Boolean) continue;
+    column->fixedOffset = offset;
+    offset = static_cast<std::uint16_t>(offset + column->length);
+  }
+  table.variableColumns = 0;
+  const auto variable = [](const Column& column) {
+    return !column.fixed() && column.type != ColumnType::Boolean;
+  };
+  for (Column* column : columnsBy(table, [](const Column* each) { return each->slot; }))
+    if (variable(*column)) column->slot = table.variableColumns++;
+  // A fixed column tells how many slots stood before it.
+  std::uint16_t before = 0;
+  for (Column* column : columnsBy(table, [](const Column* each) { return each->number; })) {
+    if (variable(*column))
+      ++before;
+    else
+      column->slot = before;
+  }
+  return table;
+}
+
 void compactTable(const PageFile& source, const TableDefinition& table, PageOutput& out, const TakePage& take,
                   MapPages& maps) {
   TableReader rows(source, table);
-  TableWriter writer(table, out, take);
+  TableWriter writer(table.system ? table : withoutHoles(table), out, take);
   writer.writeRows(rows);
   writer.writeIndexes();
   writer.writeMaps(maps);

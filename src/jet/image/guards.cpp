@@ -81,8 +81,7 @@ void guardUpdate(const Connection& connection, std::uint32_t page, const std::ve
   for (const Rule& rule : rules)
     connection.execute(afterTrigger("g" + std::to_string(page) + "u" + std::to_string(number++),
                                     rule.column ? "UPDATE OF " + columnName(rule.column->number) : "UPDATE",
-                                    page, rule.broken,
-                                    raise(rule.number, rule.description)));
+                                    page, rule.broken, raise(rule.number, rule.description)));
 }
 
 /// Drops what belongs to t<page> of these types.

@@ -55,10 +55,10 @@ struct Link {
   std::string connect;      // kind of source; empty: a Jet file
 };
 
-/// The condition in SQLite SQL, about the row NEW of a trigger, under which a row keeps a validation rule of a
-/// column, or of its table where that is nullptr. Throws where the rule makes no sense.
-using RuleCompiler = std::function<std::string(const file::TableDefinition&, const file::Column*,
-                                               const std::string& rule)>;
+/// The condition in SQLite SQL, about the row NEW of a trigger, under which a row keeps a validation rule of
+/// a column, or of its table where that is nullptr. Throws where the rule makes no sense.
+using RuleCompiler =
+    std::function<std::string(const file::TableDefinition&, const file::Column*, const std::string& rule)>;
 
 /// Tables and stored rows of one open `.mdb`. A table's rows are loaded when a statement first needs them; a
 /// table that nothing changed is carried over page by page when the file is saved.

@@ -163,9 +163,9 @@ struct Options {
 /// types that can't be compared and so on. 3061 is the caller's when a parameter stays unanswered.
 Statement compile(std::string_view text, const Schema& schema, const Options& options = {});
 
-/// The condition under which a row keeps a rule of `column`, or of its table where that is nullptr: SQLite SQL
-/// about the row NEW of a trigger, Null where the rule says nothing. The column itself stands where the text
-/// leaves out the left side of a comparison (">0", "Like 'A*'", "Is Null Or >5"). A SyntaxError as of
+/// The condition under which a row keeps a rule of `column`, or of its table where that is nullptr: SQLite
+/// SQL about the row NEW of a trigger, Null where the rule says nothing. The column itself stands where the
+/// text leaves out the left side of a comparison (">0", "Like 'A*'", "Is Null Or >5"). A SyntaxError as of
 /// compile, 3387 for a name that is no column of the table.
 std::string compileRule(std::string_view text, const file::TableDefinition& table, const file::Column* column,
                         const Schema& schema);
