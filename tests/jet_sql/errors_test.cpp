@@ -88,7 +88,6 @@ TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
       {"SELECT id FROM soci WHERE id > ANY (SELECT id, nome FROM soci)", "error 3306 at 26"},
       {"SELECT id FROM soci WHERE nome > ALL (SELECT id FROM soci)", "error 3464 at 26"},
       {"SELECT id FROM soci WITH OPTION", "error 3131 at 25"},
-      {"TRANSFORM Count(*) SELECT nome FROM soci GROUP BY nome PIVOT id", "error 3143 at 61"},
       {"TRANSFORM Count(*) SELECT nome FROM soci GROUP BY nome", "error 3143 at 54"},
       {"DROP QUERY x", "error 3295 at 5"},
       {"DROP INDEX i", "error 3295 at 12"},

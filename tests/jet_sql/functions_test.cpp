@@ -70,6 +70,12 @@ TEST(Functions, FormatWhatTheSuiteShows) {
        "lunedì 16 novembre 20261 47"},
       {"Format('abc', '>') & Format('', '@;\"nulla\"') & Format(Null, '0;0;0;\"-\"')", "ABCnulla-"},
       {"Format(True, 'Yes/No') & Format(0, 'True/False') & Format(Null, 'dd')", "SìFalso"},
+      {"FormatNumber(-1234.567) & FormatNumber(-0.5, 1, 0, -1, 0) & FormatNumber('1234,5', 0)",
+       "-1.234,57(,5)1.235"},
+      {"FormatCurrency(CCur(-1234.5)) & FormatPercent(0.256, 1)", "-€ 1.234,5025,6%"},
+      {"FormatDateTime(#11/16/2026 17:16#) & FormatDateTime(#11/16/2026 17:16#, 4)",
+       "16/11/2026 17:16:0017:16"},
+      {"Date$() Like '##-##-####' And Time$() Like '##:##:##'", "Vero"},
       {"Format(1.5) & Format$(#11/16/2026#)", "1,516/11/2026"},
       {"Format$(Null, '0')", "error 94"},
   });
