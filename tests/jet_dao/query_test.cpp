@@ -86,6 +86,55 @@ TEST_F(StoredQueries, StandWhereATableStands) {
   EXPECT_EQ(office::complaints((db_->Close(), path_)), "");
 }
 
+TEST_F(StoredQueries, ACrosstabHasAsManyColumnsAsItsRowsHaveValues) {
+  db_->Execute(
+      "CREATE TABLE rata (id LONG, anno LONG, data DATETIME, importo CURRENCY, tipo TEXT(9), si BIT)");
+  for (const char* row : {"5, 2025, #2/1/2025#, 10.5, 'b.c', True", "1, 2025, #1/31/2025#, 4, 'a', False",
+                          "3, 2026, #1/31/2025#, 2, Null, False", "2, 2026, #1/31/2025#, 7, 'a', True"})
+    db_->Execute("INSERT INTO rata VALUES (" + std::string(row) + ")", dbFailOnError);
+  const struct {
+    const char *value, *pivot, *names, *rows;
+  } cases[] = {
+      {"Sum(importo)", "tipo", "<> a b_c", "2025|Null|4|10,5 2026|2|7|Null"},
+      {"Count(*)", "importo", "2 4 7 10,5", "2025|Null|1|Null|1 2026|1|Null|1|Null"},
+      {"First(importo)", "data", "31/01/2025 01/02/2025", "2025|4|10,5 2026|2|Null"},
+      {"Last(id)", "1", "1", "2025|1 2026|2"},
+      {"Max(id) - Min(id)", "si", "-1 0", "2025|0|0 2026|0|0"},
+      {"Sum(id)", "Format(data, 'mm') & '!'", "01_ 02_", "2025|1|5 2026|5|Null"},
+      {"Sum(id)", "id / 10", "0,1 0,2 0,3 0,5", "2025|1|Null|Null|5 2026|Null|2|3|Null"},
+  };
+  for (const auto& test : cases) {
+    const auto found = db_->OpenRecordset(std::string("TRANSFORM ") + test.value + " SELECT anno FROM rata " +
+                                          "GROUP BY anno PIVOT " + test.pivot);
+    std::string names;
+    for (std::size_t i = 1; i < found->Fields().Count(); ++i)
+      names += (i > 1 ? " " : "") + found->Fields(i).Name();
+    EXPECT_EQ(names, test.names) << test.pivot;
+    EXPECT_EQ(rows(*found), test.rows) << test.pivot;
+  }
+
+  store("Per tipo",
+        "PARAMETERS dal Long; TRANSFORM Sum(importo) SELECT anno FROM rata WHERE anno >= [dal] "
+        "GROUP BY anno PIVOT tipo");
+  store("Sopra", "TRANSFORM Sum([a]) SELECT 'a' AS chi FROM [Per tipo] GROUP BY 'a' PIVOT anno");
+  const auto above = db_->QueryDefs("Sopra");
+  EXPECT_EQ(errorOf([&] { above->OpenRecordset(); }), 3061);
+  above->Parameters("dal").setValue(std::int32_t{2025});
+  EXPECT_EQ(rows(*above->OpenRecordset()), "a|4|7");
+  const auto kept = db_->CreateQueryDef("", "SELECT * INTO copia FROM [Per tipo]");
+  kept->Parameters("dal").setValue(std::int32_t{2026});
+  kept->Execute(dbFailOnError);
+  EXPECT_EQ(read("copia"), "2026|2|7");
+  db_->Execute("DROP TABLE copia");
+  db_->Execute("INSERT INTO rata (anno, tipo, importo) VALUES (2026, 'z', 1)", dbFailOnError);
+  kept->Execute(dbFailOnError);
+  EXPECT_EQ(read("copia"), "2026|2|7|1");
+  EXPECT_EQ(errorOf([&] {
+              read("TRANSFORM Sum(id) SELECT anno FROM rata WHERE id > [manca] GROUP BY anno PIVOT tipo");
+            }),
+            3070);
+}
+
 TEST_F(StoredQueries, ARingOfThemIsAnError) {
   store("Uno", "SELECT * FROM Due");
   store("Due", "SELECT * FROM Uno");
@@ -122,6 +171,40 @@ TEST_F(StoredQueries, ActionsRunByTheirName) {
   store("Elenco", "SELECT * FROM ragioniere");
   EXPECT_EQ(errorOf([&] { db_->Execute("Elenco", dbFailOnError); }), 3065);
   EXPECT_EQ(errorOf([&] { db_->OpenRecordset("Elenco", dbOpenTable); }), 3219);
+}
+
+TEST_F(StoredQueries, ExecuteGivesTheParametersByTheirPlaces) {
+  store("Trasloca",
+        "PARAMETERS parDa Text, parA Text; UPDATE ragioniere SET cd_comune = [parA] WHERE cd_comune "
+        "= [parDa] AND cd_matr < [fino]");
+  store("Chi sta a", "PARAMETERS dove Text; SELECT ds_cognome FROM ragioniere WHERE cd_comune = dove");
+  db_->Execute("EXECUTE Trasloca 'A001', Left('C003bis', 4), 1 + 1", dbFailOnError);
+  EXPECT_EQ(db_->RecordsAffected(), 1);
+  EXPECT_EQ(rows(*db_->OpenRecordset("EXEC [chi sta a] 'C003';")), "Rossi");
+  const std::pair<const char*, int> wrong[] = {
+      {"EXECUTE Trasloca 'A001', 'B002'", 3061}, {"EXECUTE [Chi sta a] 'A001', 1", 3061},
+      {"EXECUTE [Chi sta a] dove", 3075},        {"EXECUTE Nessuna", 3078},
+      {"EXECUTE [Chi sta a] 'A001'", 3065},
+  };
+  for (const auto& [sql, number] : wrong)
+    EXPECT_EQ(errorOf([&, text = sql] { db_->Execute(text, dbFailOnError); }), number) << sql;
+}
+
+TEST_F(StoredQueries, ThatOnlySelectRowsLetThemBeChanged) {
+  store("Di Abano",
+        "PARAMETERS dove Text; SELECT r.* FROM ragioniere AS r WHERE r.cd_comune = [dove] OR cd_matr = 2");
+  store("Nomi", "SELECT DISTINCT ds_cognome FROM ragioniere");
+  const auto run = [&](const char* sql) {
+    const auto query = db_->CreateQueryDef("", sql);
+    query->Parameters("dove").setValue("A001");
+    query->Execute(dbFailOnError);
+    return query->RecordsAffected();
+  };
+  EXPECT_EQ(run("UPDATE [Di Abano] SET ds_cognome = UCase(ds_cognome) WHERE [Di Abano].cd_matr < 3"), 2);
+  EXPECT_EQ(run("DELETE FROM [Di Abano] AS d WHERE d.cd_matr <> 1"), 2);
+  EXPECT_EQ(read("ragioniere"), "1|ROSSI|A001");
+  EXPECT_EQ(errorOf([&] { db_->Execute("UPDATE Nomi SET ds_cognome = 'x'", dbFailOnError); }), 3073);
+  EXPECT_EQ(errorOf([&] { db_->Execute("DELETE FROM Nomi", dbFailOnError); }), 3073);
 }
 
 TEST_F(StoredQueries, AreRewrittenInPlace) {

@@ -39,7 +39,7 @@ class Desk {
   }
   image::Statement prepare(const std::string& sql) {
     auto& runner = session_->runner();
-    return runner.prepare(runner.selection(sql), {});
+    return runner.prepare(runner.selection(sql, {}), {});
   }
   /// Rows of a SELECT, fields joined by '|', rows by blanks, as the image keeps them.
   std::string rows(const std::string& sql) {

@@ -57,6 +57,10 @@ std::string asked(const std::string& text) {
           },
           [&](const AddColumn& add) { return "add " + add.table + "; " + shown(add.column) + parts(add); },
           [](const AlterColumn& alter) { return "alter " + alter.table + "; " + shown(alter.column); },
+          [](const SetDefault& set) {
+            return set.table + "." + set.column + " =" + (set.defaultValue.empty() ? "" : " ") +
+                   set.defaultValue;
+          },
           [](const DropColumn& drop) { return "drop " + drop.table + "." + drop.column; },
           [](const DropConstraint& drop) { return "drop " + drop.name + " of " + drop.table; },
           [](const DropTable& drop) { return "drop " + drop.table; },

@@ -204,6 +204,16 @@ void DesignRunner::convert(const file::TableDefinition& design, const file::Colu
   if (to.autoNumber) image_.makeAutoNumber(page, from.name);
 }
 
+void DesignRunner::run(const sql::SetDefault& wanted) {
+  const auto& design = table(wanted.table);
+  const std::string column = columnNamed(design, wanted.column).name;
+  if (wanted.defaultValue.empty())
+    image_.removeProperty(design.page, column, "DefaultValue");
+  else
+    image_.setProperty(design.page, column,
+                       image::propertyItem("DefaultValue", ColumnType::Memo, wanted.defaultValue));
+}
+
 void DesignRunner::run(const sql::DropColumn& dropped) {
   const auto& design = table(dropped.table);
   image_.dropColumn(design.page, columnNamed(design, dropped.column).name);

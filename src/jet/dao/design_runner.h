@@ -18,6 +18,7 @@ class DesignRunner {
   void run(const sql::AddColumn& added);
   /// Values are converted as an UPDATE would; one that can't be is its error.
   void run(const sql::AlterColumn& altered);
+  void run(const sql::SetDefault& wanted);
   void run(const sql::DropColumn& dropped);
   void run(const sql::DropConstraint& dropped);
   void run(const sql::DropTable& dropped);

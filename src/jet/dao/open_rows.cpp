@@ -19,8 +19,9 @@ namespace {
 }
 
 bool isStatement(std::string_view text) {
-  static constexpr std::string_view words[] = {"SELECT", "TRANSFORM",  "INSERT", "UPDATE", "DELETE",
-                                               "CREATE", "PARAMETERS", "ALTER",  "DROP"};
+  static constexpr std::string_view words[] = {"SELECT", "TRANSFORM", "INSERT",     "UPDATE",
+                                               "DELETE", "CREATE",    "PARAMETERS", "ALTER",
+                                               "DROP",   "EXECUTE",   "EXEC"};
   constexpr std::string_view blanks = " \t\r\n";
   text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
   const std::size_t end = text.find_first_of(blanks);
@@ -36,12 +37,12 @@ RecordsetPtr openRows(const std::shared_ptr<Session>& session, const std::string
   if (type == dbOpenTable) notATable(name);
   if (type == RecordsetType{}) type = dbOpenDynaset;
   if (type == dbOpenDynaset) {
-    auto plan = runner.selection(sql, true);
+    auto plan = runner.selection(sql, {true, answers});
     if (plan.rowKeys > 0)
       return std::make_shared<KeysetRecordset>(session, RecordsetBase::Origin{name, type}, std::move(plan),
                                                answers, (options & dbReadOnly) != 0);
   }
-  auto plan = runner.selection(sql);
+  auto plan = runner.selection(sql, {false, answers});
   RecordsetBase::Origin origin{name, type};
   if (type == dbOpenForwardOnly)
     return std::make_shared<ForwardRecordset>(session, std::move(origin), std::move(plan), answers);

@@ -6,12 +6,10 @@
 
 #include "jet/image/image.h"
 #include "jet/sql/compile.h"
-#include "runtime/variant.h"
 
 namespace jet::dao {
 
-/// Answers to a statement's parameters, in their order; those not answered are empty.
-using Answers = std::vector<std::optional<runtime::Variant>>;
+using sql::Answers;
 
 /// Error 3061 while a parameter of `plan` is not answered.
 void bindAnswers(image::Statement& statement, const sql::RowStatement& plan, const Answers& answers);

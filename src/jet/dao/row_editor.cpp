@@ -73,7 +73,7 @@ void RowEditor::findDefaults() {
         auto expression = runner.defaultOf(table, column);
         expression.erase(0, expression.find_first_not_of("= "));
         if (expression.empty()) continue;
-        each.plan = runner.selection("SELECT (" + expression + ")");
+        each.plan = runner.selection("SELECT (" + expression + ")", {});
       }
       for (std::size_t i = 0; i < fields_.size(); ++i)
         if (fields_[i].part == part && fields_[i].column == column.number) each.field = i;

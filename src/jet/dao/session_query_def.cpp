@@ -80,6 +80,7 @@ void SessionQueryDef::setSQL(const std::string& sql) {
 
 const std::vector<sql::Parameter>& SessionQueryDef::Compiled::parameters() const {
   static const std::vector<sql::Parameter> none;
+  if (const auto* into = std::get_if<sql::SelectInto>(&statement)) return into->rows.parameters;
   const auto* rows = std::get_if<sql::RowStatement>(&statement);
   return rows ? rows->parameters : none;
 }
@@ -132,9 +133,10 @@ RecordsetPtr SessionQueryDef::OpenRecordset(RecordsetType type, int options) {
 void SessionQueryDef::Execute(int options) {
   auto& query = compiled();
   const bool failOnError = options & dbFailOnError;
+  auto& runner = session_->runner();
   auto* rows = std::get_if<sql::RowStatement>(&query.statement);
-  if (!rows) {
-    affected_ = session_->runner().execute(query.statement, answers_, failOnError);
+  if (!rows || rows->columnsFromRows) {
+    affected_ = runner.execute(runner.compile(query.text, {false, answers_}), answers_, failOnError);
     return;
   }
   if (!query.changes) {

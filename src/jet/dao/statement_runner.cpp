@@ -2,6 +2,7 @@
 
 #include "jet/dao/design_runner.h"
 #include "jet/dao/stored_queries.h"
+#include "jet/dao/values.h"
 #include "jet/image/property_values.h"
 #include "jet/sql/domain.h"
 #include "jet/sql/functions.h"
@@ -45,16 +46,34 @@ std::optional<std::string> StatementRunner::readQuery(std::string_view name) con
   return givesRows ? std::optional(queryText(image_, *object)) : std::nullopt;
 }
 
-sql::Statement StatementRunner::compile(const std::string& text, bool withRowKeys) const {
-  return sql::compile(text, *this, {.withRowKeys = withRowKeys});
+/// No indexes are made: the list may be asked for in the middle of a statement.
+std::optional<std::vector<runtime::Variant>> StatementRunner::values(const sql::RowStatement& list,
+                                                                     const Answers& answers) const {
+  for (std::size_t i = 0; i < list.parameters.size(); ++i)
+    if (i >= answers.size() || !answers[i]) return std::nullopt;
+  for (const auto& table : list.tables) image_.prepareToRead(table.page, {});
+  auto rows = image_.connection().prepare(list.sql);
+  bindAnswers(rows, list, answers);
+  std::vector<runtime::Variant> values;
+  while (rows.step()) values.push_back(fromImage(rows, 0, list.columns.front().type));
+  return values;
+}
+
+std::optional<std::string> StatementRunner::findAction(std::string_view name) const {
+  const auto object = findQueryObject(image_, name);
+  return object ? std::optional(queryText(image_, *object)) : std::nullopt;
+}
+
+sql::Statement StatementRunner::compile(const std::string& text, const sql::Options& options) const {
+  return sql::compile(text, *this, options);
 }
 
 std::string StatementRunner::defaultOf(const file::TableDefinition& table, const file::Column& column) const {
   return image::textProperty(image_.properties(table.page), column.name, "DefaultValue");
 }
 
-sql::RowStatement StatementRunner::selection(const std::string& text, bool withRowKeys) const {
-  auto statement = compile(text, withRowKeys);
+sql::RowStatement StatementRunner::selection(const std::string& text, const sql::Options& options) const {
+  auto statement = compile(text, options);
   auto* rows = std::get_if<sql::RowStatement>(&statement);
   if (!rows || rows->kind != sql::RowStatement::Kind::Select)
     throw runtime::Error(3219, Source, "Operazione non valida: l'istruzione non restituisce record");

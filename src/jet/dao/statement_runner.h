@@ -20,11 +20,15 @@ class StatementRunner : public sql::Schema {
   }
   /// The texts are kept until a design changes.
   std::optional<std::string> findQuery(std::string_view name) const override;
+  std::optional<std::string> findAction(std::string_view name) const override;
   std::string defaultOf(const file::TableDefinition& table, const file::Column& column) const override;
 
-  sql::Statement compile(const std::string& text, bool withRowKeys = false) const;
+  std::optional<std::vector<runtime::Variant>> values(const sql::RowStatement& list,
+                                                      const Answers& answers) const override;
+
+  sql::Statement compile(const std::string& text, const sql::Options& options = {}) const;
   /// Error 3219 for what isn't a SELECT.
-  sql::RowStatement selection(const std::string& text, bool withRowKeys = false) const;
+  sql::RowStatement selection(const std::string& text, const sql::Options& options) const;
   /// Error 3065 for a SELECT.
   static sql::RowStatement change(sql::RowStatement plan);
   /// Makes the tables of `plan` ready. Error 3061 while a parameter is not answered.

@@ -13,7 +13,8 @@ namespace {
 /// Binds and translates the body of one statement.
 class Compilation {
  public:
-  Compilation(const Schema& schema, const Options& options) : context_(schema), options_(options) {}
+  Compilation(const Schema& schema, const Options& options)
+      : context_(schema, options.answers), options_(options) {}
 
   Statement run(tree::Statement statement) {
     for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
@@ -41,11 +42,20 @@ class Compilation {
 
   Statement compileBody(tree::Transform& tree) {
     options_.withRowKeys = false;
-    return compileBody(crosstab(std::move(tree)));
+    return compileBody(crosstab(context_, std::move(tree)));
   }
 
   Statement compileBody(const tree::Execute& tree) {
-    throw SyntaxError(InvalidStatement, tree.query.text, tree.query.place.position);
+    const std::size_t position = tree.query.place.position;
+    const auto text = context_.schema().findAction(tree.query.text);
+    if (!text) throw SyntaxError(UnknownTable, tree.query.text, position);
+    return context_.withinQuery(tree.query.text, position, [&] {
+      tree::Statement statement = parse(*text);
+      context_.setArguments(tree.arguments);
+      Statement result = run(std::move(statement));
+      context_.checkArguments(position);
+      return result;
+    });
   }
 
   Statement compileBody(const tree::Update& tree) {
@@ -82,7 +92,8 @@ class Compilation {
             context_.tables(),
             0,
             {},
-            context_.mayReadAnyTable()};
+            context_.mayReadAnyTable(),
+            context_.columnsFromRows()};
   }
 
   Context context_;

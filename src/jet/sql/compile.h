@@ -10,10 +10,16 @@
 
 #include "jet/file/definition.h"
 #include "jet/sql/type.h"
+#include "runtime/variant.h"
 
 /// From Jet SQL to what the image executes: lexer -> parser -> syntax tree -> binder -> bound tree ->
 /// translation.
 namespace jet::sql {
+
+/// Answers to a statement's parameters, in their order; those not answered are empty.
+using Answers = std::vector<std::optional<runtime::Variant>>;
+
+struct RowStatement;
 
 /// What the binder asks of the open database.
 class Schema {
@@ -23,6 +29,13 @@ class Schema {
   virtual const file::TableDefinition* findTable(std::string_view name) const = 0;
   /// The text of a stored query that can stand where a table stands; asked where no table has the name.
   virtual std::optional<std::string> findQuery(std::string_view) const { return std::nullopt; }
+  /// The text of any stored query, for EXECUTE.
+  virtual std::optional<std::string> findAction(std::string_view) const { return std::nullopt; }
+  /// The values of `list`, a SELECT of one column, as they are now: a crosstab's columns. Nothing while a
+  /// parameter of `list` is not answered.
+  virtual std::optional<std::vector<runtime::Variant>> values(const RowStatement&, const Answers&) const {
+    return std::nullopt;
+  }
   /// The expression that a new row gets in a column that is given no value; empty where there is none.
   virtual std::string defaultOf(const file::TableDefinition&, const file::Column&) const { return {}; }
 };
@@ -79,6 +92,8 @@ struct RowStatement {
   std::optional<Steps> steps;
   /// A function of a domain may ask for any table, by a name that is known only when it runs.
   bool mayReadAnyTable = false;
+  /// The columns of a crosstab were rows when it was compiled: next time there may be others.
+  bool columnsFromRows = false;
 };
 
 /// An index, or ALTER TABLE ... ADD CONSTRAINT of a key.
@@ -131,6 +146,10 @@ struct AlterColumn {
   std::string table;
   NewColumn column;
 };
+struct SetDefault {
+  std::string table, column;
+  std::string defaultValue;  // an expression; empty: none from now on
+};
 struct DropColumn {
   std::string table, column;
 };
@@ -152,10 +171,11 @@ struct DropIndex {
 };
 
 using Statement = std::variant<RowStatement, CreateTable, CreateIndex, CreateRelation, AddColumn, AlterColumn,
-                               DropColumn, DropConstraint, SelectInto, DropTable, DropIndex>;
+                               SetDefault, DropColumn, DropConstraint, SelectInto, DropTable, DropIndex>;
 
 struct Options {
   bool withRowKeys = false;
+  Answers answers = {};  // as far as they are known; a crosstab's columns may hang on them
 };
 
 /// Parses, binds and translates one statement (a closing semicolon is allowed). Every error of the

@@ -22,6 +22,32 @@ void format(sqlite3_context* context, int count, sqlite3_value** arguments) {
   returnText(context, runtime::format(typedValue(arguments), pattern, optional(3), optional(4)));
 }
 
+/// (type, value[, decimals[, leading zero[, parentheses[, grouping]]]]); where an option is not told, or is
+/// `untold`, two decimals, a leading zero, a minus sign and groups of thousands.
+template <const char* before, const char* behind>
+void formatAmount(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  constexpr int untold = -2, mostDecimals = 99;
+  const auto option = [&](int index) { return index < count ? sqlite3_value_int(arguments[index]) : untold; };
+  const int wanted = option(2) < 0 ? 2 : option(2);
+  if (wanted > mostDecimals) throw runtime::languageError(runtime::InvalidCall);
+  std::string number = option(5) == 0 ? "" : "#,##";
+  number += option(3) == 0 ? "#" : "0";
+  if (wanted > 0) number += "." + std::string(static_cast<std::size_t>(wanted), '0');
+  number = before + number + behind;
+  const bool parentheses = option(4) == -1;
+  const std::string pattern = number + ";" + (parentheses ? "(" + number + ")" : "-" + number);
+  returnText(context, runtime::format(typedValue(arguments), pattern));
+}
+
+/// (type, value[, which])
+void formatDateTime(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  static constexpr const char* names[] = {"General Date", "Long Date", "Short Date", "Long Time",
+                                          "Short Time"};
+  const std::int64_t which = count > 2 ? sqlite3_value_int64(arguments[2]) : 0;
+  if (which < 0 || which >= std::ssize(names)) throw runtime::languageError(runtime::InvalidCall);
+  returnText(context, runtime::format(typedValue(arguments), names[which]));
+}
+
 template <bool (*test)(const Variant&)>
 void is(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int(context, test(typedValue(arguments)) ? -1 : 0);
@@ -57,8 +83,14 @@ void choose(sqlite3_context* context, int count, sqlite3_value** arguments) {
   sqlite3_result_value(context, arguments[index]);
 }
 
+constexpr char Nothing[] = "", Euro[] = "€ ", Percent[] = "%";
+
 constexpr SqliteFunction functions[] = {
     {"jet_format", -1, withErrors<format>},
+    {"jet_format_number", -1, withErrors<formatAmount<Nothing, Nothing>>},
+    {"jet_format_currency", -1, withErrors<formatAmount<Euro, Nothing>>},
+    {"jet_format_percent", -1, withErrors<formatAmount<Nothing, Percent>>},
+    {"jet_format_date_time", -1, withErrors<formatDateTime>},
     {"jet_is_date", 2, withErrors<is<runtime::isDate>>},
     {"jet_is_numeric", 2, withErrors<is<runtime::isNumeric>>},
     {"jet_type_name", 2, withErrors<typeOfValue>},

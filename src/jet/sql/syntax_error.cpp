@@ -11,6 +11,8 @@ struct Description {
 
 constexpr Description descriptions[] = {
     {UpdateImpossible, "L'operazione richiede una query aggiornabile"},
+    {TooFewParameters, "Numero di parametri errato: attesi"},
+    {UnknownName, "Nome sconosciuto in una query a campi incrociati"},
     {ExpressionSyntax, "Errore di sintassi nell'espressione"},
     {UnknownTable, "Tabella o query non trovata"},
     {AmbiguousColumn, "Il campo potrebbe riferirsi a più tabelle della proposizione FROM"},
@@ -40,6 +42,7 @@ constexpr Description descriptions[] = {
     {SubqueryColumns, "La sottoquery deve restituire un solo campo"},
     {InsertCountDiffers, "Il numero dei valori non corrisponde a quello dei campi di destinazione"},
     {ExternalDatabase, "Le tabelle di un altro database non sono disponibili"},
+    {TooManyFields, "Troppi campi"},
     {TooComplex, "Espressione troppo complessa"},
     {UnknownReference, "Riferimento sconosciuto"},
     {TypesDiffer, "Tipi di dati non corrispondenti nell'espressione criterio"},

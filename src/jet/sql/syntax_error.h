@@ -7,6 +7,8 @@ namespace jet::sql {
 /// Errors that a statement's text can meet, syntax and names; as DAO publishes them.
 enum StatementError : int {
   UpdateImpossible = 3073,
+  TooFewParameters = 3061,
+  UnknownName = 3070,
   ExpressionSyntax = 3075,
   UnknownTable = 3078,
   AmbiguousColumn = 3079,
@@ -26,6 +28,7 @@ enum StatementError : int {
   TransformSyntax = 3143,
   UpdateSyntax = 3144,
   ExternalDatabase = 3170,
+  TooManyFields = 3190,
   ConstraintSyntax = 3289,
   CreateTableSyntax = 3290,
   CreateIndexSyntax = 3291,

@@ -51,10 +51,16 @@ class Binder {
   std::vector<bound::Source> from(const std::vector<tree::Source>& sources);
   bound::Source declare(const tree::Source& source);
   bound::Source declareTable(const tree::TableSource& table, std::size_t position);
+  std::vector<bound::Source> changedFrom(const std::vector<tree::Source>& sources);
+  std::optional<bound::Expression> changedRows(const std::optional<tree::Expression>& where);
+  bound::Source declareAs(const std::string& name, const file::TableDefinition& table);
+  bound::Source declareSelection(const tree::Select& selection, const std::string& name);
   bound::Source declareQuery(bound::Query query, const std::string& name);
   void bindConditions(const tree::Source& source, bound::Source& result);
   bound::Source storedQuery(const std::string& text, const tree::TableSource& table, std::size_t position);
-  bound::Source openQuery(const std::string& text, const tree::TableSource& table, std::size_t position);
+
+  // name.cpp
+  bound::Expression parameter(const std::string& name, std::size_t position);
 
   // expression.cpp
   bound::Expression expression(const tree::Expression& expression);
@@ -121,6 +127,9 @@ class Binder {
   bool aggregatesAllowed_ = false;
   bool aggregateSeen_ = false;
   bool inCondition_ = false;
+  /// The one source of FROM is changed: a query that only selects rows stands for its table.
+  bool throughQuery_ = false;
+  std::optional<bound::Expression> selected_;  // the condition of that query
 };
 
 /// Binds a query with all its parts; `outer` is the scope around a sub-query, or nullptr.

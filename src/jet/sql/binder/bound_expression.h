@@ -157,6 +157,7 @@ enum class AggregateKind { CountRows, Count, Sum, Avg, Min, Max, First, Last, St
 struct Aggregate {
   AggregateKind kind = AggregateKind::CountRows;
   std::vector<Expression> argument;  // one; none for CountRows
+  std::vector<Expression> filter;    // the condition of the rows that it sees; none: all
   bool operator==(const Aggregate&) const = default;
 };
 

@@ -158,15 +158,17 @@ std::optional<Expression> Binder::aggregate(const tree::Call& node, const Place&
     throw SyntaxError(UnknownFunction, node.name, place.position);
   }
   aggregateSeen_ = true;
-  if (rows) return Expression{Type::Long, bound::Aggregate{AggregateKind::CountRows, {}}};
   const std::size_t ungroupedBefore = ungrouped_.size();
   aggregatesAllowed_ = false;
-  Expression argument = expression(node.arguments[0]);
+  bound::Aggregate aggregate{rows ? AggregateKind::CountRows : found->kind, {}, {}};
+  if (!rows) aggregate.argument.push_back(expression(node.arguments[0]));
+  for (const tree::Expression& filter : node.filter) aggregate.filter.push_back(condition(filter));
   aggregatesAllowed_ = true;
   ungrouped_.resize(std::min(ungroupedBefore, ungrouped_.size()));
+  if (rows) return Expression{Type::Long, std::move(aggregate)};
+  Expression& argument = aggregate.argument.front();
   const Type type = aggregateType(found->kind, argument.type);
-  bound::Aggregate aggregate{found->kind, {}};
-  aggregate.argument.push_back(convert(std::move(argument), type));
+  argument = convert(std::move(argument), type);
   return Expression{found->kind == AggregateKind::Count ? Type::Long : type, std::move(aggregate)};
 }
 

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <charconv>
 
+#include "jet/sql/binder/binder.h"
 #include "jet/sql/binder/type_name.h"
 #include "jet/sql/syntax_error.h"
+#include "jet/sql/translation/translator.h"
+#include "jet/sql/tree/print.h"
 
 namespace jet::sql {
 
@@ -19,6 +22,15 @@ bound::Expression Context::parameter(const std::string& name) {
   while (index < parameters_.size() && !file::sameName(parameters_[index].name, name)) ++index;
   if (index == parameters_.size()) parameters_.push_back({name, Type::Variant});
   return {parameters_[index].type, bound::Parameter{index}};
+}
+
+const tree::Expression* Context::argument(std::size_t parameter) const {
+  return arguments_ && parameter < arguments_->size() ? &(*arguments_)[parameter] : nullptr;
+}
+
+void Context::checkArguments(std::size_t position) const {
+  if (parameters_.size() != arguments_->size())
+    throw SyntaxError(TooFewParameters, std::to_string(parameters_.size()), position);
 }
 
 unsigned Context::addSource(const file::TableDefinition* table, const std::string& alias) {
@@ -43,6 +55,34 @@ void Context::noteChanged(unsigned source, TouchedTable::Change change) {
 void Context::noteAssigned(unsigned source, std::uint16_t column) {
   auto& assigned = tables_[*tableOfSource_[source]].assigned;
   if (std::ranges::find(assigned, column) == assigned.end()) assigned.push_back(column);
+}
+
+Context::Values Context::values(const tree::Query& list) {
+  columnsFromRows_ = true;
+  const std::string text = tree::print(list);
+  const auto known = values_->find(text);
+  return known != values_->end() ? known->second : values_->emplace(text, readValues(list)).first->second;
+}
+
+Context::Values Context::readValues(const tree::Query& list) const {
+  Context inner(schema_, answers_);
+  inner.values_ = values_;
+  inner.parameters_ = parameters_;
+  inner.arguments_ = arguments_;
+  inner.openQueries_ = openQueries_;
+  const bound::Query query = bindQuery(inner, nullptr, list);
+  const auto unknown =
+      std::find_if(inner.parameters_.begin() + static_cast<std::ptrdiff_t>(parameters_.size()),
+                   inner.parameters_.end(), [](const Parameter& p) { return p.type == Type::Variant; });
+  const auto& value = std::get<tree::Expression>(list.parts.front().items.front().value);
+  if (unknown != inner.parameters_.end()) throw SyntaxError(UnknownName, unknown->name, value.place.position);
+  RowStatement statement;
+  statement.sql = Translator().query(query, false);
+  statement.parameters = inner.parameters();
+  statement.tables = inner.tables_;
+  statement.columns.push_back({"", query.parts.front().items.front().value.type, "", "", {}});
+  statement.mayReadAnyTable = inner.mayReadAnyTable_;
+  return schema_.values(statement, answers_);
 }
 
 void Context::openStoredQuery(std::size_t position) {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "jet/sql/tree/statement.h"
+#include "jet/sql/binder/context.h"
 
 namespace jet::sql {
 
-/// TRANSFORM with its columns told by IN, as the SELECT that it stands for: behind the columns of its own
-/// query one for each of them, where every aggregate sees only the rows of that column. Error 3143 where no
-/// columns are told, or the query is no single SELECT.
-tree::Query crosstab(tree::Transform transform);
+/// TRANSFORM as the SELECT that it stands for: behind the columns of its own query one for each of those that
+/// IN tells, or else for each value that the pivot has now in the rows that it reads; their aggregates see
+/// only the rows of the column. Error 3143 where the query is no single SELECT, 3190 for 255 columns or more.
+tree::Query crosstab(Context& context, tree::Transform transform);
 
 }  // namespace jet::sql

@@ -102,6 +102,10 @@ Statement alteration(const std::string& table, const tree::AlterColumn& tree) {
   return AlterColumn{table, newColumn(tree.column)};
 }
 
+Statement alteration(const std::string& table, const tree::SetDefault& tree) {
+  return SetDefault{table, tree.name, tree.value ? tree::print(*tree.value) : ""};
+}
+
 Statement alteration(const std::string& table, const tree::DropColumn& tree) {
   return DropColumn{table, tree.name};
 }

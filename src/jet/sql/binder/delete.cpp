@@ -5,7 +5,7 @@ namespace jet::sql {
 
 bound::Delete Binder::deletion(const tree::Delete& tree) {
   bound::Delete deletion;
-  deletion.from = from(tree.from);
+  deletion.from = changedFrom(tree.from);
   const std::size_t position = tree.from.front().place.position;
   const bool named = tree.target && !tree.target->table.empty();
   if (!named && scope_.sources().size() != 1) throw SyntaxError(DeleteSyntax, "", position);
@@ -15,7 +15,7 @@ bound::Delete Binder::deletion(const tree::Delete& tree) {
   deletion.target = target->source;
   deletion.page = target->table->page;
   context_.noteChanged(deletion.target, TouchedTable::Change::Delete);
-  deletion.where = clause(tree.where);
+  deletion.where = changedRows(tree.where);
   return deletion;
 }
 

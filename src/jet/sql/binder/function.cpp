@@ -12,7 +12,8 @@ using F = Function;
 constexpr auto Any = F::Any, Number = F::Number, Boolean = F::Boolean, Long = F::Long, Double = F::Double,
                Date = F::Date, Text = F::Text;
 // What a Null makes an error.
-constexpr std::uint8_t anAny = Any | F::NotNull, aBoolean = Boolean | F::NotNull, aLong = Long | F::NotNull,
+constexpr std::uint8_t anAny = Any | F::NotNull, aNumber = Number | F::NotNull,
+                       aBoolean = Boolean | F::NotNull, aLong = Long | F::NotNull,
                        aDouble = Double | F::NotNull, aDate = Date | F::NotNull, aText = Text | F::NotNull;
 constexpr auto Fixed = F::Result::Fixed, LikeFirst = F::Result::LikeFirst;
 
@@ -38,6 +39,7 @@ constexpr Function functions[] = {
     {"CVAR", 1, {Any}, LikeFirst, Type::Null, "$1"},
     {"CVDATE", 1, {Date}, Fixed, Type::Date, "$1"},
     {"DATE", 0, {}, Fixed, Type::Date, "jet_date()"},
+    {"DATE$", 0, {}, Fixed, Type::Text, "strftime('%m-%d-%Y', 2415018.5 + jet_date())"},
     {"DATEADD", 3, {aText, aDouble, Date}, Fixed, Type::Date, "jet_date_add($*)"},
     {"DATEDIFF", 3, {aText, Date, Date, Long, Long}, Fixed, Type::Long, "jet_date_diff($*)"},
     {"DATEPART", 2, {aText, Date, Long, Long}, Fixed, Type::Integer, "jet_date_part($*)"},
@@ -47,6 +49,15 @@ constexpr Function functions[] = {
     {"EXP", 1, {aDouble}, Fixed, Type::Double, "jet_exp($1)"},
     {"FIX", 1, {Number}, LikeFirst, Type::Null, "jet_fix($t, $1)"},
     {"FORMAT", 1, {Any, Text, Long, Long}, Fixed, Type::Text, "jet_format($t, $*)"},
+    {"FORMATCURRENCY",
+     1,
+     {aNumber, Long, Long, Long, Long},
+     Fixed,
+     Type::Text,
+     "jet_format_currency($t, $*)"},
+    {"FORMATDATETIME", 1, {aDate, Long}, Fixed, Type::Text, "jet_format_date_time($t, $*)"},
+    {"FORMATNUMBER", 1, {aNumber, Long, Long, Long, Long}, Fixed, Type::Text, "jet_format_number($t, $*)"},
+    {"FORMATPERCENT", 1, {aNumber, Long, Long, Long, Long}, Fixed, Type::Text, "jet_format_percent($t, $*)"},
     {"HEX", 1, {Any}, Fixed, Type::Text, "jet_hex($t, $1)"},
     {"HOUR", 1, {Date}, Fixed, Type::Integer, "jet_hour($1)"},
     {"INSTR", 2, {Text, Text}, Fixed, Type::Long, "jet_instr(1, $*)"},
@@ -87,6 +98,7 @@ constexpr Function functions[] = {
     {"STRREVERSE", 1, {aText}, Fixed, Type::Text, "jet_str_reverse($1)"},
     {"TAN", 1, {aDouble}, Fixed, Type::Double, "jet_tan($1)"},
     {"TIME", 0, {}, Fixed, Type::Date, "jet_time()"},
+    {"TIME$", 0, {}, Fixed, Type::Text, "strftime('%H:%M:%S', jet_time() + 0.5)"},
     {"TIMER", 0, {}, Fixed, Type::Single, "jet_timer()"},
     {"TIMESERIAL", 3, {aLong, aLong, aLong}, Fixed, Type::Date, "jet_time_serial($*)"},
     {"TIMEVALUE", 1, {aDate}, Fixed, Type::Date, "jet_time_of($1)"},
@@ -114,7 +126,8 @@ const Function* findFunction(const std::string& name, std::size_t arguments) {
   const bool dollar = name.ends_with('$');
   const std::string_view bare = std::string_view(name).substr(0, name.size() - dollar);
   const auto* found = std::ranges::find_if(functions, [&](const Function& candidate) {
-    return sameWord(bare, candidate.name) && arguments >= candidate.least && arguments <= candidate.most() &&
+    const bool named = sameWord(name, candidate.name) || (dollar && sameWord(bare, candidate.name));
+    return named && arguments >= candidate.least && arguments <= candidate.most() &&
            (!dollar || candidate.type == Type::Text);
   });
   return found == std::end(functions) ? nullptr : found;

@@ -1,6 +1,8 @@
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"
+#include "jet/sql/syntax_error.h"
+#include "jet/sql/tree/print.h"
 
 namespace jet::sql {
 
@@ -13,7 +15,19 @@ Expression Binder::bind(const tree::Name& node, const Place& place) {
   for (const Scope* scope = scope_.outer(); scope; scope = scope->outer()) {
     if (auto found = scope->find(node, place.position)) return std::move(found->column.value);
   }
-  return context_.parameter(node.table.empty() ? node.column : node.table + "." + node.column);
+  return parameter(node.table.empty() ? node.column : node.table + "." + node.column, place.position);
+}
+
+/// A parameter that EXECUTE gives a value is that value; bound anew, since a tree belongs to one place.
+Expression Binder::parameter(const std::string& name, std::size_t position) {
+  Expression parameter = context_.parameter(name);
+  const auto* given = context_.argument(std::get<bound::Parameter>(parameter.node).index);
+  if (!given) return parameter;
+  Context constant(context_.schema());
+  Expression value = Binder(constant, nullptr).expression(*given);
+  if (!constant.parameters().empty() || !constant.tables().empty())
+    throw SyntaxError(ExpressionSyntax, tree::print(*given), position);
+  return parameter.type == Type::Variant ? std::move(value) : convert(std::move(value), parameter.type);
 }
 
 std::optional<Expression> Binder::column(const tree::Name& name, const Place& place) {

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/binder/crosstab.h"
 #include "jet/sql/parser/parser.h"
@@ -5,6 +7,23 @@
 namespace jet::sql {
 
 using bound::Source;
+
+namespace {
+
+/// True for columns of one table under their own names: its rows are the table's.
+bool onlySelectsRows(const tree::Query& query, const Schema& schema) {
+  const tree::Select& part = query.parts.front();
+  const bool plain = query.parts.size() == 1 && !part.distinct && !part.top && part.groupBy.empty() &&
+                     !part.having && part.in.empty() && part.from.size() == 1;
+  const auto* table = plain ? std::get_if<tree::TableSource>(&part.from.front().node) : nullptr;
+  return table && schema.findTable(table->name) &&
+         std::ranges::all_of(part.items, [](const tree::SelectItem& item) {
+           const auto* value = std::get_if<tree::Expression>(&item.value);
+           return !value || (item.alias.empty() && std::holds_alternative<tree::Name>(value->node));
+         });
+}
+
+}  // namespace
 
 /// All tables first, so that the conditions of joins see each of them.
 std::vector<Source> Binder::from(const std::vector<tree::Source>& sources) {
@@ -33,40 +52,57 @@ Source Binder::declare(const tree::Source& source) {
 Source Binder::declareTable(const tree::TableSource& table, std::size_t position) {
   const file::TableDefinition* definition = context_.schema().findTable(table.name);
   if (!definition) {
-    if (const auto text = context_.schema().findQuery(table.name)) return storedQuery(*text, table, position);
+    if (const auto text = context_.schema().findQuery(table.name)) {
+      return context_.withinQuery(table.name, position, [&] { return storedQuery(*text, table, position); });
+    }
     throw SyntaxError(UnknownTable, table.name, position);
   }
-  VisibleSource visible;
-  visible.name = table.alias.empty() ? table.name : table.alias;
-  visible.source = context_.addSource(definition, visible.name);
-  visible.table = definition;
-  const bound::TableSource result{visible.source, definition->page};
+  return declareAs(table.alias.empty() ? table.name : table.alias, *definition);
+}
+
+Source Binder::declareAs(const std::string& name, const file::TableDefinition& table) {
+  VisibleSource visible{context_.addSource(&table, name), name, &table, {}};
+  const bound::TableSource result{visible.source, table.page};
   scope_.add(std::move(visible));
   return {result};
 }
 
-/// An error within the query is told where the statement names it.
-Source Binder::storedQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
-  try {
-    return openQuery(text, table, position);
-  } catch (const SyntaxError& error) {
-    if (error.number() == TooComplex) throw;
-    throw SyntaxError(error.number(), table.name + ": " + error.description(), position);
-  }
+/// FROM of an UPDATE or DELETE.
+std::vector<Source> Binder::changedFrom(const std::vector<tree::Source>& sources) {
+  throughQuery_ = sources.size() == 1 && std::holds_alternative<tree::TableSource>(sources.front().node);
+  return from(sources);
 }
 
-Source Binder::openQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
+/// The rows that both a query in FROM and `where` select.
+std::optional<bound::Expression> Binder::changedRows(const std::optional<tree::Expression>& where) {
+  auto wanted = clause(where);
+  if (!wanted || !selected_) return wanted ? std::move(wanted) : std::move(selected_);
+  return bound::Expression{Type::Boolean,
+                           bound::Logic{LogicOperator::And, *std::move(selected_), *std::move(wanted)}};
+}
+
+/// The selection's condition sees the table by the selection's own name for it.
+Source Binder::declareSelection(const tree::Select& selection, const std::string& name) {
+  const auto& own = std::get<tree::TableSource>(selection.from.front().node);
+  const file::TableDefinition& table = *context_.schema().findTable(own.name);
+  Source result = declareAs(name, table);
+  Binder within(context_, nullptr);
+  within.scope_.add({scope_.sources().front().source, own.alias.empty() ? own.name : own.alias, &table, {}});
+  selected_ = within.clause(selection.where);
+  return result;
+}
+
+Source Binder::storedQuery(const std::string& text, const tree::TableSource& table, std::size_t position) {
   tree::Statement statement = parse(text);
+  for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
   if (auto* transform = std::get_if<tree::Transform>(&statement.body))
-    statement.body = crosstab(tree::Transform(std::move(*transform)));
+    statement.body = crosstab(context_, tree::Transform(std::move(*transform)));
   const auto* query = std::get_if<tree::Query>(&statement.body);
   if (!query) throw SyntaxError(UnknownTable, table.name, position);
-  for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
-  context_.openStoredQuery(position);
-  Source result =
-      declareQuery(bindQuery(context_, nullptr, *query), table.alias.empty() ? table.name : table.alias);
-  context_.closeStoredQuery();
-  return result;
+  const std::string& name = table.alias.empty() ? table.name : table.alias;
+  if (throughQuery_ && onlySelectsRows(*query, context_.schema()))
+    return declareSelection(query->parts.front(), name);
+  return declareQuery(bindQuery(context_, nullptr, *query), name);
 }
 
 Source Binder::declareQuery(bound::Query query, const std::string& name) {

@@ -30,7 +30,7 @@ void findOptional(const bound::Source& source, bool optional, std::vector<bound:
 bound::Update Binder::update(const tree::Update& tree) {
   constexpr int tooFewParameters = 3061;  // what an unknown name is to the engine, here too
   bound::Update update;
-  update.from = from(tree.from);
+  update.from = changedFrom(tree.from);
   for (const tree::Assignment& assignment : tree.assignments) {
     const std::size_t position = assignment.place.position;
     const auto found = scope_.find(assignment.column, position);
@@ -51,7 +51,7 @@ bound::Update Binder::update(const tree::Update& tree) {
     const auto source = std::ranges::find(scope_.sources(), target.source, &VisibleSource::source);
     target.defaults = defaults(*source->table, target.assignments, tree.from.front().place.position);
   }
-  update.where = clause(tree.where);
+  update.where = changedRows(tree.where);
   return update;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "jet/sql/tree/query.h"
+
 namespace jet::sql {
 
 bool isReserved(const Token& token) {

@@ -98,6 +98,10 @@ Expression parseExpression(std::string_view text) {
   return Parser(text).wholeExpression();
 }
 
+Query parseQuery(std::string_view text) {
+  return Parser(text).wholeQuery(0);
+}
+
 Expression Parser::expression(int minimum) {
   const Level level(*this);
   Expression left = operand(minimum);

@@ -87,6 +87,7 @@ class Parser {
   // table.cpp, constraint.cpp, index.cpp
   tree::CreateTable createTable();
   tree::AlterTable alterTable();
+  tree::SetDefault setDefault();
   tree::ColumnDefinition columnDefinition(StatementError error);
   bool atConstraint() const;
   tree::Constraint constraint(bool ofColumn);
@@ -132,5 +133,6 @@ class Parser {
 tree::Statement parse(std::string_view text);
 tree::Expression parseExpression(std::string_view text);
 tree::Expression parseRule(std::string_view text, const std::string& column);
+tree::Query parseQuery(std::string_view text);
 
 }  // namespace jet::sql

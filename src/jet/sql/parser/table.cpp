@@ -38,7 +38,14 @@ AlterTable Parser::alterTable() {
     }
   } else if (cursor_.acceptWord("ALTER")) {
     cursor_.acceptWord("COLUMN");
-    alter.action = AlterColumn{columnDefinition(AlterTableSyntax)};
+    const auto follows = [&](std::string_view word) {
+      return cursor_.peek(1).isWord(word) && cursor_.peek(2).isWord("DEFAULT");
+    };
+    if (follows("SET") || follows("DROP")) {
+      alter.action = setDefault();
+    } else {
+      alter.action = AlterColumn{columnDefinition(AlterTableSyntax)};
+    }
   } else {
     cursor_.expectWord("DROP", AlterTableSyntax);
     if (cursor_.acceptWord("CONSTRAINT")) {
@@ -49,6 +56,14 @@ AlterTable Parser::alterTable() {
     }
   }
   return alter;
+}
+
+SetDefault Parser::setDefault() {
+  SetDefault set{cursor_.expectName(AlterTableSyntax), {}};
+  const bool gives = cursor_.take().isWord("SET");
+  cursor_.take();
+  if (gives) set.value = expression(ComparisonOperand);
+  return set;
 }
 
 ColumnDefinition Parser::columnDefinition(StatementError error) {

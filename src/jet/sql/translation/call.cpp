@@ -51,34 +51,38 @@ Sql Translator::translate(const bound::NullReplacement& node, Type) {
 }
 
 Sql Translator::translate(const bound::Aggregate& node, Type type) {
-  if (node.kind == AggregateKind::CountRows) return {"count(*)"};
+  const std::string rows =
+      node.filter.empty() ? "" : " FILTER (WHERE " + condition(node.filter.front()).text + ")";
+  if (node.kind == AggregateKind::CountRows) return {"count(*)" + rows};
   const Expression& argument = node.argument.front();
   const std::string text = value(argument).text;
+  const auto call = [&](const std::string& name) { return name + text + ")" + rows; };
   switch (node.kind) {
     case AggregateKind::Sum:
-      return {(type == Type::Decimal ? "jet_sum_decimal(" : "sum(") + text + ")"};
+      return {call(type == Type::Decimal ? "jet_sum_decimal(" : "sum(")};
     case AggregateKind::Avg:
-      if (type == Type::Currency) return {"jet_double_to_currency(avg(" + text + ") / 10000.0)"};
-      if (type == Type::Decimal) return {"jet_double_to_decimal(avg(CAST(" + text + " AS REAL)))"};
-      return {"avg(" + text + ")"};
+      if (type == Type::Currency) return {"jet_double_to_currency(" + call("avg(") + " / 10000.0)"};
+      if (type == Type::Decimal)
+        return {"jet_double_to_decimal(avg(CAST(" + text + " AS REAL))" + rows + ")"};
+      return {call("avg(")};
     case AggregateKind::Min:
-      return {"min(" + ordered(argument).text + ")"};
+      return {"min(" + ordered(argument).text + ")" + rows};
     case AggregateKind::Max:
-      return {"max(" + ordered(argument).text + ")"};
+      return {"max(" + ordered(argument).text + ")" + rows};
     case AggregateKind::First:
-      return {"jet_first(" + text + ", " + firstKey_ + ")"};
+      return {"jet_first(" + text + ", " + firstKey_ + ")" + rows};
     case AggregateKind::Last:
-      return {"jet_last(" + text + ", " + firstKey_ + ")"};
+      return {"jet_last(" + text + ", " + firstKey_ + ")" + rows};
     case AggregateKind::StDev:
-      return {"jet_st_dev(" + text + ")"};
+      return {call("jet_st_dev(")};
     case AggregateKind::StDevP:
-      return {"jet_st_dev_p(" + text + ")"};
+      return {call("jet_st_dev_p(")};
     case AggregateKind::Var:
-      return {"jet_var(" + text + ")"};
+      return {call("jet_var(")};
     case AggregateKind::VarP:
-      return {"jet_var_p(" + text + ")"};
+      return {call("jet_var_p(")};
     default:
-      return {"count(" + text + ")"};
+      return {call("count(")};
   }
 }
 

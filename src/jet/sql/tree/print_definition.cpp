@@ -45,6 +45,10 @@ std::string printAction(const AddColumn& add) {
 std::string printAction(const AlterColumn& alter) {
   return "ALTER COLUMN " + printColumn(alter.column);
 }
+std::string printAction(const SetDefault& set) {
+  return "ALTER COLUMN " + quotedName(set.name) +
+         (set.value ? " SET DEFAULT " + print(*set.value) : " DROP DEFAULT");
+}
 std::string printAction(const DropColumn& drop) {
   return "DROP COLUMN " + quotedName(drop.name);
 }

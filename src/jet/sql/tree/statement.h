@@ -103,6 +103,12 @@ struct AlterColumn {
   ColumnDefinition column;
   bool operator==(const AlterColumn&) const = default;
 };
+/// ALTER COLUMN name SET DEFAULT value, ALTER COLUMN name DROP DEFAULT
+struct SetDefault {
+  std::string name;
+  std::optional<Expression> value;
+  bool operator==(const SetDefault&) const = default;
+};
 struct DropColumn {
   std::string name;
   bool operator==(const DropColumn&) const = default;
@@ -118,7 +124,7 @@ struct DropConstraint {
 
 struct AlterTable {
   std::string table;
-  std::variant<AddColumn, AlterColumn, DropColumn, AddConstraint, DropConstraint> action;
+  std::variant<AddColumn, AlterColumn, SetDefault, DropColumn, AddConstraint, DropConstraint> action;
   bool operator==(const AlterTable&) const = default;
 };
 
