@@ -33,6 +33,11 @@ TEST(Statements, DesignARegisterAndKeepItThroughTheFile) {
       {"ALTER TABLE iscritti DROP CONSTRAINT haCapo"},
       {"DELETE FROM albi WHERE cd = 1"},
       {"ALTER TABLE iscritti DROP COLUMN capo"},
+      {"ALTER TABLE iscritti ALTER quota SET DEFAULT 'dieci'"},
+      {"ALTER TABLE iscritti ALTER capo DROP DEFAULT", 3381},
+      {"INSERT INTO iscritti (id) VALUES (30)"},
+      {"ALTER TABLE iscritti ALTER COLUMN quota DROP DEFAULT"},
+      {"INSERT INTO iscritti (id) VALUES (31)"},
   };
   Desk desk({});
   std::vector<std::string> states;
@@ -42,7 +47,7 @@ TEST(Statements, DesignARegisterAndKeepItThroughTheFile) {
     states.push_back(desk.copy(std::to_string(states.size()) + ".mdb"));
   }
   EXPECT_EQ(desk::complaints(states), "");
-  EXPECT_EQ(desk.rows("SELECT * FROM iscritti"), "20|2|12,5");
+  EXPECT_EQ(desk.rows("SELECT * FROM iscritti"), "20|2|12,5 30|Null|dieci 31|Null|Null");
   EXPECT_EQ(desk.rows("SELECT * FROM copia ORDER BY cd"), "1|Primo!|12,5 2|Secondo!|12,5");
   EXPECT_EQ(office::exported(desk.path(), "copia"),
             "cd,grido,quota\n1,\"Primo!\",\"12,5\"\n2,\"Secondo!\",\"12,5\"\n");

@@ -34,7 +34,7 @@ bool isAggregate(const std::string& name) {
 }
 
 Expression call(const char* name, Expression first, Expression second, Expression third) {
-  Call made{name, false, {}};
+  Call made{name, false, {}, {}};
   made.arguments.push_back(std::move(first));
   made.arguments.push_back(std::move(second));
   made.arguments.push_back(std::move(third));

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "jet/sql/tree/query.h"
-
 namespace jet::sql {
 
 bool isReserved(const Token& token) {

@@ -104,7 +104,7 @@ std::string Parser::path(StatementError error) {
 
 Expression Parser::call() {
   const std::size_t position = cursor_.peek().position;
-  Call call{cursor_.take().text, false, {}};
+  Call call{cursor_.take().text, false, {}, {}};
   cursor_.take();
   if (cursor_.acceptSymbol("*")) {
     call.star = true;

@@ -5,7 +5,6 @@
 #include "jet/file/definition.h"
 #include "jet/sql/parser/cursor.h"
 #include "jet/sql/stored/row_values.h"
-#include "jet/sql/tree/query.h"
 
 namespace jet::sql::stored {
 

@@ -118,7 +118,7 @@ struct Call {
   bool star = false;
   std::vector<Expression> arguments;
   /// One or none: the rows that an aggregate sees, in the cell of a crosstab. No text says it.
-  std::vector<Expression> filter = {};
+  std::vector<Expression> filter;
   bool operator==(const Call&) const = default;
 };
 
