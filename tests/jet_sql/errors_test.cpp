@@ -61,6 +61,7 @@ TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
       {"DELETE FROM soci, pagamenti", "error 3128 at 12"},
       {"INSERT soci VALUES (1)", "error 3134 at 7"},
       {"INSERT INTO soci (id VALUES (1)", "error 3134 at 21"},
+      {"INSERT INTO soci VALUES ()", "error 3134 at 25"},
       {"INSERT INTO soci (ignoto) VALUES (1)", "error 3127 at 18"},
       {"INSERT INTO soci SELECT 1 AS ignoto", "error 3127 at 12"},
       {"INSERT INTO soci (id, nome) VALUES (1)", "error 3346 at 12"},
