@@ -24,11 +24,11 @@ class Mutation {
     std::uint8_t* page = data_ + below(pages_) * pageSize_;
     switch (below(8)) {
       case 0:
-        std::memcpy(page, data_ + below(pages_) * pageSize_, pageSize_);
+        std::memmove(page, data_ + below(pages_) * pageSize_, pageSize_);
         break;
       case 1: {  // something of one page in another
         const std::size_t length = 1 + below(64);
-        std::memcpy(page + below(pageSize_ - length), data_ + below(pages_ * pageSize_ - length), length);
+        std::memmove(page + below(pageSize_ - length), data_ + below(pages_ * pageSize_ - length), length);
         break;
       }
       case 2:  // a page number
