@@ -91,6 +91,7 @@ constexpr Text Texts[] = {
      "DELETE T.*\nFROM T INNER JOIN U ON T.a = U.a;\n"},
     {"INSERT INTO [Il nome] (a, [b c]) VALUES (1, 'x)y')", QueryKind::Append,
      "INSERT INTO [Il nome] ( a, [b c] )\nVALUES (1, 'x)y');\n"},
+    {"INSERT INTO T (a, b) VALUES (1)", QueryKind::Append, "INSERT INTO T ( a, b )\nVALUES (1);\n"},
     {"INSERT INTO T VALUES (Now(), [p])", QueryKind::Append, "INSERT INTO T\nVALUES (Now(), [p]);\n"},
     {"INSERT INTO T (a, b) SELECT x, Count(*) AS n FROM U GROUP BY x", QueryKind::Append,
      "INSERT INTO T ( a, b )\nSELECT x, Count(*) AS n\nFROM U\nGROUP BY x;\n"},
