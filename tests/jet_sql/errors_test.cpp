@@ -27,6 +27,8 @@ TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
       {"SELECT id FROM soci WHERE nome = 'è' 'x'", "error 3075 at 37"},
       {"SELECT id FROM soci WHERE nome = 'aperto", "error 3075 at 33"},
       {"SELECT id FROM soci WHERE data = #31/31/2000#", "error 3075 at 33"},
+      {"SELECT id FROM soci WHERE data = #209/21/2053#", "error 3075 at 33"},
+      {"SELECT id FROM soci WHERE data = #1/258/2000#", "error 3075 at 33"},
       {"SELECT id FROM [soci", "error 3075 at 15"},
       {"SELECT id FROM soci WHERE id = 1 ? 2", "error 3075 at 33"},
       {"SELECT id FROM soci INNER pagamenti ON 1 = 1", "error 3131 at 26"},
