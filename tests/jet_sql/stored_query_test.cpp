@@ -58,6 +58,8 @@ constexpr Text Texts[] = {
      QueryKind::Select,
      "PARAMETERS [Da data] DateTime, n Text ( 20 ), Forms!M![x y] Long;\nSELECT a\nFROM T\nWHERE d > [Da "
      "data];\n"},
+    {"PARAMETERS [Da [data] DateTime; SELECT a FROM T", QueryKind::Select,
+     "PARAMETERS [Da [data] DateTime;\nSELECT a\nFROM T;\n"},
     {"SELECT a FROM T, (U LEFT JOIN V AS w ON U.x = w.x) INNER JOIN Z ON (U.y = Z.y) AND (w.k = Z.k)",
      QueryKind::Select,
      "SELECT a\nFROM T, (U LEFT JOIN V AS w ON U.x = w.x) INNER JOIN Z ON (U.y = Z.y) AND (w.k = Z.k);\n"},
