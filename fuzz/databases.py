@@ -23,13 +23,20 @@ databases = {
     ],
     "relazioni": [
         "CREATE TABLE comuni (istat TEXT(6) CONSTRAINT k PRIMARY KEY, nome TEXT(50))",
-        "CREATE TABLE soci (id LONG CONSTRAINT k PRIMARY KEY, comune TEXT(6), cognome TEXT(60), nome TEXT(60))",
+        "CREATE TABLE soci (id LONG CONSTRAINT k PRIMARY KEY, comune TEXT(6) CONSTRAINT del_comune REFERENCES comuni"
+        " (istat) ON UPDATE CASCADE ON DELETE CASCADE, cognome TEXT(60) DEFAULT 'N', nome TEXT(60) NOT NULL)",
+        "ALTER TABLE soci ADD COLUMN capo LONG CONSTRAINT del_capo REFERENCES soci (id)",
         "CREATE INDEX cognome ON soci (cognome, nome DESC)",
         "CREATE UNIQUE INDEX uno ON soci (id, comune) WITH IGNORE NULL",
         *rows("comuni", ["'066049', 'L''Aquila'", "'054039', 'Perugia'"]),
-        *rows("soci", [f"{i}, '{'066049' if i % 2 else '054039'}', 'Rossi {i}', 'Nicolò'" for i in range(40)]),
+        *rows("soci (id, comune, cognome, nome)",
+              [f"{i}, '{'066049' if i % 2 else '054039'}', 'Rossi {i}', 'Nicolò'" for i in range(40)]),
         ".query attivi SELECT soci.id, comuni.nome FROM soci INNER JOIN comuni ON soci.comune = comuni.istat",
         ".query tolti DELETE FROM soci WHERE id > 30",
+        ".query tutti SELECT id FROM soci UNION ALL SELECT id FROM attivi WHERE id > 3 ORDER BY id",
+        ".query incrocio TRANSFORM Count(*) SELECT nome FROM soci GROUP BY nome PIVOT comune IN ('066049', '054039')",
+        ".query aggiunti PARAMETERS p Text (20); INSERT INTO comuni (istat, nome) SELECT TOP 2 cognome, p FROM soci",
+        ".query cambiati UPDATE soci LEFT JOIN comuni ON soci.comune = comuni.istat SET soci.nome = comuni.nome",
     ],
     "albero": [
         "CREATE TABLE t (a TEXT(200) CONSTRAINT k PRIMARY KEY, b TEXT(200))",

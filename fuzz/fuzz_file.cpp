@@ -1,5 +1,5 @@
 // Any bytes as a database: read whole, changed and saved, compacted. Each step ends well or in a numbered
-// error, and what the engine could read it writes again.
+// error, and what the engine could read it writes again: rows, relations and stored queries.
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "jet/dao/session.h"
+#include "jet/dao/stored_queries.h"
 #include "jet/file/page_use.h"
 #include "jet/file/properties.h"
 #include "jet/file/table_reader.h"
@@ -72,8 +73,24 @@ std::string content(const file::PageFile& file, const file::TableDefinition& tab
   return result;
 }
 
-/// The content of a file, table by table.
+/// The content of a file, table by table, behind it relations and stored queries.
 using Contents = std::vector<std::string>;
+
+void addObjects(dao::Session& session, Contents& contents) {
+  auto& image = session.image();
+  for (const auto& relation : image.relations()) {
+    contents.push_back(relation.name + " " + relation.table + " " + relation.foreignTable + " " +
+                       std::to_string(relation.attributes));
+    for (const auto& pair : relation.pairs) contents.back() += " " + pair.column + "=" + pair.foreignColumn;
+  }
+  for (const auto& query : dao::queryObjects(image)) {
+    contents.push_back(query.name);
+    passes([&] { contents.back() += "\n" + dao::queryText(image, query); });
+    passes([&] { session.runner().compile(contents.back().substr(query.name.size())); });
+  }
+  for (const auto& table : image.tables())
+    passes([&] { contents.push_back(image.link(table.page) ? image.link(table.page)->path : table.name); });
+}
 
 Contents contents(const file::PageFile& file) {
   Contents result;
@@ -81,6 +98,13 @@ Contents contents(const file::PageFile& file) {
     file::findPages(file, table);
     result.push_back(content(file, table));
   }
+  return result;
+}
+
+Contents contentsAndObjects(std::unique_ptr<file::PageFile> file) {
+  Contents result = contents(*file);
+  dao::Session session(std::move(file));
+  addObjects(session, result);
   return result;
 }
 
@@ -94,10 +118,17 @@ std::optional<Contents> writtenBy(const MemoryFile& out, bool fromDamaged, const
   });
   if (!done || fromDamaged) return std::nullopt;
   try {
-    return contents(*open(out, false));
+    return contentsAndObjects(open(out, true));
   } catch (const runtime::Error& error) {
     broken("a written file can't be read", error.description());
   }
+}
+
+/// Compacts a file with this content; nothing if it is damaged.
+void compact(const MemoryFile& from, const MemoryFile& to, const std::optional<Contents>& before) {
+  const auto file = open(from, true);
+  const auto after = writtenBy(to, !before, [&](platform::File& out) { file::writeCompacted(*file, out); });
+  if (after && after != before) broken("a compacted file", "has another content");
 }
 
 /// Loads every table into the image and changes what a run would change.
@@ -109,12 +140,24 @@ void change(dao::Session& session) {
     return list;
   }();
   const auto execute = [&](const std::string& sql) {
-    passes([&] { session.runner().execute(session.runner().compile(sql), {}); });
+    passes([&] { session.runner().execute(session.runner().compile(sql), {}, true); });
   };
-  for (const auto& table : session.image().tables())
-    passes([&] { session.image().prepareToRead(table.page, {}); });
+  auto& image = session.image();
+  for (const auto& table : image.tables()) {
+    passes([&] { image.prepareToRead(table.page, {}); });
+    passes([&] { image.properties(table.page); });
+  }
   execute("CREATE TABLE nuova (id COUNTER CONSTRAINT k PRIMARY KEY, testo TEXT(50), nota MEMO)");
   execute("INSERT INTO nuova (testo, nota) VALUES ('à', 'b')");
+  execute("CREATE TABLE figlia (id LONG CONSTRAINT r REFERENCES nuova (id), altro TEXT(9))");
+  execute("INSERT INTO figlia SELECT id, 'c' FROM nuova");
+  passes([&] {
+    dao::createQuery(image, "nuova query", "SELECT * FROM figlia, nuova WHERE figlia.id = nuova.id");
+  });
+  passes([&] {
+    for (const auto& query : dao::queryObjects(image))
+      dao::rewriteQuery(image, query, dao::queryText(image, query));
+  });
   for (std::size_t i = 0; i < names.size(); ++i) {
     if (i % 3 == 2) {
       execute("DROP TABLE [" + names[i] + "]");
@@ -122,26 +165,23 @@ void change(dao::Session& session) {
     }
     execute("INSERT INTO [" + names[i] + "] SELECT TOP 1 * FROM [" + names[i] + "]");
     if (i % 3 == 1) execute("DELETE FROM [" + names[i] + "]");
+    if (i % 3 == 0) execute("ALTER TABLE [" + names[i] + "] ADD COLUMN aggiunta TEXT(20)");
   }
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static MemoryFile input("input"), output("output");
+  static MemoryFile input("input"), output("output"), compacted("compacted");
   input.set(data, size);
   std::optional<Contents> before;
-  passes([&] { before = contents(*open(input, true)); });
+  passes([&] { before = contentsAndObjects(open(input, true)); });
   passes([&] {
     dao::Session session(open(input, false));
     change(session);
-    writtenBy(output, !before, [&](platform::File& out) { session.image().write(out); });
+    const auto written = writtenBy(output, !before, [&](platform::File& out) { session.image().write(out); });
+    if (written) compact(output, compacted, written);
   });
-  passes([&] {
-    const auto file = open(input, true);
-    const auto after =
-        writtenBy(output, !before, [&](platform::File& out) { file::writeCompacted(*file, out); });
-    if (after && after != before) broken("a compacted file", "has another content");
-  });
+  passes([&] { compact(input, compacted, before); });
   return 0;
 }

@@ -1,5 +1,6 @@
-// Any text as a statement: compiled against the tables of the tests, printed and parsed again, and what it
-// was translated to carried out for a few rows.
+// Any text as a statement: compiled against the tables of the tests, printed and parsed again, taken apart as
+// a stored query and put together, and what it was translated to carried out for a few rows, changes in their
+// two steps too.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -8,7 +9,7 @@
 #include "jet/image/connection.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/parser/parser.h"
-#include "jet/sql/stored_query.h"
+#include "jet/sql/stored/stored_query.h"
 #include "jet/sql/tree/print.h"
 #include "jet_sql/small_image.h"
 
@@ -36,6 +37,20 @@ void printAndParse(const std::string& text) {
   }
 }
 
+/// The text that a stored query shows is the text of the same query. Names that are words of clauses are
+/// asked about only as the printer writes them, in brackets.
+void storeAndShow(const std::string& text) {
+  sql::putTogether(sql::takeApart(text));
+  const std::string shown = sql::putTogether(sql::takeApart(sql::tree::print(sql::parse(text))));
+  try {
+    const std::string again = sql::putTogether(sql::takeApart(shown));
+    if (again != shown) broken("is shown in another way once stored again", shown + "\n" + again);
+    sql::parse(shown);
+  } catch (const runtime::Error& error) {
+    if (error.number() != 3360) broken("can't be stored as it is shown", shown + ": " + error.description());
+  }
+}
+
 int ticks = 0;
 
 /// Carries a translated statement out for a few rows.
@@ -57,15 +72,35 @@ void step(sqlite3* connection, const sql::RowStatement& rows) {
     broken("SQLite refuses", rows.sql + ": " + error.description());
 }
 
-/// The same, and takes back what it changed.
+/// Prepares what a change does row by row, over the table of gathered rows.
+void prepareSteps(sqlite3* connection, const sql::RowStatement::Steps& steps) {
+  const auto prepare = [&](const std::string& text, bool run) {
+    ticks = 0;
+    sqlite3_stmt* prepared = nullptr;
+    const int code = sqlite3_prepare_v2(connection, text.c_str(), -1, &prepared, nullptr);
+    const runtime::Error error = image::errorFromSqlite(connection);
+    if (code == SQLITE_OK && run) sqlite3_step(prepared);
+    sqlite3_finalize(prepared);
+    if (code == SQLITE_ERROR && error.number() == NotForeseen)
+      broken("SQLite refuses a step", text + ": " + error.description());
+  };
+  prepare(steps.gather, false);
+  prepare("CREATE TEMP TABLE jet_rows AS SELECT * FROM (" + steps.gather + ") LIMIT 1", true);
+  for (const std::string& text : steps.apply) prepare(text, true);
+}
+
+/// Carries a statement out and takes back what it changed.
 void carryOut(sqlite3* connection, const sql::RowStatement& rows) {
-  sqlite3_exec(connection, "SAVEPOINT one", nullptr, nullptr, nullptr);
+  const auto execute = [&](const char* sql) { sqlite3_exec(connection, sql, nullptr, nullptr, nullptr); };
+  execute("SAVEPOINT one");
   try {
-    step(connection, rows);
+    if (!rows.sql.empty()) step(connection, rows);
   } catch (const runtime::Error& error) {
     broken("a result is not of its type", rows.sql + ": " + error.description());
   }
-  sqlite3_exec(connection, "ROLLBACK TO one; RELEASE one", nullptr, nullptr, nullptr);
+  execute("ROLLBACK TO one");
+  if (rows.steps) prepareSteps(connection, *rows.steps);
+  execute("ROLLBACK TO one; RELEASE one");
 }
 
 /// Runs `work`, which may end in a numbered error.
@@ -89,12 +124,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return made;
   }();
   const std::string text(reinterpret_cast<const char*>(data), size);
-  passes(text, [&] { sql::takeApart(text); });
+  passes(text, [&] { storeAndShow(text); });
   passes(text, [&] { printAndParse(text); });
   for (const bool withRowKeys : {false, true})
     passes(text, [&] {
       const sql::Statement statement = sql::compile(text, *image, {withRowKeys});
       if (const auto* rows = std::get_if<sql::RowStatement>(&statement)) carryOut(image->connection(), *rows);
+      if (const auto* into = std::get_if<sql::SelectInto>(&statement))
+        carryOut(image->connection(), into->rows);
     });
   return 0;
 }

@@ -10,29 +10,32 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 
 namespace {
 
-constexpr std::size_t PageSize = 4096;
+/// Of a file's format, as its version byte tells.
+std::size_t pageSizeOf(const std::uint8_t* data, std::size_t size) {
+  return size > 0x14 && data[0x14] == 0 ? 2048 : 4096;
+}
 
 class Mutation {
  public:
   Mutation(std::uint8_t* data, std::size_t size, unsigned seed)
-      : data_(data), pages_(size / PageSize), random_(seed) {}
+      : data_(data), pageSize_(pageSizeOf(data, size)), pages_(size / pageSize_), random_(seed) {}
 
   void run() {
-    std::uint8_t* page = data_ + below(pages_) * PageSize;
+    std::uint8_t* page = data_ + below(pages_) * pageSize_;
     switch (below(8)) {
       case 0:
-        std::memcpy(page, data_ + below(pages_) * PageSize, PageSize);
+        std::memmove(page, data_ + below(pages_) * pageSize_, pageSize_);
         break;
       case 1: {  // something of one page in another
         const std::size_t length = 1 + below(64);
-        std::memcpy(page + below(PageSize - length), data_ + below(pages_ * PageSize - length), length);
+        std::memmove(page + below(pageSize_ - length), data_ + below(pages_ * pageSize_ - length), length);
         break;
       }
       case 2:  // a page number
         put(page + place(4), below(pages_ + 2), 4);
         break;
       case 3:
-        put(page + place(2), below(2) ? below(PageSize) : below(16), 2);
+        put(page + place(2), below(2) ? below(pageSize_) : below(16), 2);
         break;
       case 4: {
         const std::size_t at = place(8), length = 1 + below(8);
@@ -56,9 +59,9 @@ class Mutation {
       case 0:
         return below(128);
       case 1:
-        return PageSize - length - below(256);
+        return pageSize_ - length - below(256);
       default:
-        return below(PageSize - length);
+        return below(pageSize_ - length);
     }
   }
   static void put(std::uint8_t* at, std::size_t value, std::size_t length) {
@@ -66,7 +69,7 @@ class Mutation {
   }
 
   std::uint8_t* data_;
-  std::size_t pages_;
+  std::size_t pageSize_, pages_;
   std::minstd_rand random_;
 };
 
@@ -74,8 +77,9 @@ class Mutation {
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
                                                unsigned seed) {
-  if (size < PageSize || seed % 64 == 0) return LLVMFuzzerMutate(data, size, maxSize);
-  size -= size % PageSize;  // any other length is refused at once
+  const std::size_t pageSize = pageSizeOf(data, size);
+  if (size < pageSize || seed % 64 == 0) return LLVMFuzzerMutate(data, size, maxSize);
+  size -= size % pageSize;  // any other length is refused at once
   Mutation mutation(data, size, seed);
   for (unsigned count = 1 + seed / 64 % 4; count > 0; --count) mutation.run();
   return size;

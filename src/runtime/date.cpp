@@ -34,7 +34,9 @@ Date dateFromParts(int year, int month, int day, int hour, int minute, int secon
   const calendar::year_month_day civil{calendar::year{year}, calendar::month{static_cast<unsigned>(month)},
                                        calendar::day{static_cast<unsigned>(day)}};
   const bool timeIsGood = hour >= 0 && hour < 24 && minute >= 0 && minute < 60 && second >= 0 && second < 60;
-  if (year < 100 || year > 9999 || month < 1 || day < 1 || !civil.ok() || !timeIsGood)
+  // The calendar keeps eight bits of a month and of a day.
+  const bool partsAreGood = month >= 1 && month <= 12 && day >= 1 && day <= 31;
+  if (year < 100 || year > 9999 || !partsAreGood || !civil.ok() || !timeIsGood)
     throw languageError(InvalidCall);
   const double days = dayNumber(year, month, day);
   const double fraction = static_cast<double>((hour * 60 + minute) * 60 + second) / secondsOfDay;

@@ -43,6 +43,8 @@ TEST(Date, WhatIsNotInTheCalendarIsRefused) {
   EXPECT_THROW(dateFromParts(2025, 2, 29), Error);
   EXPECT_THROW(dateFromParts(99, 1, 1), Error);
   EXPECT_THROW(dateFromParts(2025, 13, 1), Error);
+  EXPECT_THROW(dateFromParts(2025, 257, 1), Error);
+  EXPECT_THROW(dateFromParts(2025, 1, 258), Error);
   EXPECT_THROW(dateFromParts(2025, 1, 1, 24), Error);
   EXPECT_THROW(dateFromParts(2025, -1, 1), Error);
   for (const double days : {1e300, -1e300, 2958466.0, -657435.0})

@@ -59,6 +59,7 @@ struct Moment {
 
 bool isDay(const Moment& moment) {
   using namespace std::chrono;
+  if (moment.month > 12 || moment.day > 31) return false;  // a calendar's parts keep eight bits of them
   const year_month_day date{year(moment.year), month(static_cast<unsigned>(moment.month)),
                             day(static_cast<unsigned>(moment.day))};
   return moment.year >= 100 && moment.year <= 9999 && date.ok();

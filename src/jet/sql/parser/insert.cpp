@@ -27,6 +27,7 @@ tree::Insert Parser::insert() {
   }
   cursor_.expectWord("VALUES", InsertSyntax);
   cursor_.expectSymbol("(", InsertSyntax);
+  if (cursor_.atSymbol(")")) cursor_.fail(InsertSyntax);
   insert.rows = expressions(")");
   clause_ = InsertSyntax;
   return insert;

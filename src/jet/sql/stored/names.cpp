@@ -29,6 +29,18 @@ bool isPlain(char c) {
          static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// True if a name of the path stands in brackets; within a name an opening bracket is a character like
+/// others.
+bool isWritten(std::string_view path) {
+  bool atName = true;
+  for (std::size_t i = 0; i < path.size(); ++i) {
+    const char closing = path[i] == '[' ? ']' : path[i] == '`' ? '`' : 0;
+    if (atName && closing && path.find(closing, i + 1) != std::string_view::npos) return true;
+    atName = path[i] == '.' || path[i] == '!' || (atName && path[i] == ' ');
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string shownName(std::string_view name) {
@@ -38,7 +50,7 @@ std::string shownName(std::string_view name) {
 }
 
 std::string shownPath(std::string_view path) {
-  if (path.find_first_of("[`") != std::string_view::npos) return std::string(path);
+  if (isWritten(path)) return std::string(path);
   std::string shown;
   while (true) {
     const std::size_t separator = path.find_first_of(".!");

@@ -70,8 +70,12 @@ PuttingTogether::PuttingTogether(const StoredQuery& query) : kind_(query.kind), 
 }
 
 std::span<const QueryRow> PuttingTogether::all(Attribute attribute) const {
-  const auto range = std::ranges::equal_range(rows_, attribute, {}, &QueryRow::attribute);
-  return {range.begin(), range.end()};
+  struct ByAttribute {
+    bool operator()(const QueryRow& row, Attribute wanted) const { return row.attribute < wanted; }
+    bool operator()(Attribute wanted, const QueryRow& row) const { return wanted < row.attribute; }
+  };
+  const auto [begin, end] = std::equal_range(rows_.begin(), rows_.end(), attribute, ByAttribute{});
+  return {begin, end};
 }
 
 const QueryRow* PuttingTogether::first(Attribute attribute) const {

@@ -315,6 +315,8 @@ QueryKind TakingApart::append(Span statement) {
     row.flag = ValueOutput;
     if (next < columns.size()) row.name2 = columns[next++];
   }
+  // Too few values stay the error of the statement.
+  while (next < columns.size()) rows_.add(QueryRow::Output).name2 = columns[next++];
   return QueryKind::Append;
 }
 
