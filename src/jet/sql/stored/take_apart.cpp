@@ -66,6 +66,7 @@ class TakingApart {
   QueryKind query(Span statement);
   QueryKind single(Span statement);
   [[noreturn]] void cannotKeep(const char* what, std::size_t token) const;
+  std::string columnName(std::size_t token) const;
   QueryKind select(Span statement, const std::vector<std::string>& targets);
   void unionHalves(Span statement, std::size_t last);
   QueryKind crosstab(Span statement);
@@ -139,6 +140,14 @@ void TakingApart::parameter(Span declaration) {
 [[noreturn]] void TakingApart::cannotKeep(const char* what, std::size_t token) const {
   throw SyntaxError(InvalidStatement, std::string("non si può memorizzare ") + what,
                     text_.at(token).position);
+}
+
+/// The name of a column that gets a value. In the rows a dot or exclamation mark would divide it; no column
+/// has one.
+std::string TakingApart::columnName(std::size_t token) const {
+  const std::string& name = text_.at(token).text;
+  if (name.find_first_of(".!") != std::string::npos) cannotKeep("un campo con un punto nel nome", token);
+  return name;
 }
 
 /// SELECT or TABLE
@@ -301,7 +310,7 @@ QueryKind TakingApart::append(Span statement) {
   std::vector<std::string> columns;
   if (open < target.end)
     for (const Span name : text_.list({open + 1, text_.closing(open, target.end)}))
-      columns.push_back(text_.at(name.end - 1).text);
+      columns.push_back(columnName(name.end - 1));
   intoTable(target);
   if (text_.isWord(rows, "SELECT")) {
     if (text_.findWord({rows, statement.end}, "UNION") != statement.end)
@@ -329,7 +338,7 @@ QueryKind TakingApart::update(Span statement) {
     QueryRow& row = output({equals + 1, item.end});
     const Span column{item.begin, equals};
     // A dotted name is kept as it was written.
-    row.name2 = column.begin + 1 == column.end ? text_.at(column.begin).text : text_.text(column);
+    row.name2 = column.begin + 1 == column.end ? columnName(column.begin) : text_.text(column);
   }
   conditions(clauses);
   return QueryKind::Update;
