@@ -13,7 +13,10 @@ std::string Translator::select(const bound::Select& select, const From& from, Sh
   for (std::size_t i = 0; i < select.items.size(); ++i) {
     const bound::Expression& item = select.items[i].value;
     const bool compared = select.distinct || shape.ordered;
-    text += (i ? ", " : "") + (compared ? ordered(item) : value(item)).text;
+    std::string column = (compared ? ordered(item) : value(item)).text;
+    // SQLite takes HAVING without GROUP BY only where an aggregate stands in the list.
+    if (i == 0 && select.having && select.groupBy.empty()) column = "iif(count(*) < 0, NULL, " + column + ")";
+    text += (i ? ", " : "") + column;
     if (shape.named) text += " AS x" + std::to_string(i + 1);
   }
   const auto& distinctRows = select.distinctRows;
