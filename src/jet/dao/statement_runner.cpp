@@ -73,10 +73,17 @@ std::string StatementRunner::defaultOf(const file::TableDefinition& table, const
 }
 
 sql::RowStatement StatementRunner::selection(const std::string& text, const sql::Options& options) const {
+  constexpr std::size_t most = 32;
+  if (selections_.generation != image_.generation() || selections_.plans.size() >= most)
+    selections_ = {image_.generation(), {}};
+  const auto known = selections_.plans.find({text, options.withRowKeys});
+  if (known != selections_.plans.end()) return known->second;
   auto statement = compile(text, options);
   auto* rows = std::get_if<sql::RowStatement>(&statement);
   if (!rows || rows->kind != sql::RowStatement::Kind::Select)
     throw runtime::Error(3219, Source, "Operazione non valida: l'istruzione non restituisce record");
+  // What its rows call its columns is not the same the next time.
+  if (!rows->columnsFromRows) selections_.plans.emplace(std::pair(text, options.withRowKeys), *rows);
   return std::move(*rows);
 }
 

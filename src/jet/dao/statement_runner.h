@@ -51,6 +51,12 @@ class StatementRunner : public sql::Schema {
     std::map<std::string, std::optional<std::string>> texts;  // by file::nameKey
   };
   mutable Queries queries_;
+  /// The last selections that were compiled, so that a loop over one costs its steps.
+  struct Selections {
+    std::uint64_t generation = 0;
+    std::map<std::pair<std::string, bool>, sql::RowStatement> plans;  // by text and withRowKeys
+  };
+  mutable Selections selections_;
 };
 
 }  // namespace jet::dao
