@@ -34,9 +34,11 @@ TEST(Links, ReadTheirTableInTheOtherFileAndNeverChangeIt) {
     jet::dao::Workspace workspace;
     const auto db = workspace.OpenDatabase(other, true);
     db->Execute("INSERT INTO voci (n, nome) VALUES (3, 'Carla')");
+    db->Execute("ALTER TABLE voci ADD COLUMN anno LONG");
     db->Close();
   }
   EXPECT_EQ(desk.rows("SELECT Max(n) FROM collegata"), "3");
+  EXPECT_EQ(desk.rows("SELECT * FROM collegata WHERE nome = 'anna'"), "1|Anna|è lunga|Null");
   desk.compact();
   EXPECT_EQ(desk.complaints(), "");
   EXPECT_EQ(desk.rows("SELECT Count(*) FROM collegata"), "3");

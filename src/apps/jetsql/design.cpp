@@ -90,9 +90,8 @@ std::string designStatements(TableDef& table) {
   std::string text;
   for (const auto& field : table.Fields()) text += (text.empty() ? "\n  " : ",\n  ") + columnText(field);
   text = "CREATE TABLE " + bracketed(table.Name()) + " (" + text + ");\n";
-  // The engine names the index that a relation puts on the table it points at with a dot in front.
   for (const auto& index : table.Indexes())
-    if (!index->Foreign() && !index->Name().starts_with('.')) text += indexStatement(table.Name(), *index);
+    if (!index->Foreign()) text += indexStatement(table.Name(), *index);
   return text;
 }
 

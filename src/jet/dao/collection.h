@@ -22,6 +22,12 @@ class CollectionSource {
   virtual std::size_t count() const = 0;
   virtual T at(std::size_t position) const = 0;  // below count()
   virtual std::optional<std::size_t> find(std::string_view name) const = 0;
+  /// One after the other; overridden where one look gives them all.
+  virtual std::vector<T> all() const {
+    std::vector<T> objects;
+    for (std::size_t i = 0; i < count(); ++i) objects.push_back(at(i));
+    return objects;
+  }
   virtual int missingError() const { return 3265; }
   virtual void append(const T&) const { refuse(); }
   virtual void remove(std::size_t) const { refuse(); }
@@ -61,9 +67,7 @@ class Collection {
  private:
   class Walk {
    public:
-    explicit Walk(const Collection& collection) {
-      for (std::size_t i = 0; i < collection.Count(); ++i) objects_.push_back(collection.source_->at(i));
-    }
+    explicit Walk(const Collection& collection) : objects_(collection.source_->all()) {}
     const T& operator*() const { return objects_[position_]; }
     Walk& operator++() { return ++position_, *this; }
     bool operator==(std::default_sentinel_t) const { return position_ == objects_.size(); }

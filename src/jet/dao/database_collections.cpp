@@ -36,6 +36,12 @@ RelationPtr DatabaseRelations::at(std::size_t position) const {
   return Relation::stored(session_->image().relations()[position]);
 }
 
+std::vector<RelationPtr> DatabaseRelations::all() const {
+  std::vector<RelationPtr> relations;
+  for (auto& design : session_->image().relations()) relations.push_back(Relation::stored(std::move(design)));
+  return relations;
+}
+
 std::optional<std::size_t> DatabaseRelations::find(std::string_view name) const {
   const auto relations = session_->image().relations();
   for (std::size_t i = 0; i < relations.size(); ++i)
@@ -57,6 +63,13 @@ std::size_t DatabaseQueries::count() const {
 
 QueryDefPtr DatabaseQueries::at(std::size_t position) const {
   return std::make_shared<SessionQueryDef>(session_, queryObjects(session_->image())[position].id);
+}
+
+std::vector<QueryDefPtr> DatabaseQueries::all() const {
+  std::vector<QueryDefPtr> queries;
+  for (const auto& object : queryObjects(session_->image()))
+    queries.push_back(std::make_shared<SessionQueryDef>(session_, object.id));
+  return queries;
 }
 
 std::optional<std::size_t> DatabaseQueries::find(std::string_view name) const {

@@ -30,6 +30,7 @@ class DatabaseRelations : public CollectionSource<RelationPtr> {
   const char* title() const override { return "DAO.Relations"; }
   std::size_t count() const override;
   RelationPtr at(std::size_t position) const override;
+  std::vector<RelationPtr> all() const override;
   std::optional<std::size_t> find(std::string_view name) const override;
   void append(const RelationPtr& relation) const override;
   void remove(std::size_t position) const override;
@@ -45,6 +46,7 @@ class DatabaseQueries : public CollectionSource<QueryDefPtr> {
   const char* title() const override { return "DAO.QueryDefs"; }
   std::size_t count() const override;
   QueryDefPtr at(std::size_t position) const override;
+  std::vector<QueryDefPtr> all() const override;
   std::optional<std::size_t> find(std::string_view name) const override;
   void remove(std::size_t position) const override;
 

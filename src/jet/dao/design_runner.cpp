@@ -75,40 +75,6 @@ bool variableOfSize(const file::Column& column) {
   return !column.fixed() && (column.type == ColumnType::Text || column.type == ColumnType::Binary);
 }
 
-ColumnType columnType(sql::Type type) {
-  using sql::Type;
-  switch (type) {
-    case Type::Boolean:
-      return ColumnType::Boolean;
-    case Type::Byte:
-      return ColumnType::Byte;
-    case Type::Integer:
-      return ColumnType::Integer;
-    case Type::Long:
-      return ColumnType::Long;
-    case Type::Currency:
-      return ColumnType::Currency;
-    case Type::Single:
-      return ColumnType::Single;
-    case Type::Double:
-      return ColumnType::Double;
-    case Type::Date:
-      return ColumnType::Date;
-    case Type::Decimal:
-      return ColumnType::Numeric;
-    case Type::Memo:
-      return ColumnType::Memo;
-    case Type::Guid:
-      return ColumnType::Guid;
-    case Type::Binary:
-      return ColumnType::Binary;
-    case Type::Ole:
-      return ColumnType::Ole;
-    default:
-      return ColumnType::Text;
-  }
-}
-
 }  // namespace
 
 const file::TableDefinition& DesignRunner::table(const std::string& name) const {
@@ -240,7 +206,7 @@ std::int64_t DesignRunner::run(const sql::SelectInto& into, const Answers& answe
   file::TableDefinition design;
   design.name = into.table;
   for (const auto& shown : into.rows.columns) {
-    auto column = image::newColumn(shown.name, columnType(shown.type), 0);
+    auto column = image::newColumn(shown.name, sql::columnTypeOf(shown.type), 0);
     column.precision = ExpressionPrecision;
     column.scale = ExpressionScale;
     if (const auto* source = image_.definition(shown.sourceTable)) {

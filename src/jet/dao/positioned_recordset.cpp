@@ -121,9 +121,7 @@ void PositionedRecordset::MovePrevious() {
 
 void PositionedRecordset::Move(std::int64_t rows) {
   if (rows == 0) goTo(requireRecord());
-  bool first = true;
-  for (; rows > 0 && (first || !atEnd()); --rows, first = false) MoveNext();
-  for (; rows < 0 && (first || !BOF()); ++rows, first = false) MovePrevious();
+  stepRows(rows);
 }
 
 std::int64_t PositionedRecordset::RecordCount() const {

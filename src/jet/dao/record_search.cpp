@@ -10,14 +10,6 @@ namespace {
 constexpr char TableName[] = "~recordset";
 constexpr char Place[] = "[~place]";
 
-/// A column whose values are kept in the image as those of `type`.
-file::ColumnType columnType(sql::Type type) {
-  for (int each = static_cast<int>(file::ColumnType::Boolean);
-       each <= static_cast<int>(file::ColumnType::Raw); ++each)
-    if (sql::typeOf(static_cast<file::ColumnType>(each)) == type) return static_cast<file::ColumnType>(each);
-  return file::ColumnType::Text;
-}
-
 file::Column column(const std::string& name, file::ColumnType type, std::size_t number) {
   file::Column result;
   result.name = name;
@@ -39,7 +31,7 @@ RecordSearch::RecordSearch(std::shared_ptr<Session> session, const std::vector<F
   table_.name = TableName;
   table_.page = nextPage();
   for (const auto& field : fields)
-    table_.columns.push_back(column(field.name, columnType(field.type), table_.columns.size()));
+    table_.columns.push_back(column(field.name, sql::columnTypeOf(field.type), table_.columns.size()));
   table_.columns.push_back(column("~place", file::ColumnType::Long, table_.columns.size()));
 }
 

@@ -120,6 +120,12 @@ void RecordsetBase::requireOpen() const {
     throw runtime::Error(3420, Source, "Oggetto non valido: il recordset è chiuso");
 }
 
+void RecordsetBase::stepRows(std::int64_t rows) {
+  bool first = true;
+  for (; rows > 0 && (first || !atEnd()); --rows, first = false) MoveNext();
+  for (; rows < 0 && (first || !BOF()); ++rows, first = false) MovePrevious();
+}
+
 void RecordsetBase::noCurrentRecord() {
   throw runtime::Error(3021, Source, "Nessun record corrente");
 }

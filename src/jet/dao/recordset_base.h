@@ -80,6 +80,8 @@ class RecordsetBase : public Recordset,
  protected:
   /// Error 3420 once the recordset or its database is closed.
   void requireOpen() const;
+  /// Moves by so many records, past the last or the first one at most once.
+  void stepRows(std::int64_t rows);
   [[noreturn]] static void noCurrentRecord();    // 3021
   [[noreturn]] static void recordDeleted();      // 3167
   [[noreturn]] void invalidOperation() const;    // 3219

@@ -11,8 +11,6 @@ namespace {
 using Kind = sql::RowStatement::Kind;
 using Change = sql::TouchedTable::Change;
 
-constexpr std::uint32_t SystemObject = 0x80000002;  // of a table's flags
-
 /// Errors that say that one row can't be changed so, not that the statement is wrong: overflow, division by
 /// zero, types, Null; keys, a record that is too large, texts that are too long; relations; rules; numbers
 /// and conversions.
@@ -91,7 +89,7 @@ void bindAnswers(image::Statement& statement, const sql::RowStatement& plan, con
 void makeReady(image::Image& image, const sql::RowStatement& plan) {
   if (plan.mayReadAnyTable)
     for (const auto& table : image.tables())
-      if (!(table.flags & SystemObject) && !table.link) image.prepareToRead(table.page, {});
+      if (!table.system() && !table.link) image.prepareToRead(table.page, {});
   const bool onePass =
       plan.kind == Kind::Select && plan.tables.size() == 1 && plan.tables[0].compared.empty();
   for (const auto& table : plan.tables) {
@@ -104,10 +102,17 @@ void makeReady(image::Image& image, const sql::RowStatement& plan) {
   }
 }
 
+bool readsLinks(const image::Image& image, const sql::RowStatement& plan) {
+  return std::ranges::any_of(image.tables(), [&](const image::Table& table) {
+    return table.link &&
+           std::ranges::find(plan.tables, table.page, &sql::TouchedTable::page) != plan.tables.end();
+  });
+}
+
 RowChanges::RowChanges(image::Image& image, sql::RowStatement plan) : image_(image), plan_(std::move(plan)) {
   makeReady(image_, plan_);
   manyRowsInserted_ = plan_.kind == Kind::Insert && plan_.tables.size() > 1;
-  for (const auto& table : plan_.tables) readsLinks_ = readsLinks_ || image_.link(table.page).has_value();
+  readsLinks_ = readsLinks(image_, plan_);
 }
 
 std::int64_t RowChanges::run(const Answers& answers, bool failOnError) {

@@ -36,6 +36,8 @@ class RowChanges {
   bool manyRowsInserted_ = false, readsLinks_ = false;
 };
 
+/// True if a table of `plan` lies in another file, which may change at any time.
+bool readsLinks(const image::Image& image, const sql::RowStatement& plan);
 /// Makes the tables of `plan` ready for it.
 void makeReady(image::Image& image, const sql::RowStatement& plan);
 

@@ -24,7 +24,7 @@ void SequentialRecordset::MoveNext() {
 void SequentialRecordset::Move(std::int64_t rows) {
   requireOpen();
   if (rows < 0) invalidOperation();
-  for (bool first = true; rows > 0 && (first || onRecord_); --rows, first = false) MoveNext();
+  stepRows(rows);
 }
 
 void SequentialRecordset::Requery() {

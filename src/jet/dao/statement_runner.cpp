@@ -82,8 +82,9 @@ sql::RowStatement StatementRunner::selection(const std::string& text, const sql:
   auto* rows = std::get_if<sql::RowStatement>(&statement);
   if (!rows || rows->kind != sql::RowStatement::Kind::Select)
     throw runtime::Error(3219, Source, "Operazione non valida: l'istruzione non restituisce record");
-  // What its rows call its columns is not the same the next time.
-  if (!rows->columnsFromRows) selections_.plans.emplace(std::pair(text, options.withRowKeys), *rows);
+  // The columns that rows tell of, or another file, are not the same the next time.
+  if (!rows->columnsFromRows && !readsLinks(image_, *rows))
+    selections_.plans.emplace(std::pair(text, options.withRowKeys), *rows);
   return std::move(*rows);
 }
 

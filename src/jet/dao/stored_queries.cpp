@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "jet/image/catalogue_rows.h"
+
 namespace jet::dao {
 
 namespace {
@@ -22,20 +24,16 @@ constexpr char DeleteRows[] = "DELETE FROM t4 WHERE c0 = ?1";
 
 constexpr std::uint16_t ObjectIdColumn = 0, ParentIdColumn = 1, SizeColumn = 7;
 
-std::int64_t signedId(std::uint32_t id) {
-  return static_cast<std::int32_t>(id);
-}
+using image::signedId;
 
 std::optional<std::string> text(const image::Statement& row, int column) {
-  if (row.null(column)) return std::nullopt;
-  const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(row.handle(), column));
-  return std::string(data, static_cast<std::size_t>(sqlite3_column_bytes(row.handle(), column)));
+  return row.null(column) ? std::nullopt : std::optional(row.text(column));
 }
 
 QueryObject object(const image::Statement& row) {
   const auto date = [&](int column) { return runtime::Date{sqlite3_column_double(row.handle(), column)}; };
-  return {static_cast<std::uint32_t>(row.integer(0)), text(row, 1).value_or(""),
-          static_cast<std::uint32_t>(row.integer(2)), date(3), date(4)};
+  return {static_cast<std::uint32_t>(row.integer(0)), row.text(1), static_cast<std::uint32_t>(row.integer(2)),
+          date(3), date(4)};
 }
 
 std::optional<QueryObject> oneObject(image::Statement rows) {

@@ -97,9 +97,7 @@ void TableRecordset::Move(std::int64_t rows) {
     requireRecord();
     fetched_ = false;
   }
-  bool first = true;
-  for (; rows > 0 && (first || !atEnd()); --rows, first = false) MoveNext();
-  for (; rows < 0 && (first || !BOF()); ++rows, first = false) MovePrevious();
+  stepRows(rows);
 }
 
 std::int64_t TableRecordset::RecordCount() const {
@@ -239,7 +237,6 @@ RecordsetPtr TableRecordset::OpenRecordset() {
 RecordsetPtr TableRecordset::Clone() {
   requireOpen();
   auto clone = std::make_shared<TableRecordset>(session_, origin_, page_, readOnly_);
-  clone->index_ = index_;
   clone->setIndex(index_);
   if (clone->place_ == Place::On) clone->place_ = Place::Before;
   return clone;

@@ -28,10 +28,6 @@ constexpr char OwnerOfDatabase[] = "SELECT c6 FROM t2 WHERE c0 = ?1";
 // The creator's id, 02 04, and the user Admin's, 03 01, are kept under one cipher of two bytes.
 constexpr std::array CreatorFromAdmin = {std::byte{0x03 ^ 0x02}, std::byte{0x01 ^ 0x04}};
 
-std::int64_t signedId(std::uint32_t id) {
-  return static_cast<std::int32_t>(id);
-}
-
 Bytes blob(const Statement& statement, int column) {
   const auto* data = static_cast<const std::byte*>(sqlite3_column_blob(statement.handle(), column));
   return Bytes(data, data + sqlite3_column_bytes(statement.handle(), column));

@@ -15,6 +15,11 @@
 /// they name must be loaded; the caller marks them as changed.
 namespace jet::image {
 
+/// An object's id, or a word of bits, as the image keeps a Long.
+inline std::int64_t signedId(std::uint32_t id) {
+  return static_cast<std::int32_t>(id);
+}
+
 /// Adds an object with its permissions, as its container hands them down.
 void insertObject(const Connection& connection, const file::CatalogueObject& object);
 /// Removes an object and its permissions.

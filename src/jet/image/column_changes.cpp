@@ -126,11 +126,11 @@ void Image::resizeColumn(std::uint32_t page, std::string_view name, std::uint16_
     auto rows = connection_.prepare("SELECT " + columnName(column.number) + " FROM " + tableName(page) +
                                     " WHERE length(" + columnName(column.number) + ") * 2 > ?1");
     rows.bind(1, std::int64_t{size});
-    while (rows.step())
-      if (!text || file::utf16Length(rows.text(0)) > size) {
-        if (!text && rows.text(0).size() <= size) continue;
+    while (rows.step()) {
+      const std::string value = rows.text(0);
+      if ((text ? file::utf16Length(value) : value.size()) > size)
         fail(3163, "Un valore è troppo lungo per il campo " + design.name + "." + column.name);
-      }
+    }
   }
   column.length = length;
   setDefinition(changed, std::move(design));

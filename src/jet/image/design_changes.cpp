@@ -7,9 +7,6 @@ namespace jet::image {
 
 namespace {
 
-// Bits of a table's catalogue row.
-constexpr std::uint32_t SystemTable = 0x80000002;
-
 [[noreturn]] void fail(int number, std::string description) {
   throw runtime::Error(number, "DAO.TableDefs", std::move(description));
 }
@@ -20,7 +17,7 @@ Table& Image::changeable(std::uint32_t page) {
   requireWritable();
   auto& wanted = table(page);
   if (wanted.link) fail(3057, "Operazione non consentita su una tabella collegata: " + wanted.name);
-  if (wanted.flags & SystemTable) fail(3111, "Impossibile modificare una tabella di sistema: " + wanted.name);
+  if (wanted.system()) fail(3111, "Impossibile modificare una tabella di sistema: " + wanted.name);
   return wanted;
 }
 
@@ -63,7 +60,7 @@ void Image::createTable(file::TableDefinition design, const file::PropertyBlock&
 void Image::dropTable(std::string_view name) {
   requireWritable();
   auto& gone = tableNamed(name, 3376);
-  if (gone.flags & SystemTable) fail(3111, "Impossibile eliminare una tabella di sistema: " + gone.name);
+  if (gone.system()) fail(3111, "Impossibile eliminare una tabella di sistema: " + gone.name);
   for (const auto& relation : relations())
     if (file::sameName(relation.table, gone.name) || file::sameName(relation.foreignTable, gone.name))
       fail(3281, "La tabella " + gone.name + " è usata dalla relazione " + relation.name);
@@ -81,8 +78,7 @@ void Image::dropTable(std::string_view name) {
 void Image::renameTable(std::string_view name, const std::string& newName) {
   requireWritable();
   auto& renamed = tableNamed(name, 3078);
-  if (renamed.flags & SystemTable)
-    fail(3111, "Impossibile modificare una tabella di sistema: " + renamed.name);
+  if (renamed.system()) fail(3111, "Impossibile modificare una tabella di sistema: " + renamed.name);
   Transaction whole(*this);
   renameObject(renamed.page, newName);
   changeSystemTable(file::RelationshipsTable);

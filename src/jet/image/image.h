@@ -39,6 +39,11 @@ struct Table {
   bool rowsChanged = false;                                 // rows must be written anew
   bool designChanged = false;                               // definition must be written anew
   bool isNew = false;                                       // not in the file yet
+
+  bool system() const {
+    constexpr std::uint32_t systemBits = 0x80000002;
+    return (flags & systemBits) != 0;
+  }
 };
 
 /// What is about to happen to rows of a table; from it follows which other tables' rows are needed.

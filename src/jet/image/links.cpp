@@ -12,10 +12,6 @@ constexpr std::uint32_t LinkFlags = 0x200000;
 constexpr char ReadLink[] = "SELECT c8, c10, c9 FROM t2 WHERE c0 = ?1";
 constexpr char WriteLink[] = "UPDATE t2 SET c8 = ?2, c10 = ?3, c9 = ?4 WHERE c0 = ?1";
 
-std::int64_t signedId(std::uint32_t id) {
-  return static_cast<std::int32_t>(id);
-}
-
 }  // namespace
 
 void Image::linkTable(const std::string& name, const Link& link) {
@@ -51,11 +47,11 @@ std::optional<Link> Image::link(std::uint32_t page) {
 
 const file::TableDefinition& Image::linkedDefinition(Table& wanted) {
   if (wanted.linked && unchanged(*wanted.linked)) return *wanted.definition;
-  const auto target = *link(wanted.page);
-  if (!target.connect.empty())
+  const auto target = link(wanted.page);
+  if (!target || !target->connect.empty())
     throw runtime::Error(3170, "DAO.TableDef",
                          "Tabella collegata a un'origine non disponibile: " + wanted.name);
-  auto found = findLinked(target.path, target.sourceTable);
+  auto found = findLinked(target->path, target->sourceTable);
   // The rows of the file as it was are of no use any more.
   dropRows(wanted);
   auto design = found.source;

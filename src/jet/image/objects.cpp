@@ -13,10 +13,6 @@ constexpr char Source[] = "DAO.Database";
 constexpr char ObjectsOfType[] = "SELECT c0, c1, c2, c3, c7 FROM t2 WHERE c3 = ?1 ORDER BY rowid";
 constexpr char ObjectNamed[] = "SELECT c0, c1, c2, c3, c7 FROM t2 WHERE c1 = ?1 AND c2 = ?2";
 
-std::int64_t signedId(std::uint32_t id) {
-  return static_cast<std::int32_t>(id);
-}
-
 file::CatalogueObject readObject(const Statement& row) {
   file::CatalogueObject object;
   object.id = static_cast<std::uint32_t>(row.integer(0));

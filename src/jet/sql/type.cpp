@@ -40,6 +40,16 @@ Type typeOf(file::ColumnType column) {
   return Type::Binary;
 }
 
+file::ColumnType columnTypeOf(Type type) {
+  using file::ColumnType;
+  constexpr ColumnType columns[typeCount] = {
+      ColumnType::Text,    ColumnType::Text, ColumnType::Boolean,  ColumnType::Byte,
+      ColumnType::Integer, ColumnType::Long, ColumnType::Currency, ColumnType::Single,
+      ColumnType::Double,  ColumnType::Date, ColumnType::Numeric,  ColumnType::Text,
+      ColumnType::Memo,    ColumnType::Guid, ColumnType::Binary,   ColumnType::Ole};
+  return columns[static_cast<std::size_t>(type)];
+}
+
 const char* typeName(Type type) {
   static constexpr const char* names[typeCount] = {"Variant",  "Null",   "Boolean", "Byte", "Integer", "Long",
                                                    "Currency", "Single", "Double",  "Date", "Decimal", "Text",

@@ -34,6 +34,8 @@ enum class Type : std::uint8_t {
 constexpr unsigned typeCount = 16;
 
 Type typeOf(file::ColumnType column);
+/// The type of a column whose values are kept as those of `type`; Text where there is none of its own.
+file::ColumnType columnTypeOf(Type type);
 /// "Long", "Text" and so on, for messages.
 const char* typeName(Type type);
 

@@ -47,6 +47,12 @@ constexpr AggregateName aggregates[] = {
     {"VAR", AggregateKind::Var},     {"VARP", AggregateKind::VarP},
 };
 
+const AggregateName* findAggregate(const std::string& name) {
+  const auto* found = std::ranges::find_if(
+      aggregates, [&](const AggregateName& known) { return sameWord(name, known.name); });
+  return found == std::end(aggregates) ? nullptr : found;
+}
+
 /// Type that an aggregate works in and returns, from its argument's.
 Type aggregateType(AggregateKind kind, Type argument) {
   switch (kind) {
@@ -64,6 +70,10 @@ Type aggregateType(AggregateKind kind, Type argument) {
 }
 
 }  // namespace
+
+bool isAggregate(const std::string& name) {
+  return findAggregate(name) != nullptr;
+}
 
 Expression Binder::bind(const tree::Call& node, const Place& place) {
   if (auto result = aggregate(node, place)) return std::move(*result);
@@ -149,9 +159,8 @@ Expression Binder::chosenValue(const std::vector<tree::Expression>& arguments) {
 }
 
 std::optional<Expression> Binder::aggregate(const tree::Call& node, const Place& place) {
-  const auto* found = std::ranges::find_if(
-      aggregates, [&](const AggregateName& name) { return sameWord(node.name, name.name); });
-  if (found == std::end(aggregates)) return std::nullopt;
+  const auto* found = findAggregate(node.name);
+  if (!found) return std::nullopt;
   if (!aggregatesAllowed_) throw SyntaxError(AggregateInClause, node.name, place.position);
   const bool rows = node.star && found->kind == AggregateKind::Count;
   if (!rows && (node.star || node.arguments.size() != 1)) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "jet/sql/binder/function.h"
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/syntax_error.h"
 #include "jet/sql/tree/print.h"
@@ -23,14 +24,6 @@ struct Column {
 /// A tree belongs to one place: another one of the same text.
 Expression copyOf(const Expression& expression) {
   return parseExpression(print(expression));
-}
-
-bool isAggregate(const std::string& name) {
-  for (const char* known :
-       {"COUNT", "SUM", "AVG", "MIN", "MAX", "FIRST", "LAST", "STDEV", "STDEVP", "VAR", "VARP"}) {
-    if (sameWord(name, known)) return true;
-  }
-  return false;
 }
 
 Expression call(const char* name, Expression first, Expression second, Expression third) {

@@ -32,6 +32,9 @@ struct Function {
 /// text may end in a dollar sign.
 const Function* findFunction(const std::string& name, std::size_t arguments);
 
+/// True for the name of an aggregate.
+bool isAggregate(const std::string& name);
+
 /// Choose(index, value, ...); its values are of one type, which is the result's.
 const Function& chooseFunction();
 

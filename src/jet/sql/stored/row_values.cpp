@@ -1,6 +1,6 @@
 #include "jet/sql/stored/row_values.h"
 
-#include "jet/sql/parser/token.h"
+#include "jet/sql/binder/type_name.h"
 #include "jet/sql/syntax_error.h"
 
 namespace jet::sql::stored {
@@ -15,21 +15,6 @@ constexpr KindFlag KindFlags[] = {
     {QueryKind::Select, 1}, {QueryKind::MakeTable, 2},      {QueryKind::Append, 3},
     {QueryKind::Update, 4}, {QueryKind::Delete, 5},         {QueryKind::Crosstab, 6},
     {QueryKind::Union, 9},  {QueryKind::DataDefinition, 7}, {QueryKind::PassThrough, 8},
-};
-
-struct ParameterType {
-  std::string_view name;  // in capitals
-  std::int16_t type;
-};
-constexpr ParameterType ParameterTypes[] = {
-    {"BIT", 1},        {"YESNO", 1},       {"BOOLEAN", 1},    {"LOGICAL", 1},   {"BYTE", 2},
-    {"SHORT", 3},      {"SMALLINT", 3},    {"INTEGER2", 3},   {"INTEGER", 4},   {"LONG", 4},
-    {"INT", 4},        {"INTEGER4", 4},    {"CURRENCY", 5},   {"MONEY", 5},     {"SINGLE", 6},
-    {"REAL", 6},       {"IEEESINGLE", 6},  {"DOUBLE", 7},     {"FLOAT", 7},     {"NUMBER", 7},
-    {"IEEEDOUBLE", 7}, {"DATETIME", 8},    {"DATE", 8},       {"TIME", 8},      {"TIMESTAMP", 8},
-    {"BINARY", 9},     {"VARBINARY", 9},   {"TEXT", 10},      {"STRING", 10},   {"CHAR", 10},
-    {"VARCHAR", 10},   {"LONGBINARY", 11}, {"OLEOBJECT", 11}, {"LONGTEXT", 12}, {"MEMO", 12},
-    {"GUID", 15},      {"DECIMAL", 16},    {"NUMERIC", 16},   {"VALUE", 0},
 };
 
 struct ParameterTypeName {
@@ -50,10 +35,10 @@ std::int16_t kindFlag(QueryKind kind) {
   throw SyntaxError(InvalidStatement, "tipo di query sconosciuto", 0);
 }
 
-std::int16_t parameterType(std::string_view name) {
-  for (const auto& known : ParameterTypes)
-    if (sameWord(name, known.name)) return known.type;
-  return 0;
+/// The rows number the types as columns do.
+std::int16_t parameterType(const std::string& name) {
+  const NamedType* known = findType(name);
+  return known ? static_cast<std::int16_t>(known->type) : std::int16_t{0};
 }
 
 std::string_view parameterTypeName(std::int16_t type) {

@@ -29,7 +29,7 @@ constexpr std::string_view Descending = "D";
 std::int16_t kindFlag(QueryKind kind);
 
 /// The parameter type of this name in any writing; 0, a value of any type, for an unknown one.
-std::int16_t parameterType(std::string_view name);
+std::int16_t parameterType(const std::string& name);
 /// How the engine writes a parameter type; "Value" for an unknown one.
 std::string_view parameterTypeName(std::int16_t type);
 

@@ -45,7 +45,7 @@ Translator::Change Translator::update(const bound::Update& update) {
     // In one step a row that the join finds twice gets the last of its values, as it would row by row.
     const std::string name = "temp.jet_rows";
     change.sql = change.steps.apply.front();
-    change.sql.replace(change.sql.find(name), name.size(), "(" + change.steps.gather + ")");
+    change.sql.replace(change.sql.rfind(name), name.size(), "(" + change.steps.gather + ")");
   }
   return change;
 }
