@@ -8,6 +8,7 @@
 
 #include "child.h"
 #include "jet/dao/engine.h"
+#include "jet/dao/row_changes.h"
 #include "jet/dao/session.h"
 #include "jet/file/usage_map.h"
 #include "office_file.h"
@@ -86,14 +87,7 @@ std::string exportImage(const std::string& office, const TimedStatement& stateme
   prepare(session);
   const auto compiled = session.runner().compile(statement.sql);
   const auto& plan = std::get<sql::RowStatement>(compiled);
-  for (const auto& table : plan.tables) session.image().prepareToRead(table.page, table.compared);
-  if (!isSelect(statement)) {
-    // Keys and rules stand in the image once a row is to be changed; nothing is.
-    dao::Answers answers(plan.parameters.size(), runtime::Variant(std::int32_t{0}));
-    session.image().begin();
-    session.runner().execute(compiled, answers, true);
-    session.image().rollback();
-  }
+  dao::makeReady(session.image(), plan);  // keys and rules too, where rows are to be changed
   std::filesystem::remove(image);
   session.image().connection().execute("VACUUM INTO '" + image + "'");
   return plan.sql;
@@ -124,9 +118,10 @@ double theirs(const std::string& folder, const std::string& image, const std::st
   return run(std::max(1L, repetitions)) - run(0);
 }
 
-void statementTimes(const std::string& folder, const std::string& office) {
+void statementTimes(const std::string& folder, const std::string& office, const std::string& only) {
   const std::string image = folder + "/image.db";
   for (const auto& statement : timedStatements()) {
+    if (std::string_view(statement.name).find(only) == std::string_view::npos) continue;
     const std::string sql = exportImage(office, statement, image);
     const double shell = theirs(folder, image, sql, statement.repetitions);
     const double engine = ours(office, statement);
@@ -156,13 +151,13 @@ void loadingAndSaving(const std::string& office, const std::string& folder) {
   std::filesystem::remove(copy);
 }
 
-void run(const std::string& folder, long rows) {
+void run(const std::string& folder, long rows, const std::string& only) {
   std::filesystem::create_directories(folder);
   const std::string office = folder + "/office.mdb";
   if (!std::filesystem::exists(office)) makeOffice(platform::fromSystemPath(office), rows);
   runChild({"sh", "-c", "cat \"$0\"", office});  // all readers find it in the system's memory
-  loadingAndSaving(office, folder);
-  statementTimes(folder, office);
+  if (only.empty()) loadingAndSaving(office, folder);
+  statementTimes(folder, office, only);
 }
 
 }  // namespace
@@ -170,14 +165,16 @@ void run(const std::string& folder, long rows) {
 
 int main(int argc, char** argv) {
   std::string folder;
+  std::string only;
   long rows = 1'000'000;
   CLI::App app("What statements cost, as ratios to the shell of SQLite.", "bench_statements");
   app.add_option("FOLDER", folder, "Where the office's file is made, or found from an earlier run")
       ->required();
   app.add_option("--rows", rows, "Rows of the large table")->check(CLI::PositiveNumber);
+  app.add_option("--only", only, "Only statements with this in their name");
   CLI11_PARSE(app, argc, argv);
   try {
-    bench::run(folder, rows);
+    bench::run(folder, rows, only);
     return 0;
   } catch (const std::exception& error) {
     std::cerr << "bench_statements: " << error.what() << "\n";

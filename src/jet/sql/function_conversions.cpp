@@ -84,6 +84,11 @@ void store(sqlite3_context* context, int count, sqlite3_value** arguments) {
   if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
     return pair.to == Type::Boolean ? sqlite3_result_int(context, 0) : sqlite3_result_null(context);
   }
+  // A text never has more characters than bytes: most need not be read, however many rows there are.
+  if (isText(pair.from) && isText(pair.to) && count == 2 &&
+      sqlite3_value_bytes(arguments[0]) <= sqlite3_value_int(arguments[1])) {
+    return sqlite3_result_value(context, arguments[0]);
+  }
   guard(context, pair, conversionFailed, [&] {
     if (pair.to == Type::Decimal && count == 3) {
       return storeDecimal(context, arguments[0], pair.from, sqlite3_value_int(arguments[1]),
