@@ -36,6 +36,20 @@ void appendUtf8(char32_t c, std::string& out) {
   }
 }
 
+std::size_t utf8Prefix(std::string_view text) {
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    // Bytes are a character exactly if it is written by them.
+    const std::string_view before = rest;
+    std::string written;
+    const char32_t character = takeCharacter(rest);
+    appendUtf8(character, written);
+    if (character > 0x10FFFF || before.substr(0, before.size() - rest.size()) != written)
+      return text.size() - before.size();
+  }
+  return text.size();
+}
+
 std::u32string characters(std::string_view utf8) {
   std::u32string result;
   result.reserve(utf8.size());

@@ -25,6 +25,9 @@ inline char32_t takeCharacter(std::string_view& utf8) {
 
 void appendUtf8(char32_t character, std::string& out);
 
+/// How many bytes at the beginning are UTF-8; a surrogate alone counts as a character of three bytes.
+std::size_t utf8Prefix(std::string_view text);
+
 std::u32string characters(std::string_view utf8);
 std::string toUtf8(std::u32string_view characters);
 

@@ -14,6 +14,9 @@ TEST(Errors, HaveTheEnginesNumberAndTheirPlace) {
   });
   EXPECT_EQ(image.run(""), "error 3129 at 0");
   EXPECT_EQ(image.run("SELECT id FROM soci WHERE id = "), "error 3075 at 31");
+  EXPECT_EQ(image.run("SELECT 'è' AS [\xE0\xE0] FROM soci"), "error 3075 at 15");
+  EXPECT_EQ(image.run("SELECT id AS a\xC1\x81 FROM soci"), "error 3075 at 14");
+  EXPECT_EQ(image.run("SELECT '\xED\xA0\x80' AS solo FROM soci WHERE id = 1"), "\xED\xA0\x80");
 }
 
 TEST(Errors, AnswerAnyDepthOfNesting) {

@@ -7,9 +7,9 @@ namespace jet::sql {
 
 bool isReserved(const Token& token) {
   static constexpr std::string_view words[] = {
-      "SELECT", "FROM", "WHERE", "GROUP", "ORDER", "HAVING", "BY",   "AND",     "OR",
-      "XOR",    "EQV",  "IMP",   "NOT",   "MOD",   "IN",     "LIKE", "BETWEEN", "IS",
-      "ON",     "AS",   "INNER", "LEFT",  "RIGHT", "JOIN",   "UNION"};
+      "SELECT", "FROM", "WHERE", "GROUP", "ORDER", "HAVING", "BY",    "AND",     "OR",
+      "XOR",    "EQV",  "IMP",   "NOT",   "MOD",   "IN",     "LIKE",  "BETWEEN", "IS",
+      "ON",     "AS",   "INNER", "LEFT",  "RIGHT", "JOIN",   "UNION", "INTO"};
   return token.kind == Token::Kind::Word &&
          std::ranges::any_of(words, [&](std::string_view word) { return token.isWord(word); });
 }
@@ -60,7 +60,7 @@ unsigned Cursor::expectCount(StatementError error) {
 }
 
 std::string Cursor::acceptAlias(bool requireAs, StatementError error) {
-  static constexpr std::string_view closing[] = {"SET", "VALUES", "WITH", "INTO", "PIVOT"};
+  static constexpr std::string_view closing[] = {"SET", "VALUES", "WITH", "PIVOT"};
   if (acceptWord("AS")) return expectName(error);
   if (requireAs || isReserved(peek())) return "";
   if (std::ranges::any_of(closing, [&](std::string_view word) { return atWord(word); })) return "";

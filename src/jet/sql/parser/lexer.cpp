@@ -1,5 +1,6 @@
 #include "jet/sql/parser/token.h"
 #include "jet/sql/syntax_error.h"
+#include "runtime/letters.h"
 
 namespace jet::sql {
 
@@ -27,6 +28,11 @@ class Lexer {
   Lexer(std::string_view statement, std::size_t position) : rest_(statement), position_(position) {}
 
   std::vector<Token> run() {
+    const std::size_t readable = runtime::utf8Prefix(rest_);
+    if (readable < rest_.size()) {
+      take(readable);
+      throw SyntaxError(ExpressionSyntax, "un carattere che non è UTF-8", position_);
+    }
     while (true) {
       while (!rest_.empty() && isBlank(rest_.front())) take(1);
       tokens_.push_back({Token::Kind::End, "", position_});

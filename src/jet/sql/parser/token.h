@@ -32,7 +32,7 @@ struct Token {
 bool sameWord(std::string_view text, std::string_view upper);
 
 /// The statement's tokens, closed by one End. Error 3075 for a text, name or date that is not closed or
-/// empty, and for a character that begins nothing.
+/// empty, for a character that begins nothing, and for bytes that are no UTF-8.
 /// `position`: of the first character.
 std::vector<Token> tokenize(std::string_view statement, std::size_t position = 0);
 
