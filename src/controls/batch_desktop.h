@@ -35,6 +35,7 @@ class BatchDesktop : public Desktop {
   void loadForm(Form&) override {}
   /// A modal window is unloaded at once, as nobody could leave it.
   void showForm(Form& form, bool modal) override;
+  void keepOnTop(Form&, bool) override {}
   void unloadForm(Form&) override {}
   void endProgram() override { ended_ = true; }
 

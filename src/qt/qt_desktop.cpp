@@ -6,6 +6,7 @@
 #include <QInputDialog>
 #include <QLibraryInfo>
 #include <QScreen>
+#include <QWindow>
 
 #include "controls/form.h"
 #include "qt/boxes.h"
@@ -107,6 +108,15 @@ void QtDesktop::showForm(controls::Form& form, bool modal) {
   QEventLoop loop;
   QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
   loop.exec();
+}
+
+void QtDesktop::keepOnTop(controls::Form& form, bool onTop) {
+  FormWindow* window = windowOf(form);
+  if (!window || !window->isVisible()) return;
+  // The flag of the widget itself would take the window off the screen for a moment.
+  window->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, onTop);
+  window->raise();
+  window->activateWindow();
 }
 
 void QtDesktop::unloadForm(controls::Form& form) {
