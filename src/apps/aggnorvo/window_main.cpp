@@ -4,9 +4,7 @@
 #include "apps/aggnorvo/options.h"
 #include "apps/command_line.h"
 #include "console/frmAggMain.h"
-#include "platform/paths.h"
 #include "platform/program.h"
-#include "platform/settings.h"
 #include "qt/qt_desktop.h"
 
 int main(int argc, char** argv) {
@@ -21,10 +19,10 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return apps::answer(app, error);
   }
-  const auto settings = console::openSettings(program);
+  const console::ProgramScope scopeOfProgram(program);
   qt::QtDesktop desktop;
   controls::DesktopScope scope(desktop);
-  console::frmAggMain window({*settings, console::programFolder(program)});
+  console::frmAggMain window({scopeOfProgram.settings(), scopeOfProgram.folder()});
   window.show();
   return desktop.run();
 }
