@@ -29,7 +29,8 @@ TEST(CommandLine, IsTakenApartAsTheOtherSystemDoes) {
 }
 
 TEST(CommandLine, IsPutTogetherToTheSameWords) {
-  const Words words = {"c:\\a b\\p", "", "x", "a b\\", "\\\"", "\"", "a\\b", "\\\\srv\\d e\\\\", "à\tè", "a\\\" b"};
+  const Words words = {"c:\\a b\\p",       "",     "x",      "a b\\", "\\\"", "\"", "a\\b",
+                       "\\\\srv\\d e\\\\", "à\tè", "a\\\" b"};
   EXPECT_EQ(splitCommandLine(joinCommandLine(words)), words);
 }
 
