@@ -43,7 +43,7 @@ State stirred(State state, std::span<const std::uint32_t> block) {
   const std::uint32_t* constant = constants;
   for (const Round& round : rounds)
     for (unsigned step = 0; step < 16; ++step) {
-      const std::uint32_t word = block[(round.firstWord + step * round.wordStep) % 16];
+      const std::uint32_t word = block[(round.firstWord + step * round.wordStep) % wordsInBlock];
       const std::uint32_t sum = a + round.mixture(b, c, d) + word + *constant++;
       a = d;
       d = c;
@@ -58,8 +58,8 @@ State stirred(State state, std::span<const std::uint32_t> block) {
 std::string EncUtils::MD5(std::string_view testo) {
   State state{0x67452301, 0xefcdab89, 0x98badcfe, 0x10325476};
   const std::vector<std::uint32_t> words = messageWords(testo, ByteOrder::LowFirst);
-  for (std::size_t at = 0; at < words.size(); at += 16)
-    state = stirred(state, std::span(words).subspan(at, 16));
+  for (std::size_t at = 0; at < words.size(); at += wordsInBlock)
+    state = stirred(state, std::span(words).subspan(at, wordsInBlock));
   return digest(state, ByteOrder::LowFirst);
 }
 

@@ -11,7 +11,7 @@ namespace crypto {
 
 namespace {
 
-constexpr std::size_t wordsInBlock = 16, bytesInBlock = 64, bytesOfLength = 8;
+constexpr std::size_t bytesInBlock = 64, bytesOfLength = 8;
 
 int placeOfByte(std::size_t index, ByteOrder order) {
   return static_cast<int>(8 * (order == ByteOrder::LowFirst ? index % 4 : 3 - index % 4));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -8,11 +9,13 @@
 
 namespace crypto {
 
+constexpr std::size_t wordsInBlock = 16;
+
 /// How a digest reads four bytes as one number, and writes its numbers.
 enum class ByteOrder { LowFirst, HighFirst };
 
 /// What a digest works on: the text's bytes in code page 1252, the bit 1, zeros, and the number of the text's
-/// bits in 64, as words; always a multiple of 16 words.
+/// bits in 64, as words; always whole blocks.
 std::vector<std::uint32_t> messageWords(std::string_view text, ByteOrder order);
 
 /// The words' hexadecimal digits in small letters.

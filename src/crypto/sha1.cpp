@@ -48,8 +48,8 @@ Word EncUtils::f(std::int32_t t, const Word& b, const Word& c, const Word& d) {
 std::string EncUtils::SHA1(std::string_view testo) {
   State state{0x67452301, 0xEFCDAB89, 0x98BADCFE, 0x10325476, 0xC3D2E1F0};
   const std::vector<std::uint32_t> words = messageWords(testo, ByteOrder::HighFirst);
-  for (std::size_t at = 0; at < words.size(); at += 16)
-    state = stirred(state, std::span(words).subspan(at, 16));
+  for (std::size_t at = 0; at < words.size(); at += wordsInBlock)
+    state = stirred(state, std::span(words).subspan(at, wordsInBlock));
   return digest(state, ByteOrder::HighFirst);
 }
 

@@ -71,6 +71,7 @@ TEST(Words, HaveTheModulusOfDoublesBetweenZeroAndTheDivisor) {
   EXPECT_EQ(E::DMod(-512.25, 256), 255.75);
   EXPECT_EQ(E::DMod(7.5, 2), 1.5);
   EXPECT_EQ(E::DMod(-1, 3), 2);
+  EXPECT_GE(E::DMod(0.7, 0.01), 0) << "0.7 / 0.01 is rounded up to 70, and 70 * 0.01 above 0.7";
   const auto shown = [](double value) {
     return runtime::shown([&] { return std::to_string(E::DMod(value, 0)); });
   };
