@@ -17,10 +17,10 @@ plain::Bytes ascii(std::string_view text) {
 /// A message of ASCII letters as it should be enciphered, by the definition.
 std::string enciphered(const plain::Bytes& message, plain::Bytes password) {
   password.resize(32);
-  plain::Bytes all{static_cast<std::uint8_t>(message.size()), static_cast<std::uint8_t>(message.size() / 256),
-                   0, 0};
-  all.insert(all.end(), message.begin(), message.end());
-  while (all.size() % 32 != 0) all.push_back(0);
+  plain::Bytes all((4 + message.size() + 31) / 32 * 32);
+  all[0] = static_cast<std::uint8_t>(message.size());
+  all[1] = static_cast<std::uint8_t>(message.size() / 256);
+  std::copy(message.begin(), message.end(), all.begin() + 4);
   std::string digits;
   for (auto at = all.begin(); at != all.end(); at += 32)
     digits += toHex(plain::encrypted({at, at + 32}, password));
