@@ -3,8 +3,9 @@
 
 namespace platform {
 
-Replacement::Replacement(std::string path)
+Replacement::Replacement(std::string path, const std::string& model)
     : path_(followLinks(path)), temporary_(path_ + ".tmp"), file_(openFile(temporary_, OpenMode::Create)) {
+  if (!model.empty()) file_.grantLike(model);
   file_.takePermissionsOf(path_);
 }
 
