@@ -40,7 +40,7 @@ void copyFile(const std::string& from, const std::string& to) {
   const std::optional<FileInfo> info = inspectFile(from);
   if (!info || !source.isStillAt(from)) throw DiskError(DiskFault::Sharing, from);
   const File oldTarget = holdTarget(to);
-  Replacement copy(to);
+  Replacement copy(to, oldTarget ? std::string() : from);
   copyContent(source, copy.file());
   setModified(copy.file().path(), info->modifiedUnixNanoseconds);
   copy.publish();

@@ -3,9 +3,9 @@
 
 namespace platform {
 
-Replacement::Replacement(std::string path)
+Replacement::Replacement(std::string path, const std::string& model)
     : path_(followLinks(path)), temporary_(path_ + ".tmp"), file_(openFile(temporary_, OpenMode::Create)) {
-  file_.takePermissionsOf(path_);
+  file_.takePermissionsOf(model.empty() ? path_ : model);
 }
 
 Replacement::~Replacement() {

@@ -4,10 +4,21 @@
 #include "apps/aggnorvo/options.h"
 #include "apps/command_line.h"
 #include "console/frmAggMain.h"
+#include "patcher/frmPatch.h"
 #include "platform/paths.h"
 #include "platform/program.h"
 #include "platform/settings.h"
 #include "qt/qt_desktop.h"
+
+namespace {
+
+void showPatch(const std::string& folder) {
+  patcher::frmPatch window;
+  window.Path(folder);
+  window.show(true);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   platform::keepRunningOnWriteSignals();
@@ -24,7 +35,8 @@ int main(int argc, char** argv) {
   const auto settings = console::openSettings(program);
   qt::QtDesktop desktop;
   controls::DesktopScope scope(desktop);
-  console::frmAggMain window({*settings, console::programFolder(program)});
+  console::frmAggMain window(
+      {.impostazioni = *settings, .cartella = console::programFolder(program), .mostraPatch = showPatch});
   window.show();
   return desktop.run();
 }
