@@ -42,7 +42,7 @@ void copyFile(const std::string& from, const std::string& to) {
   const File oldTarget = holdTarget(to);
   Replacement copy(to, oldTarget ? std::string() : from);
   copyContent(source, copy.file());
-  setModified(copy.file().path(), info->modifiedUnixNanoseconds);
+  copy.file().setModified(info->modifiedUnixNanoseconds);
   copy.publish();
 }
 

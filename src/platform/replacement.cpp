@@ -20,9 +20,7 @@ Replacement::~Replacement() {
 File Replacement::publish(std::optional<LockMode> lock) {
   file_.flush();
   if (lock && !file_.tryLock(*lock)) throw DiskError(DiskFault::Sharing, temporary_);
-  replaceFile(temporary_, path_);
-  renamed_ = true;
-  file_.setPath(path_);
+  file_.replaceFileAt(path_, renamed_);
   flushFolder(containingFolder(path_));
   return std::move(file_);
 }

@@ -4,10 +4,8 @@
 #include <iostream>
 #include <map>
 
-#include "common/globale.h"
 #include "patcher/batch.h"
 #include "platform/paths.h"
-#include "platform/settings.h"
 
 namespace aggnorvo {
 namespace {
@@ -76,9 +74,7 @@ class Patch : public Command {
   }
   void addOptions(CLI::App&, CLI::Option*) override {}
   int run(const console::ProgramOptions& program) override {
-    const auto settings = console::openSettings(program);
-    common::Impostazioni = settings.get();
-    common::DirProgramma = console::programFolder(program);
+    const console::ProgramScope scope(program);
     return patcher::runPatch(platform::fromSystemPath(folder_), std::cout, std::cerr);
   }
 

@@ -5,9 +5,7 @@
 #include "apps/command_line.h"
 #include "console/frmAggMain.h"
 #include "patcher/frmPatch.h"
-#include "platform/paths.h"
 #include "platform/program.h"
-#include "platform/settings.h"
 #include "qt/qt_desktop.h"
 
 namespace {
@@ -32,11 +30,12 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return apps::answer(app, error);
   }
-  const auto settings = console::openSettings(program);
+  const console::ProgramScope scopeOfProgram(program);
   qt::QtDesktop desktop;
   controls::DesktopScope scope(desktop);
-  console::frmAggMain window(
-      {.impostazioni = *settings, .cartella = console::programFolder(program), .mostraPatch = showPatch});
+  console::frmAggMain window({.impostazioni = scopeOfProgram.settings(),
+                              .cartella = scopeOfProgram.folder(),
+                              .mostraPatch = showPatch});
   window.show();
   return desktop.run();
 }

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -113,6 +114,13 @@ void refuseUnlessRegular(const std::string& path) {
   throw DiskError(S_ISDIR(info.st_mode) ? DiskFault::IsFolder : DiskFault::AccessDenied, path);
 }
 
+/// The pair of times that the system's calls take; the time of the last access stays as it is.
+std::array<timespec, 2> modifiedTime(std::int64_t unixNanoseconds) {
+  constexpr std::int64_t second = 1'000'000'000;
+  const std::int64_t part = (unixNanoseconds % second + second) % second;
+  return {{{0, UTIME_OMIT}, {static_cast<time_t>((unixNanoseconds - part) / second), part}}};
+}
+
 /// Empties the file only under its lock, and only if no one has meanwhile renamed it to another place.
 NativeFile create(const std::string& path) {
   for (;;) {
@@ -214,6 +222,10 @@ void replace(const std::string& from, const std::string& to) {
   fail(error, ::stat(source.c_str(), &info) == 0 ? to : from);
 }
 
+void closeForReplacement(NativeFile&) noexcept {}
+
+void openAfterReplacement(NativeFile&, const std::string&, std::optional<LockMode>) {}
+
 void remove(const std::string& path) {
   if (::unlink(native(path).c_str()) != 0) fail(errno, path);
 }
@@ -242,11 +254,13 @@ std::optional<FileInfo> inspect(const std::string& path) {
   return result;
 }
 
+void setModified(NativeFile file, const std::string& path, std::int64_t unixNanoseconds) {
+  if (::futimens(descriptor(file), modifiedTime(unixNanoseconds).data()) != 0) fail(errno, path);
+}
+
 void setModified(const std::string& path, std::int64_t unixNanoseconds) {
-  constexpr std::int64_t second = 1'000'000'000;
-  const std::int64_t part = (unixNanoseconds % second + second) % second;
-  const timespec times[2] = {{0, UTIME_OMIT}, {static_cast<time_t>((unixNanoseconds - part) / second), part}};
-  if (::utimensat(AT_FDCWD, native(path).c_str(), times, 0) != 0) fail(errno, path);
+  const auto times = modifiedTime(unixNanoseconds);
+  if (::utimensat(AT_FDCWD, native(path).c_str(), times.data(), 0) != 0) fail(errno, path);
 }
 
 std::string followLinks(const std::string& path) {
