@@ -1,6 +1,7 @@
 #include "qt/patch_window.h"
 
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "qt/button_view.h"
 #include "qt/text.h"
@@ -30,28 +31,38 @@ class LetteredButton : public ButtonView {
   controls::Subscription letter_;
 };
 
-/// A label whose text, whatever a list holds, takes the room that there is and asks for no more.
+/// A label whose text, whatever a list holds, asks for a few lines of the width that there is and no more.
 class WrappedLabel : public LabelView {
  public:
   WrappedLabel(controls::Label& label, QWidget* parent) : LabelView(label, parent) {
     setWordWrap(true);
     setAlignment(Qt::AlignTop | Qt::AlignLeft);
     setMaximumHeight(fontMetrics().lineSpacing() * lines);
+    const auto refresh = [this, &label] { setText(toQt(label.caption()).left(characters)); };
+    refresh();
+    shortened_ = label.changed.subscribe(refresh);
   }
-  QSize minimumSizeHint() const override { return {0, fontMetrics().lineSpacing()}; }
+  QSize minimumSizeHint() const override { return {0, std::min(heightForWidth(width()), maximumHeight())}; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    LabelView::resizeEvent(event);
+    updateGeometry();
+  }
 
  private:
-  static constexpr int lines = 4;
+  static constexpr int lines = 4, characters = 1000;  // more than the lines can show
+  controls::Subscription shortened_;
 };
 
 }  // namespace
 
 PatchWindow::PatchWindow(controls::Form& form) : FormWindow(form) {
   auto* page = new QWidget(this);
-  auto* report = new TextEditView(form.control<controls::TextBox>("txt"), page);
-  report->setAccessibleName("Resoconto della patch");
   auto* start = new LetteredButton(form.control<controls::Button>("cmd"), page);
   auto* leave = new LetteredButton(form.control<controls::Button>("cmdEsci"), page);
+  auto* report = new TextEditView(form.control<controls::TextBox>("txt"), page);
+  report->setAccessibleName("Resoconto della patch");
   setDefaultButton(start);
   setCancelButton(leave);
 

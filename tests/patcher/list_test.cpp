@@ -155,7 +155,7 @@ TEST(Paths, AreCutByTheLengthOfTheName) {
   const struct {
     const char* entry;
     std::string exe, db;
-  } cases[] = {{"altro.exe = \\a\\b\\lungo nome.exe", "\\a\\b\\lungo ", "\\a\\b\\lungo db\\"},
+  } cases[] = {{"altro.exe = \\a\\b\\lungo nome.exe", "\\a\\b\\lungo", "\\a\\b\\lungodb\\"},
                {"altro.exe = altro.exe", "", "db\\"}};
   for (const auto& test : cases) {
     Computer computer;
