@@ -40,7 +40,7 @@ void copyFile(const std::string& from, const std::string& to) {
   const std::optional<FileInfo> info = inspectFile(from);
   if (!info || !source.isStillAt(from)) throw DiskError(DiskFault::Sharing, from);
   const File oldTarget = holdTarget(to);
-  Replacement copy(to, oldTarget ? std::string() : from);
+  Replacement copy(to, from);
   copyContent(source, copy.file());
   copy.file().setModified(info->modifiedUnixNanoseconds);
   copy.publish();

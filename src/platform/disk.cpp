@@ -133,6 +133,10 @@ void File::takePermissionsOf(const std::string& model) {
   system::takePermissions(handle_->native, model);
 }
 
+void File::grantLike(const std::string& model) {
+  system::grantLike(handle_->native, model);
+}
+
 /// `done` says that the new name holds, also where the file could not be taken up again under it.
 void File::replaceFileAt(const std::string& path, bool& done) {
   system::closeForReplacement(handle_->native);

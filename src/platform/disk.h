@@ -112,6 +112,7 @@ class File {
   friend File openFile(const std::string& path, OpenMode mode);
   friend class Replacement;
   void takePermissionsOf(const std::string& model);
+  void grantLike(const std::string& model);
   void replaceFileAt(const std::string& path, bool& done);
   struct Handle;
   std::unique_ptr<Handle> handle_;

@@ -5,7 +5,8 @@ namespace platform {
 
 Replacement::Replacement(std::string path, const std::string& model)
     : path_(followLinks(path)), temporary_(path_ + ".tmp"), file_(openFile(temporary_, OpenMode::Create)) {
-  file_.takePermissionsOf(model.empty() ? path_ : model);
+  if (!model.empty()) file_.grantLike(model);
+  file_.takePermissionsOf(path_);
 }
 
 Replacement::~Replacement() {

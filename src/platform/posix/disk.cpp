@@ -214,6 +214,14 @@ void takePermissions(NativeFile file, const std::string& model) noexcept {
   ::fchmod(descriptor(file), permissions);
 }
 
+void grantLike(NativeFile file, const std::string& model) noexcept {
+  struct stat old, fresh;
+  if (::stat(toSystemPath(model).c_str(), &old) != 0 || ::fstat(descriptor(file), &fresh) != 0) return;
+  const mode_t readers = fresh.st_mode & 0444;
+  const mode_t permissions = (fresh.st_mode & old.st_mode & 0777) | (readers >> 2 & old.st_mode);
+  ::fchmod(descriptor(file), permissions | S_IRUSR | S_IWUSR);
+}
+
 void replace(const std::string& from, const std::string& to) {
   const std::string source = native(from), target = native(to);
   if (::rename(source.c_str(), target.c_str()) == 0) return;

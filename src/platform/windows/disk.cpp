@@ -163,6 +163,10 @@ void takePermissions(NativeFile, const std::string&) noexcept {
   // The replacement itself hands the old file's rights and attributes on.
 }
 
+void grantLike(NativeFile, const std::string&) noexcept {
+  // A new file has the rights that its folder hands down.
+}
+
 void remove(const std::string& path) {
   if (!::DeleteFileW(native(path).c_str())) failLastCall(path);
 }
