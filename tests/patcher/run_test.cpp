@@ -133,13 +133,6 @@ TEST(Run, CanBeRepeated) {
   EXPECT_EQ(computer.report(), report);
 }
 
-TEST(Run, WithoutRowsOnlySaysThatItEnded) {
-  Computer computer;
-  computer.list("Top-LBL=x\nqualcosa");
-  computer.run();
-  EXPECT_EQ(computer.report(), Finished);
-}
-
 TEST(Run, ShowsThatItIsUnderWay) {
   Computer computer;
   computer.list("Windows-SOST=a");
@@ -307,27 +300,6 @@ TEST(Registration, WithoutACommandIsSilent) {
   EXPECT_EQ(computer.read("win\\system\\x.dll"), "nuovo");
   EXPECT_EQ(computer.form.ErroriPatch, 0);
   EXPECT_EQ(computer.clock.seconds, 62160) << "nothing was waited for";
-}
-
-TEST(Faults, AtAnyCallOfACopyLeaveTheOldFileOrTheNewOne) {
-  for (std::uint64_t n = 1;; ++n) {
-    Computer computer;
-    computer.list("Windows-SOST=a");
-    computer.write("patch\\a", std::string(5000, 'n'));
-    computer.write("win\\a", "vecchio");
-    computer.form.load();
-    support::FailNth observer(n, platform::DiskFault::Io, support::Faulty::FromThenOn);
-    {
-      const support::ObservedDisk scope(observer);
-      computer.form.cmd.press();
-    }
-    const bool replaced = computer.read("win\\a") != "vecchio";
-    if (replaced) {
-      EXPECT_EQ(computer.read("win\\a"), std::string(5000, 'n'));
-    }
-    EXPECT_EQ(computer.form.FileSostituiti, observer.wasHit() ? 0 : 1);
-    if (!observer.wasHit()) break;
-  }
 }
 
 }  // namespace

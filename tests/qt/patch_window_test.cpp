@@ -10,7 +10,7 @@
 
 namespace {
 
-class PatchWindow : public testing::Test {
+class PatchWindow : public ShownWindow {
  protected:
   PatchWindow() {
     common::DirProgramma = folder.path();
@@ -20,22 +20,10 @@ class PatchWindow : public testing::Test {
   ~PatchWindow() override { form.unload(); }
 
   void list(const std::string& content) { platform::writeWholeFile(folder.path("PatchList.txt"), content); }
-  void open() {
-    form.show();
-    window = desktop.windowOf(form);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-  }
-  template <typename Widget = QWidget>
-  Widget* view(const char* name) {
-    return window->findChild<Widget*>(name);
-  }
   bool finished() const { return form.txt.text().ends_with("Aggiornamento terminato, puoi uscire."); }
 
   support::TempFolder folder;
-  qt::QtDesktop desktop;
-  controls::DesktopScope scope{desktop};
   patcher::frmPatch form;
-  qt::FormWindow* window = nullptr;
 };
 
 TEST_F(PatchWindow, IsWaitedForAndWorkedByTheKeyboardAlone) {
@@ -62,7 +50,7 @@ TEST_F(PatchWindow, IsWaitedForAndWorkedByTheKeyboardAlone) {
 
 TEST_F(PatchWindow, EscapeStopsARunAndThenCloses) {
   list("Windows-SOST=manca");
-  open();
+  open(form);
   form.DirWindowsPatch = folder.path("copia-");
   QString duringRun;
   QTimer::singleShot(50, window, [&] {
@@ -114,7 +102,7 @@ TEST_F(PatchWindow, NothingIsCutWhateverTheListSaysAndHoweverLargeTheFont) {
 
 TEST_F(PatchWindow, HasNamesForReadersOfTheScreen) {
   list("Top-LBL=Patch del 10-12-2003");
-  open();
+  open(form);
   EXPECT_EQ(view<QLabel>("lblTop")->text(), "Patch del 10-12-2003");
   EXPECT_EQ(view("cmd")->accessibleName(), "Aggiorna");
   EXPECT_EQ(view("cmdEsci")->accessibleName(), "ESCI");
