@@ -11,6 +11,7 @@
 #include "controls/form.h"
 #include "qt/boxes.h"
 #include "qt/main_window.h"
+#include "qt/patch_window.h"
 #include "qt/text.h"
 
 namespace qt {
@@ -18,6 +19,7 @@ namespace {
 
 FormWindow* makeWindow(controls::Form& form) {
   if (form.name() == "frmAggMain") return new MainWindow(form);
+  if (form.name() == "frmPatch") return new PatchWindow(form);
   return new StackedWindow(form);
 }
 

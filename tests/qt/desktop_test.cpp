@@ -172,7 +172,7 @@ TEST_F(WindowTest, ClicksArriveWhileARunLetsEventsThrough) {
 
 TEST_F(WindowTest, AModalFormIsWaitedForAndLaidOutWithoutALayoutOfItsOwn) {
   open();
-  Form patch("frmPatch", "Patch");
+  Form patch("frmAltra", "Patch");
   Label top("lblTop", "In corso");
   TextBox report("txt");
   report.setMultiLine(true);

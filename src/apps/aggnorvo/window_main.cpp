@@ -4,8 +4,19 @@
 #include "apps/aggnorvo/options.h"
 #include "apps/command_line.h"
 #include "console/frmAggMain.h"
+#include "patcher/frmPatch.h"
 #include "platform/program.h"
 #include "qt/qt_desktop.h"
+
+namespace {
+
+void showPatch(const std::string& folder) {
+  patcher::frmPatch window;
+  window.Path(folder);
+  window.show(true);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   platform::keepRunningOnWriteSignals();
@@ -22,7 +33,9 @@ int main(int argc, char** argv) {
   const console::ProgramScope scopeOfProgram(program);
   qt::QtDesktop desktop;
   controls::DesktopScope scope(desktop);
-  console::frmAggMain window({scopeOfProgram.settings(), scopeOfProgram.folder()});
+  console::frmAggMain window({.impostazioni = scopeOfProgram.settings(),
+                              .cartella = scopeOfProgram.folder(),
+                              .mostraPatch = showPatch});
   window.show();
   return desktop.run();
 }

@@ -7,9 +7,7 @@
 
 namespace platform {
 
-namespace {
-
-std::string executable() {
+std::string executablePath() {
   static const std::string path = [] {
     std::wstring name(32768, L'\0');
     name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
@@ -18,8 +16,10 @@ std::string executable() {
   return path;
 }
 
+namespace {
+
 /// Asked for before main, while the program still has the name it was started under.
-[[maybe_unused]] const std::string atStart = executable();
+[[maybe_unused]] const std::string atStart = executablePath();
 
 }  // namespace
 
@@ -44,11 +44,11 @@ std::string userStateFolder() {
 }
 
 std::string executableFolder() {
-  return folderOf(executable());
+  return folderOf(executablePath());
 }
 
 std::string executableName() {
-  const std::string name = executable().substr(executable().rfind('\\') + 1);
+  const std::string name = executablePath().substr(executablePath().rfind('\\') + 1);
   return name.substr(0, name.rfind('.'));
 }
 
