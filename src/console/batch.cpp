@@ -8,6 +8,7 @@
 #include "console/frmAggMain.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "schema/piano.h"
 
 namespace console {
 namespace {
@@ -88,6 +89,45 @@ bool isAsItWas(const Corsa& run) {
   }
 }
 
+/// Copies what the summary grows by to `out`, with the line ends of a stream.
+void streamSummary(controls::TextBox& summary, std::ostream& out) {
+  summary.appended.connect([&out](std::string_view text) {
+    for (const char letter : text)
+      if (letter != '\r') out << letter;
+    out.flush();
+  });
+}
+
+int update(frmAggMain& form, std::ostream& out, std::ostream& err) {
+  streamSummary(form.txtRiepilogo, out);
+  try {
+    form.cmdAggiorna_Click();
+  } catch (const std::exception& failure) {
+    err << "Errore imprevisto: " << failure.what() << std::endl;
+    return form.UltimaCorsa.databaseAperto ? FailedChanged : FailedUnchanged;
+  }
+  const std::string& summary = form.txtRiepilogo.text();
+  if (!summary.empty() && summary.back() != '\n') out << std::endl;
+  explainRefusal(form.UltimaCorsa, err);
+  return exitStatus(form.UltimaCorsa);
+}
+
+int showPlan(frmAggMain& form, std::ostream& out, std::ostream& err) {
+  schema::Piano plan;
+  try {
+    form.PrevediAggiornamento(plan);
+  } catch (const runtime::Error& error) {
+    err << "Errore: " << error.number() << '\n' << error.description() << std::endl;
+    return FailedUnchanged;
+  }
+  for (const std::string& change : plan.modifiche) out << change << '\n';
+  out.flush();
+  for (const std::string& line : plan.errori) err << line << std::endl;
+  explainRefusal(form.UltimaCorsa, err);
+  const int status = exitStatus(form.UltimaCorsa);
+  return status == Done && !plan.modifiche.empty() ? WouldChange : status;
+}
+
 }  // namespace
 
 int exitStatus(const Corsa& run) {
@@ -104,17 +144,7 @@ int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) 
     err << refusal << std::endl;
     return Refused;
   }
-  controls::streamText(form.txtRiepilogo, out);
-  try {
-    form.cmdAggiorna_Click();
-  } catch (const std::exception& failure) {
-    err << "Errore imprevisto: " << failure.what() << std::endl;
-    return form.UltimaCorsa.databaseAperto ? FailedChanged : FailedUnchanged;
-  }
-  const std::string& summary = form.txtRiepilogo.text();
-  if (!summary.empty() && summary.back() != '\n') out << std::endl;
-  explainRefusal(form.UltimaCorsa, err);
-  return exitStatus(form.UltimaCorsa);
+  return options.plan ? showPlan(form, out, err) : update(form, out, err);
 }
 
 int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err) {
