@@ -4,7 +4,11 @@
 
 #include "jet/dao/database.h"
 
-/// The texts and the database that the whole suite sees.
+namespace platform {
+class Settings;
+}
+
+/// What the whole suite sees: texts, the open database, where the program lies and its settings.
 namespace common {
 
 /// The application chosen for the next run, as table Norvi writes it.
@@ -13,5 +17,9 @@ inline std::string NomeApplicazione;
 inline std::string ApplicazioneCorrente;
 /// The database that a run has open; nothing outside a run.
 inline jet::dao::DatabasePtr DatabaseAperto;
+/// The directory of the executable, or what stands for it, without a closing backslash; each program sets it.
+inline std::string DirProgramma;
+/// The per-user settings in force, which each program opens and keeps.
+inline const platform::Settings* Impostazioni = nullptr;
 
 }  // namespace common

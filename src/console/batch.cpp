@@ -10,6 +10,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/settings.h"
+#include "schema/piano.h"
 
 namespace console {
 namespace {
@@ -99,6 +100,36 @@ void streamSummary(controls::TextBox& summary, std::ostream& out) {
   });
 }
 
+int update(frmAggMain& form, std::ostream& out, std::ostream& err) {
+  streamSummary(form.txtRiepilogo, out);
+  try {
+    form.cmdAggiorna_Click();
+  } catch (const std::exception& failure) {
+    err << "Errore imprevisto: " << failure.what() << std::endl;
+    return form.UltimaCorsa.databaseAperto ? FailedChanged : FailedUnchanged;
+  }
+  const std::string& summary = form.txtRiepilogo.text();
+  if (!summary.empty() && summary.back() != '\n') out << std::endl;
+  explainRefusal(form.UltimaCorsa, err);
+  return exitStatus(form.UltimaCorsa);
+}
+
+int showPlan(frmAggMain& form, std::ostream& out, std::ostream& err) {
+  schema::Piano plan;
+  try {
+    form.PrevediAggiornamento(plan);
+  } catch (const runtime::Error& error) {
+    err << "Errore: " << error.number() << '\n' << error.description() << std::endl;
+    return FailedUnchanged;
+  }
+  for (const std::string& change : plan.modifiche) out << change << '\n';
+  out.flush();
+  for (const std::string& line : plan.errori) err << line << std::endl;
+  explainRefusal(form.UltimaCorsa, err);
+  const int status = exitStatus(form.UltimaCorsa);
+  return status == Done && !plan.modifiche.empty() ? WouldChange : status;
+}
+
 }  // namespace
 
 int exitStatus(const Corsa& run) {
@@ -115,17 +146,7 @@ int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) 
     err << refusal << std::endl;
     return Refused;
   }
-  streamSummary(form.txtRiepilogo, out);
-  try {
-    form.cmdAggiorna_Click();
-  } catch (const std::exception& failure) {
-    err << "Errore imprevisto: " << failure.what() << std::endl;
-    return form.UltimaCorsa.databaseAperto ? FailedChanged : FailedUnchanged;
-  }
-  const std::string& summary = form.txtRiepilogo.text();
-  if (!summary.empty() && summary.back() != '\n') out << std::endl;
-  explainRefusal(form.UltimaCorsa, err);
-  return exitStatus(form.UltimaCorsa);
+  return options.plan ? showPlan(form, out, err) : update(form, out, err);
 }
 
 int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err) {

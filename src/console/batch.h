@@ -17,6 +17,7 @@ enum ExitStatus : int {
   Done = 0,
   FailedUnchanged = 1,  // the target is as it was
   Refused = 2,          // before it began; nothing written
+  WouldChange = 3,      // of a plan alone
   FailedChanged = 4,    // the target is not as it was, or nobody can tell
   WrongUsage = 64,
 };
@@ -25,6 +26,7 @@ struct BatchOptions : ProgramOptions {
   std::optional<std::string> app;       // a name of table Norvi, without regard to case
   std::optional<std::string> database;  // as the system writes it
   controls::BatchDesktop::Answer answer = controls::BatchDesktop::Answer::Default;
+  bool plan = false;  // only shows what would change
 };
 
 /// The exit status that a run earns: after any failure the target is compared with the backup, byte by byte.
@@ -32,7 +34,8 @@ int exitStatus(const Corsa& run);
 
 /// Updates the database of `app`, or `database`, or the application that the patch was built for. The summary
 /// goes to `out` as it grows, with LF line ends; boxes, questions and refusals to `err`. Returns an
-/// ExitStatus.
+/// ExitStatus. A plan writes one line a change to `out` and nothing else anywhere: WouldChange, or Done if
+/// nothing would change.
 int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);
 
 /// Writes the applications that the window would list, one a line: name, TAB, path as the system writes it.

@@ -1,5 +1,7 @@
 #include "console/corsa.h"
 
+#include <algorithm>
+
 #include "console/frmAggMain.h"
 
 namespace console {
@@ -11,7 +13,9 @@ Corsa::Corsa(const std::string& percorso, const std::string& ora) : database(per
 }
 
 bool diDisegno(int numero) {
-  return numero == 3078 || numero == 3061 || numero == 3464;
+  // The engine numbers what it can't make of a statement from 3061 to 3146.
+  constexpr std::array altri = {3010, 3012, 3265, 3346, 3464};
+  return (numero >= 3061 && numero <= 3146) || std::ranges::find(altri, numero) != altri.end();
 }
 
 }  // namespace console

@@ -23,9 +23,10 @@ enum class Esito {
 inline constexpr std::array<const char*, 6> TabelleControllo = {"ragioniere",    "praticante", "associati",
                                                                 "simpatizzante", "enti",       "gruppi"};
 
-/// True for the errors by which a database says that it is made otherwise than expected: a table (3078) or a
-/// field (3061) that it doesn't have, a field of another type (3464). A run goes on from them; any other
-/// error in the same place is a fault of the file or its disk.
+/// True for the errors by which a database says that it is made otherwise than the statement at hand expects:
+/// a table or a field that it doesn't have, a name that is taken, a text that can't be understood, a field of
+/// another type. A run goes on from them; any other error in the same place is a fault of the file or its
+/// disk.
 bool diDisegno(int numero);
 
 /// One run of the update: the paths and values that belong to it alone, and how it ended.

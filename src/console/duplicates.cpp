@@ -53,7 +53,7 @@ void frmAggMain::EliminaComuniDuplicati(bool& esito) {
     gruppi->Close();
     esito = true;
   } catch (const runtime::Error& errore) {
-    if (!diDisegno(errore.number())) UltimaCorsa.erroreTrattenuto = true;
+    trattieni(errore.number());
     ScriviRiepilogo("- errore " + std::to_string(errore.number()) + "-", true);
     ScriviRiepilogo(std::string(errore.description()), true);
   }

@@ -20,6 +20,11 @@ namespace platform {
 class Settings;
 }
 
+namespace schema {
+struct Ambiente;
+struct Piano;
+}  // namespace schema
+
 namespace console {
 
 class PendingError;
@@ -106,6 +111,9 @@ class frmAggMain : public controls::Form {
   /// nothing while a run lasts: events are let through during it, and a second click must not reach a
   /// half-updated file.
   void EseguiAggiornamento();
+  /// Tells what the phases over the target's structure and contents would change, and writes nothing
+  /// anywhere; UltimaCorsa tells whether it got that far. Throws the error that would end the run there.
+  void PrevediAggiornamento(schema::Piano& piano);
   void LeggiDatabaseScelto();
   void ChiediApplicazione(std::string& nome);
   /// Sets `annulla` if the database is open elsewhere and the operator gave up.
@@ -145,12 +153,18 @@ class frmAggMain : public controls::Form {
   void scegliDatabase(const std::string& percorso);
 
   void esegui(Corsa& corsa);
+  Corsa nuovaCorsa();         // with SenzaNome where nothing forbids to go on
+  bool applicazioneScelta();  // asks for it where the database was picked by hand
   bool aggiornamentoVietato() const;
   void copiaDiSicurezza(const Corsa& corsa);
   std::string parametro(const std::string& nome);  // of the target; empty where it is no text
   bool transazioneRichiesta();
   void rinominaCampi();
   void contaTabelle(Corsa& corsa);
+  schema::Ambiente ambienteDellaCorsa();
+  void aggiungiQuery(const schema::Ambiente& ambiente);
+  void aggiornaTabelle(const schema::Ambiente& ambiente);
+  void trattieni(int numero);  // an error that was passed over
   void chiudiDestinazione();
   void annullaAggiornamento(Corsa& corsa, const runtime::Error& errore);
   void compattaEControlla(Corsa& corsa);

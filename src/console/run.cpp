@@ -12,6 +12,7 @@
 #include "platform/files.h"
 #include "runtime/format.h"
 #include "runtime/numbers.h"
+#include "schema/fasi.h"
 
 namespace console {
 
@@ -23,22 +24,11 @@ void frmAggMain::EseguiAggiornamento() {
 
 void frmAggMain::esegui(Corsa& corsa) {
   txtRiepilogo.setText("");
-  LeggiDatabaseScelto();
-  corsa = Corsa(PercorsoDatabase, runtime::format(platform::clock().now(), "yyyymmddhhnnss"));
-  if (PercorsoDatabase.empty() || !common::EsisteFile(PercorsoDatabase)) return;
-  if (!PathImpostato && aggiornamentoVietato()) {
-    corsa.esito = Esito::Vietata;
-    controls::desktop().endProgram();
-    return;
-  }
+  corsa = nuovaCorsa();
+  if (corsa.esito == Esito::Vietata) controls::desktop().endProgram();
+  if (corsa.esito != Esito::SenzaNome) return;
   try {
-    corsa.esito = Esito::SenzaNome;
-    if (common::NomeApplicazione.empty() && !txtAltroDB.text().empty()) {
-      std::string nome;
-      ChiediApplicazione(nome);
-      if (nome.empty()) return;
-    }
-    common::ApplicazioneCorrente = common::NomeApplicazione;
+    if (!applicazioneScelta()) return;
     controls::desktop().doEvents();
     corsa.esito = Esito::ApertoAltrove;
     bool annulla = false;
@@ -57,7 +47,13 @@ void frmAggMain::esegui(Corsa& corsa) {
     if (corsa.usaTransazione) Ws->BeginTrans();
     rinominaCampi();
     contaTabelle(corsa);
-    // Whatever changes the target's structure and data stands between this count and the close.
+    const schema::Ambiente ambiente = ambienteDellaCorsa();
+    schema::CreaEModificaCampi(ambiente);
+    schema::EliminaCampi(ambiente);
+    schema::AggiornaIndici(ambiente);
+    schema::AggiornaRelazioni(ambiente);
+    aggiungiQuery(ambiente);
+    aggiornaTabelle(ambiente);
     chiudiDestinazione();
     // The commit saves the closed database.
     if (corsa.usaTransazione) Ws->CommitTrans(0);
@@ -66,6 +62,24 @@ void frmAggMain::esegui(Corsa& corsa) {
     return;
   }
   compattaEControlla(corsa);
+}
+
+Corsa frmAggMain::nuovaCorsa() {
+  LeggiDatabaseScelto();
+  Corsa corsa(PercorsoDatabase, runtime::format(platform::clock().now(), "yyyymmddhhnnss"));
+  if (!PercorsoDatabase.empty() && common::EsisteFile(PercorsoDatabase))
+    corsa.esito = !PathImpostato && aggiornamentoVietato() ? Esito::Vietata : Esito::SenzaNome;
+  return corsa;
+}
+
+bool frmAggMain::applicazioneScelta() {
+  if (common::NomeApplicazione.empty() && !txtAltroDB.text().empty()) {
+    std::string nome;
+    ChiediApplicazione(nome);
+    if (nome.empty()) return false;
+  }
+  common::ApplicazioneCorrente = common::NomeApplicazione;
+  return true;
 }
 
 bool frmAggMain::aggiornamentoVietato() const {
@@ -89,16 +103,14 @@ void frmAggMain::copiaDiSicurezza(const Corsa& corsa) {
 }
 
 std::string frmAggMain::parametro(const std::string& nome) {
-  const runtime::Variant valore = parameters::LeggiKepGenerali(*DbDestinazione, nome);
-  if (valore.kind() == runtime::Variant::Kind::Long && !diDisegno(valore.toLong()))
-    UltimaCorsa.erroreTrattenuto = true;
+  const runtime::Variant valore = schema::parametro(ambienteDellaCorsa(), nome);
   return valore.isText() ? valore.toText() : std::string();
 }
 
 bool frmAggMain::transazioneRichiesta() {
   const runtime::Variant esiste = parameters::EsisteInKepGenerali(*DbDestinazione, "UsaTransazione");
   if (esiste.kind() != runtime::Variant::Kind::Boolean) {
-    UltimaCorsa.erroreTrattenuto = !diDisegno(esiste.toLong());
+    trattieni(esiste.toLong());
     return true;
   }
   return !esiste.toBoolean() || parametro("UsaTransazione") != "0";
@@ -126,6 +138,33 @@ void frmAggMain::contaTabelle(Corsa& corsa) {
       ScriviRiepilogo(
           "Errore nel calcolo records della tabella " + std::string(TabelleControllo[tabella]) + "!", true);
   }
+}
+
+void frmAggMain::trattieni(int numero) {
+  if (!diDisegno(numero)) UltimaCorsa.erroreTrattenuto = true;
+}
+
+schema::Ambiente frmAggMain::ambienteDellaCorsa() {
+  return {DbRiferimento, DbDestinazione, PercorsoRiferimento,
+          [this](const std::string& testo, schema::Voce voce) {
+            ScriviRiepilogo(std::string(testo), voce != schema::Voce::Seguito);
+          },
+          [this](int numero) { trattieni(numero); }};
+}
+
+void frmAggMain::aggiungiQuery(const schema::Ambiente& ambiente) {
+  ScriviRiepilogo("", true);
+  ScriviRiepilogo("Aggiungo le query...", true);
+  schema::AggiungiQuery(ambiente);
+  ScriviRiepilogo("fatto!", false);
+}
+
+void frmAggMain::aggiornaTabelle(const schema::Ambiente& ambiente) {
+  ScriviRiepilogo("", true);
+  ScriviRiepilogo("Aggiornamento tabelle...", true);
+  schema::SostituisciTabelleADD(ambiente);
+  schema::AggiungiTabelleINS(ambiente);
+  ScriviRiepilogo("Aggiornamento tabelle terminato!", true);
 }
 
 void frmAggMain::chiudiDestinazione() {

@@ -10,6 +10,9 @@ namespace controls {
 class CommonDialog;
 class Form;
 
+/// Leaves the procedures under way behind Desktop::endProgram. No trap of theirs catches it: it is no error.
+struct ProgramEnded {};
+
 /// What the windows ask of the world around them: boxes, the file dialog, the event pump, the mouse pointer.
 class Desktop {
  public:

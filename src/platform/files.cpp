@@ -32,6 +32,12 @@ void writeWholeFile(const std::string& path, std::string_view content) {
   file.flush();
 }
 
+void appendToFile(const std::string& path, std::string_view content) {
+  File file = openFile(path, inspectFile(path) ? OpenMode::Update : OpenMode::Create);
+  file.writeAt(file.size(), bytesOf(content));
+  file.flush();
+}
+
 bool sameContent(const std::string& a, const std::string& b) {
   const File first = openFile(a, OpenMode::Read), second = openFile(b, OpenMode::Read);
   std::vector<std::byte> left(blockSize), right(blockSize);

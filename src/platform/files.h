@@ -43,6 +43,8 @@ bool fileExists(const std::string& path);
 std::string readWholeFile(const std::string& path);
 /// Overwrites or makes the file with these bytes and flushes it.
 void writeWholeFile(const std::string& path, std::string_view content);
+/// Adds these bytes at the end of the file, made if there is none, and flushes it.
+void appendToFile(const std::string& path, std::string_view content);
 /// True if both hold the same bytes.
 bool sameContent(const std::string& a, const std::string& b);
 

@@ -10,6 +10,8 @@ void guarded(const std::function<void()>& action) {
   try {
     action();
     return;
+  } catch (const controls::ProgramEnded&) {
+    return;  // the event loop ends next
   } catch (const runtime::Error& error) {
     text = "Errore di esecuzione " + std::to_string(error.number()) + ":\r\n" + error.description();
   } catch (const std::exception& error) {

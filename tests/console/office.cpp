@@ -33,6 +33,26 @@ void makeDatabase(const std::string& path, const std::vector<std::string>& state
   db->Close();
 }
 
+std::vector<std::string> reference() {
+  return {
+      "CREATE TABLE Norvi (norvo TEXT(30))",
+      "INSERT INTO Norvi VALUES ('collgeometri')",
+      "INSERT INTO Norvi VALUES ('ordmedici')",
+      "INSERT INTO Norvi VALUES ('PROTOCOLLO')",
+      "CREATE TABLE CampiTabella (Norvo TEXT(30), Tabella TEXT(64), Campo TEXT(64), Tipo INTEGER, Dimensione "
+      "LONG, Attributi LONG, Required YESNO, AllowZeroLength YESNO, DefaultValue TEXT(255), OrdinalPosition "
+      "INTEGER, UpdateDefaultValue YESNO)",
+      "CREATE TABLE CampiDaEliminare (Norvo TEXT(30), Tabella TEXT(64), Campo TEXT(64))",
+      "CREATE TABLE Indici (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), [Primary] YESNO, [Unique] YESNO, "
+      "IgnoreNulls YESNO)",
+      "CREATE TABLE CampiIndice (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), Campo TEXT(64), Attributi "
+      "LONG)",
+      "CREATE TABLE Relazioni (Norvo TEXT(30), Relazione TEXT(64), [Table] TEXT(64), ForeignTable TEXT(64), "
+      "Attributi LONG)",
+      "CREATE TABLE CampiRelazione (Norvo TEXT(30), Relazione TEXT(64), Campo TEXT(64), ForeignName TEXT(64))",
+  };
+}
+
 std::vector<std::string> oldInstallation() {
   return {
       "CREATE TABLE KepGenerali (Nome TEXT(50), Valore TEXT(255), [Note] TEXT(255))",
@@ -94,9 +114,7 @@ Office::Office(const std::string& dataFolder)
       settings(folder.path("impostazioni.ini")) {
   std::filesystem::create_directories(platform::toSystemPath(program));
   std::filesystem::create_directories(platform::toSystemPath(data));
-  makeDatabase(program + "\\AggNorvo.mdb",
-               {"CREATE TABLE Norvi (norvo TEXT(30))", "INSERT INTO Norvi VALUES ('collgeometri')",
-                "INSERT INTO Norvi VALUES ('ordmedici')", "INSERT INTO Norvi VALUES ('PROTOCOLLO')"});
+  makeDatabase(program + "\\AggNorvo.mdb", reference());
   makeTarget(oldInstallation());
   writeSettings(registered("collgeometri", target));
 }

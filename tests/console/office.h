@@ -30,6 +30,8 @@ class FixedClock : public platform::Clock {
 
 /// Makes a database by running `statements` in a new file.
 void makeDatabase(const std::string& path, const std::vector<std::string>& statements);
+/// Statements of a reference database: three applications, an empty catalogue.
+std::vector<std::string> reference();
 /// Statements of an old installation: parameters, the six control tables, a member with accents, a long field
 /// name.
 std::vector<std::string> oldInstallation();

@@ -29,6 +29,12 @@ class Batch : public Command {
         ->type_name("FILE")
         ->group(group)
         ->needs(chosen);
+    app.add_flag(
+           "--plan", options_.plan,
+           "Mostra soltanto che cosa cambierebbe in tabelle, campi, indici, relazioni, query e tabelle di "
+           "riferimento, una riga per modifica; non scrive nulla")
+        ->group(group)
+        ->needs(chosen);
     app.add_option_function<std::string>(
            "--answer", [this](const std::string& word) { options_.answer = answers.at(word); },
            "Risposta alle domande: yes, no o cancel; senza, il pulsante predefinito di ognuna")

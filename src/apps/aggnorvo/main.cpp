@@ -14,9 +14,9 @@ const char* const description =
     "Aggiorna il database di un'applicazione della suite Norvo. Senza comandi apre la finestra.\n";
 
 const char* const notes =
-    "\nStato di uscita: 0 aggiornamento terminato; 1 non riuscito, il database è com'era; 2 rifiutato prima "
-    "di\n"
-    "cominciare, nulla è stato scritto; 4 non riuscito, il database non è com'era; 64 uso errato.";
+    "\nStato di uscita: 0 aggiornamento terminato, o con --plan nulla da cambiare; 1 non riuscito, il\n"
+    "database è com'era; 2 rifiutato prima di cominciare, nulla è stato scritto; 3 con --plan, qualcosa\n"
+    "cambierebbe; 4 non riuscito, il database non è com'era; 64 uso errato.";
 
 /// Adds the commands, one at a time to be chosen, and returns the options that choose them.
 std::vector<CLI::Option*> addCommands(CLI::App& app,

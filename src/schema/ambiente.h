@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "jet/dao/database.h"
+#include "runtime/variant.h"
+
+namespace schema {
+
+/// What a text of the summary tells.
+enum class Voce {
+  Modifica,  // on a new line: a change begins
+  Seguito,   // on the same line: how it went
+  Termine,   // on a new line: a change told before has ended
+  Errore,    // on a new line: of an error that the run passes over
+};
+
+/// What a run gives to the phases: its two databases, its summary and its memory for errors.
+struct Ambiente {
+  jet::dao::DatabasePtr riferimento;
+  jet::dao::DatabasePtr destinazione;
+  std::string percorsoRiferimento;  // with backslashes
+  std::function<void(const std::string& testo, Voce voce)> scrivi;
+  std::function<void(int numero)> trattieni;  // an error that a phase has passed over
+};
+
+/// The target's parameter as stored; Empty if there is none, the Long of an error, which is held back.
+runtime::Variant parametro(const Ambiente& ambiente, const std::string& nome);
+
+/// True for the tables of the web pages in a database that has none: that of the applications without members
+/// and one whose parameter DataWeb isn't above 0.
+bool tabellaWebEsclusa(const Ambiente& ambiente, const std::string& tabella);
+
+}  // namespace schema

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "jet/dao/database.h"
+
+namespace schema {
+
+/// A field for `tabella` as a row of CampiTabella describes it, not appended yet.
+jet::dao::Field nuovoCampo(jet::dao::TableDef& tabella, jet::dao::Recordset& riga);
+
+/// Puts a field as `riga` describes it in the place of the one that has its name, with its data, and the
+/// indexes and relations over it back. Throws the engine's errors, such as that of a value that doesn't
+/// convert.
+void ricostruisciCampo(jet::dao::Database& db, jet::dao::TableDef& tabella, jet::dao::Recordset& riga);
+
+/// True if a pair of the relation, which must be one of `tabella`, has the field's name on either side.
+bool riguarda(jet::dao::Relation& relazione, const std::string& tabella, const std::string& campo);
+/// True if the field is part of the index.
+bool riguarda(jet::dao::Index& indice, const std::string& campo);
+
+}  // namespace schema
