@@ -202,30 +202,31 @@ CREATE TABLE simpatizzante (
   ds_cognome TEXT(50) NOT NULL,
   ds_nome TEXT(50),
   ds_qualifica TEXT(60),
-  ds_citta TEXT(60));
+  ds_citta TEXT(60),
+  cd_classe TEXT(1));
 
-INSERT INTO simpatizzante VALUES (1, 'Serra', 'Vincenzo', 'Consulente del lavoro', 'Bologna');
-INSERT INTO simpatizzante VALUES (2, 'D''Amico', 'Cristina', 'Giornalista', 'Crotone');
-INSERT INTO simpatizzante VALUES (3, 'Piras', 'Simone', 'Docente universitario', 'Oristano');
-INSERT INTO simpatizzante VALUES (4, 'Serra', 'Enrico', 'Avvocato', 'Avellino');
-INSERT INTO simpatizzante VALUES (5, 'Giordano', 'Sergio', 'Giornalista', 'Benevento');
-INSERT INTO simpatizzante VALUES (6, 'Rossi', 'Stefano', 'Giornalista', 'Savona');
-INSERT INTO simpatizzante VALUES (7, 'Vitali', 'Marta', 'Revisore', 'Cesena');
-INSERT INTO simpatizzante VALUES (8, 'Rizzi', 'Emanuele', 'Consulente del lavoro', 'Rimini');
-INSERT INTO simpatizzante VALUES (9, 'Lombardo', 'Barbara', 'Avvocato', 'Frosinone');
-INSERT INTO simpatizzante VALUES (10, 'Dell''Orto', 'Emanuele', 'Revisore', 'Ravenna');
-INSERT INTO simpatizzante VALUES (11, 'Rossi', 'Roberto', 'Notaio', 'Reggio di Calabria');
-INSERT INTO simpatizzante VALUES (12, 'Martinelli', 'Antonio', 'Consulente del lavoro', 'Teramo');
-INSERT INTO simpatizzante VALUES (13, 'Vitali', 'Matteo', 'Avvocato', 'Macerata');
-INSERT INTO simpatizzante VALUES (14, 'Rinaldi', 'Valentina', 'Revisore', 'Forlì');
-INSERT INTO simpatizzante VALUES (15, 'Fabbri', 'Simona', 'Giornalista', 'Pordenone');
-INSERT INTO simpatizzante VALUES (16, 'Ricci', 'Irene', 'Revisore', 'Riccione');
-INSERT INTO simpatizzante VALUES (17, 'Lombardo', 'Francesca', 'Notaio', 'Rho');
-INSERT INTO simpatizzante VALUES (18, 'Zoli', 'Niccolò', 'Giornalista', 'Trento');
-INSERT INTO simpatizzante VALUES (19, 'Battaglia', 'Michela', 'Giornalista', 'Nuoro');
-INSERT INTO simpatizzante VALUES (20, 'Monti', 'Sergio', 'Notaio', 'Salerno');
-INSERT INTO simpatizzante VALUES (21, 'Coppola', 'Elisa', 'Consulente del lavoro', 'Asti');
-INSERT INTO simpatizzante VALUES (22, 'Romano', 'Monica', 'Consulente del lavoro', 'Pistoia');
+INSERT INTO simpatizzante VALUES (1, 'Serra', 'Vincenzo', 'Consulente del lavoro', 'Bologna', 'S');
+INSERT INTO simpatizzante VALUES (2, 'D''Amico', 'Cristina', 'Giornalista', 'Crotone', 'S');
+INSERT INTO simpatizzante VALUES (3, 'Piras', 'Simone', 'Docente universitario', 'Oristano', 'S');
+INSERT INTO simpatizzante VALUES (4, 'Serra', 'Enrico', 'Avvocato', 'Avellino', 'S');
+INSERT INTO simpatizzante VALUES (5, 'Giordano', 'Sergio', 'Giornalista', 'Benevento', 'S');
+INSERT INTO simpatizzante VALUES (6, 'Rossi', 'Stefano', 'Giornalista', 'Savona', 'S');
+INSERT INTO simpatizzante VALUES (7, 'Vitali', 'Marta', 'Revisore', 'Cesena', 'S');
+INSERT INTO simpatizzante VALUES (8, 'Rizzi', 'Emanuele', 'Consulente del lavoro', 'Rimini', 'S');
+INSERT INTO simpatizzante VALUES (9, 'Lombardo', 'Barbara', 'Avvocato', 'Frosinone', 'S');
+INSERT INTO simpatizzante VALUES (10, 'Dell''Orto', 'Emanuele', 'Revisore', 'Ravenna', 'S');
+INSERT INTO simpatizzante VALUES (11, 'Rossi', 'Roberto', 'Notaio', 'Reggio di Calabria', 'S');
+INSERT INTO simpatizzante VALUES (12, 'Martinelli', 'Antonio', 'Consulente del lavoro', 'Teramo', 'S');
+INSERT INTO simpatizzante VALUES (13, 'Vitali', 'Matteo', 'Avvocato', 'Macerata', 'S');
+INSERT INTO simpatizzante VALUES (14, 'Rinaldi', 'Valentina', 'Revisore', 'Forlì', 'S');
+INSERT INTO simpatizzante VALUES (15, 'Fabbri', 'Simona', 'Giornalista', 'Pordenone', 'S');
+INSERT INTO simpatizzante VALUES (16, 'Ricci', 'Irene', 'Revisore', 'Riccione', 'S');
+INSERT INTO simpatizzante VALUES (17, 'Lombardo', 'Francesca', 'Notaio', 'Rho', 'S');
+INSERT INTO simpatizzante VALUES (18, 'Zoli', 'Niccolò', 'Giornalista', 'Trento', 'S');
+INSERT INTO simpatizzante VALUES (19, 'Battaglia', 'Michela', 'Giornalista', 'Nuoro', 'S');
+INSERT INTO simpatizzante VALUES (20, 'Monti', 'Sergio', 'Notaio', 'Salerno', 'S');
+INSERT INTO simpatizzante VALUES (21, 'Coppola', 'Elisa', 'Consulente del lavoro', 'Asti', 'S');
+INSERT INTO simpatizzante VALUES (22, 'Romano', 'Monica', 'Consulente del lavoro', 'Pistoia', 'S');
 
 CREATE TABLE enti (
   cd_ente LONG CONSTRAINT PrimaryKey PRIMARY KEY,
