@@ -42,6 +42,24 @@ TEST(Design, ATableOfEveryTypeComesBackInThreeReaders) {
   EXPECT_EQ(office::exported(folder.path("compatto.mdb"), "Ogni"), theirs);
 }
 
+TEST(Design, ACompactCopyShowsItsFieldsInDisplayOrderToOtherReaders) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("ogni.mdb"), compact = folder.path("compatto.mdb");
+  office::make(path, EveryType);
+  {
+    Workspace workspace;
+    const auto db = workspace.OpenDatabase(path, true);
+    for (const char* last : {"si", "t", "m", "l"}) db->TableDefs("Ogni")->Fields(last).setOrdinalPosition(90);
+    db->Close();
+  }
+  DBEngine::CompactDatabase(path, compact);
+  EXPECT_EQ(office::complaints(compact), "");
+  EXPECT_EQ(office::exported(compact, "Ogni").substr(0, 36), "id,b,i,v,s,d,q,n,bin,o,g,si,l,t,m\n1,");
+  EXPECT_EQ(office::query(compact, "SELECT * FROM Ogni"), office::query(path, "SELECT * FROM Ogni"));
+  EXPECT_EQ(office::query(compact, "SELECT l, t FROM Ogni WHERE t = 'Niccolò D''Agostino'"),
+            "2147483647|Niccolò D'Agostino");
+}
+
 struct Refusal {
   const char* sql;
   int error;
