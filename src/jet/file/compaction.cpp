@@ -6,6 +6,7 @@
 #include "jet/file/database_writer.h"
 #include "jet/file/errors.h"
 #include "jet/file/global_map.h"
+#include "jet/file/index_numbers.h"
 #include "jet/file/page_use.h"
 #include "jet/file/table_writer.h"
 
@@ -111,7 +112,8 @@ void writeCompacted(const PageFile& source, platform::File& file) {
   PageOutput out(file);
   PageSpace space;
   const TakePage take = [&space] { return space.take(); };
-  const std::vector<TableDefinition> tables = readTables(source);
+  std::vector<TableDefinition> tables = readTables(source);
+  renumberIndexes(tables);
   space.use(0);
   space.use(GlobalMap.page);
   for (const TableDefinition& table : tables) space.use(table.page);
