@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "jet/dao/database.h"
@@ -14,5 +16,11 @@ runtime::Variant EsisteInKepGenerali(jet::dao::Database& db, const std::string& 
 
 /// The Valore of the row as stored, also Null; Empty if there is no row; or the Long of an error.
 runtime::Variant LeggiKepGenerali(jet::dao::Database& db, const std::string& nome);
+
+/// Writes the row of `nome`, made if there is none; without `note` that of a row stays. 0, or the number of
+/// an error, and then nothing is written.
+std::int32_t ScriviKepGenerali(jet::dao::Database& db, const std::string& nome,
+                               const runtime::Variant& valore,
+                               const std::optional<runtime::Variant>& note = {});
 
 }  // namespace parameters

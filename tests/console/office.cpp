@@ -43,13 +43,16 @@ std::vector<std::string> reference() {
       "LONG, Attributi LONG, Required YESNO, AllowZeroLength YESNO, DefaultValue TEXT(255), OrdinalPosition "
       "INTEGER, UpdateDefaultValue YESNO)",
       "CREATE TABLE CampiDaEliminare (Norvo TEXT(30), Tabella TEXT(64), Campo TEXT(64))",
-      "CREATE TABLE Indici (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), [Primary] YESNO, [Unique] YESNO, "
+      "CREATE TABLE Indici (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), [Primary] YESNO, [Unique] "
+      "YESNO, "
       "IgnoreNulls YESNO)",
-      "CREATE TABLE CampiIndice (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), Campo TEXT(64), Attributi "
+      "CREATE TABLE CampiIndice (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), Campo TEXT(64), "
+      "Attributi "
       "LONG)",
       "CREATE TABLE Relazioni (Norvo TEXT(30), Relazione TEXT(64), [Table] TEXT(64), ForeignTable TEXT(64), "
       "Attributi LONG)",
-      "CREATE TABLE CampiRelazione (Norvo TEXT(30), Relazione TEXT(64), Campo TEXT(64), ForeignName TEXT(64))",
+      "CREATE TABLE CampiRelazione (Norvo TEXT(30), Relazione TEXT(64), Campo TEXT(64), ForeignName "
+      "TEXT(64))",
   };
 }
 

@@ -72,7 +72,8 @@ TEST(Run, ThatEndsNormallyLeavesTheUpdatedFileItsBackupAndItsSummary) {
       "\r\nCopia di sicurezza in corso...fatto."
       "\r\nTabella italia_comuni: eliminazione comuni duplicati ....fatto"
       "\r\nTabella ragioniere - campo ds_regione_certificatore_energetico in modifica"
-      "\r\nCompattazione del database " +
+      "\r\n\r\nAggiungo le query...fatto!\r\n\r\nAggiornamento tabelle..."
+      "\r\nAggiornamento tabelle terminato!\r\nCompattazione del database " +
       office.target +
       "...\r\nCompattazione eseguita.\r\n\r\nAggiornamento del database terminato,"
       "\r\npuoi uscire.\r\n";
@@ -141,11 +142,11 @@ const End Ends[] = {
      Esito::Fallita, 1, false, Target::Old,
      {"corso...\r\nErrore: 70\r\n", "\r\n\r\nIl database è aperto da un altro programma.\r\n\r\nAggiornamento"}, {}},
     {"commit without space", "collgeometri", {}, {DiskFault::NoSpace, Write, "\\studio.mdb.tmp"}, "", "",
-     Esito::Fallita, 1, false, Target::Old, {"in modifica\r\nErrore: ", "Aggiornamento annullato!"}, {}},
+     Esito::Fallita, 1, false, Target::Old, {"terminato!\r\nErrore: ", "Aggiornamento annullato!"}, {}},
     {"compacted file that can't be removed", "collgeometri", {}, {DiskFault::Io, Remove, "Newstudio"}, "", "",
      Esito::Completata, 4, true, Target::Renamed, {"puoi uscire."}, {}},
     {"compacted file in the way", "collgeometri", {}, {DiskFault::AccessDenied, Remove, "Newstudio"}, "", "file",
-     Esito::NonRimossa, 4, false, Target::Renamed, {"in modifica\r\nErrore: 75\r\n"}, {Interrupted}},
+     Esito::NonRimossa, 4, false, Target::Renamed, {"terminato!\r\nErrore: 75\r\n"}, {Interrupted}},
     {"leftover of an earlier compaction", "collgeometri", {}, {}, "", "file", Esito::Completata, 0, true,
      Target::Renamed, {"Compattazione eseguita."}, {}},
     {"compaction that can't write", "collgeometri", {}, {}, "", "folder", Esito::NonCompattata, 4, true,
@@ -332,7 +333,7 @@ TEST(Run, SurvivesADiskThatFillsUp) {
     const char* summary;
     bool old;
   } const cases[] = {{"backing up", "Backup", 1, "corso...\nErrore: 61", true},
-                     {"saving", "studio.mdb.tmp", 1, "in modifica\nErrore: ", true},
+                     {"saving", "studio.mdb.tmp", 1, "terminato!\nErrore: ", true},
                      {"compacting", "Newstudio.mdb", 4, "studio.mdb...\nErrore: ", false}};
   for (const auto& test : cases) {
     SCOPED_TRACE(test.name);
