@@ -78,6 +78,7 @@ TEST(Paths, FoldersAndTheSystemsForm) {
   EXPECT_EQ(fromSystemPath("/srv/db/"), "\\srv\\db");
   EXPECT_EQ(fromSystemPath("/"), "\\");
   EXPECT_EQ(toSystemPath(fromSystemPath("a.mdb")), std::filesystem::current_path().string() + "/a.mdb");
+  EXPECT_EQ(toSystemPath(fromSystemPath("")), std::filesystem::current_path().string());
   EXPECT_EQ(executableName(), "test_platform");
   EXPECT_TRUE(fileExists(executableFolder() + "\\" + executableName()));
 }

@@ -44,7 +44,7 @@ std::string toSystemPath(std::string_view path) {
 }
 
 std::string fromSystemPath(std::string_view path) {
-  std::string result = std::filesystem::absolute(path).lexically_normal().string();
+  std::string result = std::filesystem::absolute(path.empty() ? "." : path).lexically_normal().string();
   if (result.size() > 1 && result.back() == '/') result.pop_back();
   std::replace(result.begin(), result.end(), '/', '\\');
   return result;
