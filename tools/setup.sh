@@ -1,22 +1,23 @@
 # Sourced by ./run and ./check: installs what is missing, configures, builds. The caller stands in the repository.
 
-# Names of the packages in tools/packages.txt that this machine lacks, one a line.
+# missing_packages LIST...: names of the packages in these lists that this machine lacks, one a line.
 missing_packages() {
   local wanted
-  wanted=$(grep -v '^#' tools/packages.txt)
+  wanted=$(grep -hv '^#' "$@")
   # An unknown or removed package is simply not among the installed ones.
   comm -23 <(sort <<<"$wanted") \
     <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' $wanted 2>/dev/null |
       awk '$2 == "installed" { print $1 }' | sort)
 }
 
+# install_missing [LIST...]: installs what is missing of these lists of packages, or of tools/packages.txt.
 install_missing() {
   local missing
   command -v dpkg-query >/dev/null || {
     echo "Questo comando installa i pacchetti di Debian; altrove servono quelli di tools/packages.txt." >&2
     return 0
   }
-  missing=$(missing_packages)
+  missing=$(missing_packages "${@:-tools/packages.txt}")
   [ -z "$missing" ] || install_packages $missing
 }
 

@@ -2,11 +2,12 @@
 -- Le prime installazioni hanno caricato due volte alcuni comuni quando ne cambiava il CAP.
 CREATE TABLE italia_comuni (
   ISTAT TEXT(6),
-  Comune TEXT(60),
+  Comune TEXT(40),
   PROVINCIA TEXT(2),
   CAP TEXT(5),
   DataFine DATETIME);
 CREATE INDEX ISTAT ON italia_comuni (ISTAT);
+CREATE INDEX Comune ON italia_comuni (PROVINCIA, Comune);
 
 INSERT INTO italia_comuni VALUES ('001272', 'Torino', 'TO', '10100', #12/31/9999#);
 INSERT INTO italia_comuni VALUES ('002158', 'Vercelli', 'VC', '13100', #12/31/9999#);

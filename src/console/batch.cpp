@@ -1,7 +1,6 @@
 #include "console/batch.h"
 
 #include <algorithm>
-#include <memory>
 #include <ostream>
 
 #include "common/globale.h"
@@ -9,7 +8,6 @@
 #include "console/frmAggMain.h"
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "platform/settings.h"
 #include "schema/piano.h"
 
 namespace console {
@@ -19,10 +17,10 @@ namespace {
 class BatchWindow {
  public:
   BatchWindow(const ProgramOptions& options, controls::BatchDesktop::Answer answer, std::ostream& err)
-      : settings_(openSettings(options)),
+      : program_(options),
         desktop_(err, answer),
         scope_(desktop_),
-        form({*settings_, programFolder(options)}) {
+        form({program_.settings(), program_.folder()}) {
     common::NomeApplicazione.clear();
     form.load();
     if (!form.DbRiferimento)
@@ -32,7 +30,7 @@ class BatchWindow {
   ~BatchWindow() { form.unload(); }
 
  private:
-  std::unique_ptr<platform::Settings> settings_;
+  ProgramScope program_;
   controls::BatchDesktop desktop_;
   controls::DesktopScope scope_;
 

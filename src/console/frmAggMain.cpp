@@ -86,9 +86,17 @@ void frmAggMain::Path(const std::string& cartella) {
 }
 
 void frmAggMain::cmdEsci_Click() {
-  if (!AggiornamentoEseguito)
-    controls::desktop().msgBox("Non è stato eseguito nessun aggiornamento al database. Operazione annullata!",
-                               controls::vbExclamation);
+  try {
+    if (AggiornamentoEseguito) {
+      programma_.mostraPatch(PercorsoProgramma);
+    } else {
+      controls::desktop().msgBox(
+          "Non è stato eseguito nessun aggiornamento al database. Operazione annullata!",
+          controls::vbExclamation);
+    }
+  } catch (const runtime::Error&) {
+    // The way out stays open.
+  }
   unload();
 }
 

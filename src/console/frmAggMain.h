@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -34,6 +35,8 @@ struct Programma {
   const platform::Settings& impostazioni;  // outlives the window
   std::string cartella;                    // directory of the executable, without a closing backslash
   std::string nome = "AggNorvo";           // name of the executable: settings and summary files go by it
+  /// Shows the window of the file patch for the patch in a folder, and returns when it has been closed.
+  std::function<void(const std::string& cartella)> mostraPatch = [](const std::string&) {};
 };
 
 /// The main window: the choice of a database, its update and the running summary.
@@ -102,6 +105,7 @@ class frmAggMain : public controls::Form {
   void txtAltroDB_OLEDragDrop(const controls::DropData& dati);
   void cmdAggiorna_Click();
   void mnuFileAggiorna_Click();
+  /// Closes the window; after an update that ended normally, the window of the file patch comes first.
   void cmdEsci_Click();
   void mnuFileEsci_Click();
   void Timer1_Timer();

@@ -1,20 +1,18 @@
 #include "console/patch_list.h"
 
+#include "common/lines.h"
 #include "common/text.h"
-#include "platform/code_page.h"
 
 namespace console {
 
+// The patcher reads the same lines by a stricter rule of its own: here an apostrophe is a letter like any
+// other, the key is one word and an empty value counts.
 std::string nomeProgramma(std::string_view contenuto) {
   std::string nome;
-  while (!contenuto.empty()) {
-    const std::size_t fine = contenuto.find_first_of("\r\n");
-    const std::string riga = platform::fromCodePage1252(contenuto.substr(0, fine));
-    contenuto.remove_prefix(fine == std::string_view::npos ? contenuto.size() : fine + 1);
-    const std::size_t uguale = riga.find('=');
-    if (uguale == std::string::npos) continue;
-    if (common::StessoTesto(common::SenzaSpazi(riga.substr(0, uguale)), "Norvo-Prg"))
-      nome = common::SenzaSpazi(riga.substr(uguale + 1));
+  for (const std::string& riga : common::Righe(contenuto)) {
+    const auto parti = common::DividiInDue(riga, '=');
+    if (parti && common::StessoTesto(common::SenzaSpazi(parti->first), "Norvo-Prg"))
+      nome = common::SenzaSpazi(parti->second);
   }
   return nome;
 }

@@ -16,9 +16,23 @@ struct ProgramOptions {
   std::optional<std::string> settings;    // file of the per-user store
 };
 
-/// The directory in force, with backslashes.
-std::string programFolder(const ProgramOptions& options);
-/// The store in force.
-std::unique_ptr<platform::Settings> openSettings(const ProgramOptions& options);
+/// The folder and the settings that the options name, in force for the procedures of the suite
+/// (common/globale.h) as long as this lives. The setting ("AggNorvo", "Computer", "File") names another file
+/// of the computer (platform/computer.h).
+class ProgramScope {
+ public:
+  explicit ProgramScope(const ProgramOptions& options);
+  ~ProgramScope();
+  ProgramScope(const ProgramScope&) = delete;
+  ProgramScope& operator=(const ProgramScope&) = delete;
+
+  /// With backslashes, without a closing one.
+  const std::string& folder() const { return folder_; }
+  const platform::Settings& settings() const { return *settings_; }
+
+ private:
+  std::string folder_;
+  std::unique_ptr<platform::Settings> settings_;
+};
 
 }  // namespace console

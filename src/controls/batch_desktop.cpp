@@ -6,6 +6,7 @@
 
 #include "controls/common_dialog.h"
 #include "controls/form.h"
+#include "controls/text_box.h"
 
 namespace controls {
 namespace {
@@ -56,6 +57,7 @@ void BatchDesktop::write(std::string_view kind, const std::string& title, const 
 }
 
 MessageAnswer BatchDesktop::showBox(const std::string& text, int style, const std::string& title) {
+  ++boxesShown_;
   const MessageAnswer answer = answerTo(style);
   write(kindOf(style), title, text);
   if (buttonsOf(style).size() > 1) out_ << " -> " << captionOf(answer);
@@ -86,6 +88,14 @@ void BatchDesktop::doEvents() {
 
 void BatchDesktop::showForm(Form& form, bool modal) {
   if (modal) form.unload();
+}
+
+void streamText(TextBox& box, std::ostream& out) {
+  box.appended.connect([&out](std::string_view text) {
+    for (const char letter : text)
+      if (letter != '\r') out << letter;
+    out.flush();
+  });
 }
 
 }  // namespace controls

@@ -9,6 +9,8 @@
 
 namespace controls {
 
+class TextBox;
+
 /// A desktop without an operator: boxes and questions become lines of a stream, answered from the command
 /// line.
 class BatchDesktop : public Desktop {
@@ -23,6 +25,8 @@ class BatchDesktop : public Desktop {
 
   /// Called by doEvents(), for example to write out what the summary has grown by.
   void setEventsHook(std::function<void()> hook) { hook_ = std::move(hook); }
+  /// Boxes shown so far.
+  int boxesShown() const { return boxesShown_; }
   /// True once the product has asked to end the program.
   bool ended() const { return ended_; }
 
@@ -35,6 +39,7 @@ class BatchDesktop : public Desktop {
   void loadForm(Form&) override {}
   /// A modal window is unloaded at once, as nobody could leave it.
   void showForm(Form& form, bool modal) override;
+  void keepOnTop(Form&, bool) override {}
   void unloadForm(Form&) override {}
   void endProgram() override { ended_ = true; }
 
@@ -51,7 +56,11 @@ class BatchDesktop : public Desktop {
   Answer answer_;
   std::optional<std::string> application_;
   std::function<void()> hook_;
+  int boxesShown_ = 0;
   bool ended_ = false;
 };
+
+/// Copies what the box grows by from now on to `out`, which outlives it, with the line ends of a stream.
+void streamText(TextBox& box, std::ostream& out);
 
 }  // namespace controls

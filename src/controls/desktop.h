@@ -40,6 +40,8 @@ class Desktop {
   virtual void loadForm(Form& form) = 0;
   /// Shows the window of a loaded form; a modal one returns when it is unloaded.
   virtual void showForm(Form& form, bool modal) = 0;
+  /// Puts the window of a loaded form before all others and keeps it there, or lets others cover it again.
+  virtual void keepOnTop(Form& form, bool onTop) = 0;
   /// Takes a form's window away.
   virtual void unloadForm(Form& form) = 0;
   /// Ends the program: nothing more is shown, and the event loop ends as soon as the caller has returned.

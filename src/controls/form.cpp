@@ -1,12 +1,33 @@
 #include "controls/form.h"
 
 #include <algorithm>
+#include <map>
 
 #include "controls/desktop.h"
 
 namespace controls {
+namespace {
+
+std::map<std::int32_t, Form*>& handles() {
+  static std::map<std::int32_t, Form*> all;
+  return all;
+}
+
+}  // namespace
+
+std::int32_t Form::newHandle(Form& form) {
+  static std::int32_t last = 0;
+  handles()[++last] = &form;
+  return last;
+}
+
+Form* Form::withHandle(std::int32_t hwnd) {
+  const auto found = handles().find(hwnd);
+  return found == handles().end() ? nullptr : found->second;
+}
 
 Form::~Form() {
+  handles().erase(hwnd_);
   if (loaded_ && hasDesktop()) desktop().unloadForm(*this);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string_view>
 #include <vector>
@@ -44,6 +45,11 @@ class Form : public CaptionedControl {
   void addMenu(MenuItem& menu) { menus_.push_back(&menu); }
   const std::vector<MenuItem*>& menus() const { return menus_; }
 
+  /// The number that stands for the window among all of this process.
+  std::int32_t hwnd() const { return hwnd_; }
+  /// The window of that number; nullptr if there is none.
+  static Form* withHandle(std::int32_t hwnd);
+
   bool loaded() const { return loaded_; }
   /// Builds the window, still hidden, and raises `loading`; nothing if it is loaded.
   void load();
@@ -65,6 +71,7 @@ class Form : public CaptionedControl {
   Event<> unloading;
 
  private:
+  static std::int32_t newHandle(Form& form);
   Control* find(std::string_view name) const;
   runtime::Error missing(std::string_view name) const;
 
@@ -78,6 +85,7 @@ class Form : public CaptionedControl {
   bool loaded_ = false;
   bool unloadWaits_ = false;
   int busy_ = 0;
+  const std::int32_t hwnd_ = newHandle(*this);
 };
 
 }  // namespace controls

@@ -40,9 +40,9 @@ void copyFile(const std::string& from, const std::string& to) {
   const std::optional<FileInfo> info = inspectFile(from);
   if (!info || !source.isStillAt(from)) throw DiskError(DiskFault::Sharing, from);
   const File oldTarget = holdTarget(to);
-  Replacement copy(to);
+  Replacement copy(to, from);
   copyContent(source, copy.file());
-  setModified(copy.file().path(), info->modifiedUnixNanoseconds);
+  copy.file().setModified(info->modifiedUnixNanoseconds);
   copy.publish();
 }
 

@@ -111,6 +111,11 @@ bool File::tryLock(LockMode mode) {
   return false;
 }
 
+void File::setModified(std::int64_t unixNanoseconds) {
+  announce(DiskOperation::Dates, handle_->path);
+  system::setModified(handle_->native, handle_->path, unixNanoseconds);
+}
+
 bool File::isStillAt(const std::string& path) const {
   announce(DiskOperation::Inspect, path);
   return system::isAt(handle_->native, path);
@@ -128,8 +133,17 @@ void File::takePermissionsOf(const std::string& model) {
   system::takePermissions(handle_->native, model);
 }
 
-void File::setPath(const std::string& path) {
+void File::grantLike(const std::string& model) {
+  system::grantLike(handle_->native, model);
+}
+
+/// `done` says that the new name holds, also where the file could not be taken up again under it.
+void File::replaceFileAt(const std::string& path, bool& done) {
+  system::closeForReplacement(handle_->native);
+  replaceFile(handle_->path, path);
+  done = true;
   handle_->path = path;
+  system::openAfterReplacement(handle_->native, path, handle_->held);
 }
 
 void replaceFile(const std::string& from, const std::string& to) {

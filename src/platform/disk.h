@@ -99,6 +99,8 @@ class File {
   /// system's, on the open file: it ends with the process. A lock held before a refused conversion stays
   /// held; if another opener took its place in between, it is lost and a Sharing error says so.
   bool tryLock(LockMode mode);
+  /// Sets the modification time, as FileInfo::modifiedUnixNanoseconds gives it.
+  void setModified(std::int64_t unixNanoseconds);
   /// True while `path` still names this very file (it may have been replaced meanwhile).
   bool isStillAt(const std::string& path) const;
   explicit operator bool() const { return handle_ != nullptr; }
@@ -110,7 +112,8 @@ class File {
   friend File openFile(const std::string& path, OpenMode mode);
   friend class Replacement;
   void takePermissionsOf(const std::string& model);
-  void setPath(const std::string& path);
+  void grantLike(const std::string& model);
+  void replaceFileAt(const std::string& path, bool& done);
   struct Handle;
   std::unique_ptr<Handle> handle_;
 };

@@ -14,7 +14,8 @@ namespace platform {
 /// permissions where the system allows it, and is locked Exclusive from the start.
 class Replacement {
  public:
-  explicit Replacement(std::string path);
+  /// A file that replaces none grants what the one at `model` does, or what is usual for new files.
+  explicit Replacement(std::string path, const std::string& model = {});
   /// Removes the unpublished file; a failure there leaves it behind, and the next Replacement overwrites it.
   ~Replacement();
   Replacement(const Replacement&) = delete;
@@ -34,8 +35,9 @@ class Replacement {
   bool renamed_ = false;
 };
 
-/// Copies a file whole, keeping its date; a file at `to` is replaced in one step and survives any error.
-/// Error 53 no source, 70 either file is open elsewhere, 75 access, 76 path, 61 disk full, 57 I/O.
+/// Copies a file whole, keeping its date; a file at `to` is replaced in one step and survives any error. A
+/// copy under a new name can be run if the source can. Error 53 no source, 70 either file is open elsewhere,
+/// 75 access, 76 path, 61 disk full, 57 I/O.
 void copyFile(const std::string& from, const std::string& to);
 /// True if there is a file (not a folder) at `path`.
 bool fileExists(const std::string& path);

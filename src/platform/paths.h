@@ -22,8 +22,9 @@ std::string userSettingsFolder();
 std::string userStateFolder();
 /// Folder of the running executable, without a closing backslash.
 std::string executableFolder();
-/// Name of the running executable without folder and ending. Both are those of the program's start, however
-/// the file is renamed later.
+/// Name of the running executable without folder and ending.
 std::string executableName();
+/// Its whole path. All three are those of the program's start, however the file is renamed later.
+std::string executablePath();
 
 }  // namespace platform

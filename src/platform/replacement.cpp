@@ -3,8 +3,9 @@
 
 namespace platform {
 
-Replacement::Replacement(std::string path)
+Replacement::Replacement(std::string path, const std::string& model)
     : path_(followLinks(path)), temporary_(path_ + ".tmp"), file_(openFile(temporary_, OpenMode::Create)) {
+  if (!model.empty()) file_.grantLike(model);
   file_.takePermissionsOf(path_);
 }
 
@@ -20,9 +21,7 @@ Replacement::~Replacement() {
 File Replacement::publish(std::optional<LockMode> lock) {
   file_.flush();
   if (lock && !file_.tryLock(*lock)) throw DiskError(DiskFault::Sharing, temporary_);
-  replaceFile(temporary_, path_);
-  renamed_ = true;
-  file_.setPath(path_);
+  file_.replaceFileAt(path_, renamed_);
   flushFolder(containingFolder(path_));
   return std::move(file_);
 }

@@ -1,34 +1,33 @@
 #include "platform/settings.h"
 
-#define SI_NO_CONVERSION
-#include <SimpleIni.h>
-
-#include "platform/files.h"
-#include "platform/paths.h"
+#include "platform/ini_file.h"
+#include "platform/settings_store.h"
 
 namespace platform {
 
-struct Settings::Store {
-  CSimpleIniA values{/*utf8*/ true};
+namespace {
+
+class FileStore : public Settings::Store {
+ public:
+  explicit FileStore(const std::string& path) : file_(path) {}
+  std::optional<std::string> value(std::string_view application, std::string_view section,
+                                   std::string_view key) const override {
+    return file_.value(std::string(application) + "\\" + std::string(section), key);
+  }
+
+ private:
+  IniFile file_;
 };
 
-Settings::Settings() : Settings(userSettingsFolder() + "\\aggnorvo\\impostazioni.ini") {}
+}  // namespace
 
-Settings::Settings(std::string file) : store_(std::make_unique<Store>()) {
-  try {
-    store_->values.LoadData(readWholeFile(file));
-  } catch (const DiskError&) {
-    // Answers every default, as a user without settings has it.
-  }
-}
+Settings::Settings(const std::string& file) : store_(std::make_unique<FileStore>(file)) {}
 
 Settings::~Settings() = default;
 
 std::string Settings::get(std::string_view application, std::string_view section, std::string_view key,
                           std::string_view fallback) const {
-  const std::string path = std::string(application) + "\\" + std::string(section);
-  const char* value = store_->values.GetValue(path.c_str(), std::string(key).c_str());
-  return value ? value : std::string(fallback);
+  return store_->value(application, section, key).value_or(std::string(fallback));
 }
 
 }  // namespace platform

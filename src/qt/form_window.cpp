@@ -67,6 +67,10 @@ void FormWindow::setDefaultButton(QPushButton* button) {
   button->setDefault(true);
 }
 
+void FormWindow::setCancelButton(QPushButton* button) {
+  cancelButton_ = button;
+}
+
 void FormWindow::takeNaturalSize() {
   const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
   resize(sizeHint().boundedTo(screen()->availableSize() - frame));
@@ -113,8 +117,9 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && defaultButton_ && defaultButton_->isVisible()) {
-    if (!event->isAutoRepeat()) defaultButton_->click();
+  QPushButton* button = enter ? defaultButton_ : event->key() == Qt::Key_Escape ? cancelButton_ : nullptr;
+  if (button && button->isVisible()) {
+    if (!event->isAutoRepeat()) button->click();
   } else {
     QMainWindow::keyPressEvent(event);
   }

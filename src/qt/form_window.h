@@ -30,6 +30,8 @@ class FormWindow : public QMainWindow {
   void setPage(QWidget* page);
   /// The button that Enter presses wherever Enter has no meaning of its own.
   void setDefaultButton(QPushButton* button);
+  /// The button that Esc presses wherever Esc has no meaning of its own.
+  void setCancelButton(QPushButton* button);
 
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -42,6 +44,7 @@ class FormWindow : public QMainWindow {
 
   controls::Form& form_;
   QPushButton* defaultButton_ = nullptr;
+  QPushButton* cancelButton_ = nullptr;
   bool synchronizing_ = false;
   controls::Subscription subscription_;
 };

@@ -6,10 +6,12 @@
 #include <QInputDialog>
 #include <QLibraryInfo>
 #include <QScreen>
+#include <QWindow>
 
 #include "controls/form.h"
 #include "qt/boxes.h"
 #include "qt/main_window.h"
+#include "qt/patch_window.h"
 #include "qt/text.h"
 
 namespace qt {
@@ -17,6 +19,7 @@ namespace {
 
 FormWindow* makeWindow(controls::Form& form) {
   if (form.name() == "frmAggMain") return new MainWindow(form);
+  if (form.name() == "frmPatch") return new PatchWindow(form);
   return new StackedWindow(form);
 }
 
@@ -107,6 +110,15 @@ void QtDesktop::showForm(controls::Form& form, bool modal) {
   QEventLoop loop;
   QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
   loop.exec();
+}
+
+void QtDesktop::keepOnTop(controls::Form& form, bool onTop) {
+  FormWindow* window = windowOf(form);
+  if (!window || !window->isVisible()) return;
+  // The flag of the widget itself would take the window off the screen for a moment.
+  window->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, onTop);
+  window->raise();
+  window->activateWindow();
 }
 
 void QtDesktop::unloadForm(controls::Form& form) {

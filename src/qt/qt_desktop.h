@@ -28,6 +28,7 @@ class QtDesktop : public controls::Desktop {
   int screenHeight() const override;
   void loadForm(controls::Form& form) override;
   void showForm(controls::Form& form, bool modal) override;
+  void keepOnTop(controls::Form& form, bool onTop) override;
   void unloadForm(controls::Form& form) override;
   void endProgram() override;
 

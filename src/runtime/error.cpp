@@ -12,6 +12,7 @@ struct Description {
 constexpr Description descriptions[] = {
     {InvalidCall, "Argomento non ammesso"},
     {Overflow, "Valore troppo grande o troppo piccolo per il suo tipo"},
+    {SubscriptOutOfRange, "Riga o elemento oltre i limiti della tabella"},
     {DivisionByZero, "Divisione per zero"},
     {TypeMismatch, "Valore di tipo diverso da quello richiesto"},
     {FileNotFound, "File inesistente"},

@@ -31,6 +31,7 @@ class Error : public std::exception {
 enum ErrorNumber : int {
   InvalidCall = 5,
   Overflow = 6,
+  SubscriptOutOfRange = 9,
   DivisionByZero = 11,
   TypeMismatch = 13,
   FileNotFound = 53,

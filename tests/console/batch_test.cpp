@@ -135,6 +135,9 @@ TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
                {"--batch --app", 64, "", "numero di valori errato"},
                {"--batch --answer forse", 64, "", "valore non valido"},
                {"--list --app ordmedici", 64, "", "manca un'opzione"},
+               {"--patch", 64, "", "numero di valori errato"},
+               {"--patch /manca --list", 64, "", "opzioni incompatibili"},
+               {"--patch /manca --answer no", 64, "", "manca un'opzione"},
                {"studio.mdb", 64, "", "argomento non previsto: studio.mdb"}};
   for (const auto& test : cases) {
     SCOPED_TRACE(test.arguments);

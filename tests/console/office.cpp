@@ -6,7 +6,6 @@
 
 #include "common/globale.h"
 #include "platform/files.h"
-#include "runtime/date.h"
 
 namespace office {
 namespace {
@@ -17,15 +16,6 @@ namespace {
 }();
 
 }  // namespace
-
-runtime::Date FixedClock::now() {
-  return runtime::dateFromParts(2026, 11, 16, 17, 16, 0);
-}
-
-void FixedClock::rest(int milliseconds) {
-  seconds += static_cast<float>(milliseconds) / 1000;
-  if (seconds >= 86400) seconds -= 86400;
-}
 
 void makeDatabase(const std::string& path, const std::vector<std::string>& statements) {
   const auto db = jet::dao::DBEngine::Workspaces(0)->CreateDatabase(path);
@@ -158,7 +148,12 @@ console::BatchOptions Office::batch(const std::string& app) const {
 }
 
 Window::Window(const Office& where)
-    : office(where), settings(where.settings), form({settings, where.program}) {
+    : office(where),
+      settings(where.settings),
+      form({settings, where.program, "AggNorvo", [this](const std::string& folder) {
+              patches.push_back(folder);
+              duringPatch();
+            }}) {
   common::NomeApplicazione.clear();
   desktop.answerRestByDefault();
   form.load();

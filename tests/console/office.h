@@ -1,32 +1,20 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "console/batch.h"
 #include "console/frmAggMain.h"
-#include "platform/clock.h"
 #include "platform/settings.h"
+#include "support/fixed_clock.h"
 #include "support/scripted_desktop.h"
 #include "support/temp_folder.h"
 
 namespace office {
 
-/// 16/11/2026 17:16:00, and a timer that moves only while somebody waits.
-class FixedClock : public platform::Clock {
- public:
-  FixedClock() : before_(platform::setClock(this)) {}
-  ~FixedClock() override { platform::setClock(before_); }
-  runtime::Date now() override;
-  float timer() override { return seconds; }
-  void rest(int milliseconds) override;
-
-  float seconds = 62160;
-
- private:
-  platform::Clock* before_;
-};
+using support::FixedClock;
 
 /// Makes a database by running `statements` in a new file.
 void makeDatabase(const std::string& path, const std::vector<std::string>& statements);
@@ -77,6 +65,8 @@ class Window {
   platform::Settings settings;
   support::ScriptedDesktop desktop;
   controls::DesktopScope scope{desktop};
+  std::vector<std::string> patches;  // folders for which the window of the file patch was asked for
+  std::function<void()> duringPatch = [] {};
   console::frmAggMain form;
 };
 

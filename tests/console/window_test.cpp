@@ -195,12 +195,31 @@ TEST(Exit, WarnsWhenNothingWasUpdated) {
   EXPECT_EQ(window.desktop.boxes[0].text,
             "Non è stato eseguito nessun aggiornamento al database. Operazione annullata!");
   EXPECT_FALSE(window.form.loaded());
+  EXPECT_TRUE(window.patches.empty());
+}
 
-  Window second(office);
-  second.update();
-  second.form.cmdEsci.press();
-  EXPECT_TRUE(second.desktop.boxes.empty());
-  EXPECT_FALSE(second.form.loaded());
+TEST(Exit, AfterAGoodUpdateGoesThroughThePatchEvenIfALaterOneFailed) {
+  Office office;
+  for (const bool fails : {false, true}) {
+    Window window(office);
+    window.update();
+    if (fails) {
+      const std::string good = platform::readWholeFile(office.target);
+      platform::writeWholeFile(office.target, "non è un database");
+      window.update();
+      EXPECT_EQ(window.form.UltimaCorsa.esito, console::Esito::Fallita);
+      platform::writeWholeFile(office.target, good);
+    }
+    const auto boxes = window.desktop.boxes.size();
+    window.duringPatch = [&] {
+      EXPECT_TRUE(window.form.loaded()) << "it stays behind the patch's window";
+      if (fails) throw runtime::Error(75, "prova", "Accesso negato");
+    };
+    window.form.cmdEsci.press();
+    EXPECT_THAT(window.patches, ElementsAre(office.program));
+    EXPECT_FALSE(window.form.loaded());
+    EXPECT_EQ(window.desktop.boxes.size(), boxes);
+  }
 }
 
 TEST(Summary, TakesPathsApart) {

@@ -42,6 +42,51 @@ TEST(Design, ATableOfEveryTypeComesBackInThreeReaders) {
   EXPECT_EQ(office::exported(folder.path("compatto.mdb"), "Ogni"), theirs);
 }
 
+TEST(Design, ACompactCopyShowsItsFieldsInDisplayOrderToOtherReaders) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("ogni.mdb"), compact = folder.path("compatto.mdb");
+  office::make(path, EveryType);
+  {
+    Workspace workspace;
+    const auto db = workspace.OpenDatabase(path, true);
+    for (const char* last : {"si", "t", "m", "l"}) db->TableDefs("Ogni")->Fields(last).setOrdinalPosition(90);
+    db->Close();
+  }
+  DBEngine::CompactDatabase(path, compact);
+  EXPECT_EQ(office::complaints(compact), "");
+  EXPECT_EQ(office::exported(compact, "Ogni").substr(0, 36), "id,b,i,v,s,d,q,n,bin,o,g,si,l,t,m\n1,");
+  EXPECT_EQ(office::query(compact, "SELECT * FROM Ogni"), office::query(path, "SELECT * FROM Ogni"));
+  EXPECT_EQ(office::query(compact, "SELECT l, t FROM Ogni WHERE t = 'Niccolò D''Agostino'"),
+            "2147483647|Niccolò D'Agostino");
+}
+
+TEST(Design, ACompactCopyShowsWhatItsIndexesAreMadeOfAfterOneIsGone) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("indici.mdb"), compact = folder.path("compatto.mdb");
+  office::make(path,
+               {"CREATE TABLE A (a LONG, b LONG, c LONG)", "CREATE INDEX vecchio ON A (c)",
+                "CREATE INDEX pk ON A (a) WITH PRIMARY", "CREATE UNIQUE INDEX doppio ON A (b, c DESC)",
+                "CREATE TABLE B (a LONG, b LONG)", "CREATE INDEX altro ON B (b)",
+                "ALTER TABLE B ADD CONSTRAINT rel FOREIGN KEY (a) REFERENCES A (a)",
+                "CREATE INDEX nuovo ON B (b DESC, a)", "DROP INDEX vecchio ON A", "DROP INDEX altro ON B",
+                "INSERT INTO A VALUES (1, 2, 3)", "INSERT INTO B VALUES (1, 9)"});
+  DBEngine::CompactDatabase(path, compact);
+  EXPECT_EQ(office::complaints(compact, "--strict --allow id-gap"), "");
+  const auto schema =
+      support::runCommand("mdb-schema --indexes " + office::system(compact) + " postgres").output;
+  for (const char* index :
+       {"PRIMARY KEY (\"a\");", "CREATE UNIQUE INDEX \"a_doppio_idx\" ON \"a\" (\"b\", \"c\" DESC);",
+        "CREATE INDEX \"b_nuovo_idx\" ON \"b\" (\"b\" DESC, \"a\");"})
+    EXPECT_NE(schema.find(index), std::string::npos) << schema;
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(compact, true);
+  EXPECT_EQ(errorOf([&] { db->Execute("DELETE FROM A", dbFailOnError); }), 3200);
+  EXPECT_EQ(errorOf([&] { db->Execute("INSERT INTO B VALUES (4, 1)", dbFailOnError); }), 3201);
+  db->Relations().Delete("rel");
+  db->Close();
+  EXPECT_EQ(office::complaints(compact, "--strict --allow id-gap"), "");
+}
+
 struct Refusal {
   const char* sql;
   int error;

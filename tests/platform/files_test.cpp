@@ -62,6 +62,24 @@ TEST_F(CopyFile, TakesContentAndDateAndKeepsTheTargetsPermissions) {
   EXPECT_TRUE(free.tryLock(LockMode::Exclusive));
 }
 
+TEST_F(CopyFile, UnderANewNameGrantsWhatTheSourceDoesWithinTheUsersDefaults) {
+  const struct {
+    mode_t source, mask, copy;
+  } cases[] = {{0755, 022, 0755}, {0777, 077, 0700}, {0644, 022, 0644}, {0555, 027, 0750},
+               {0600, 0, 0600},   {0400, 0, 0600},   {0666, 002, 0664}};
+  for (const auto& test : cases) {
+    ASSERT_EQ(::chmod(folder_.systemPath("nuovo.mdb").c_str(), test.source), 0);
+    const mode_t before = ::umask(test.mask);
+    const std::string copy = folder_.path("copia");
+    copyFile(source_, copy);
+    ::umask(before);
+    struct stat info;
+    ASSERT_EQ(::stat(folder_.systemPath("copia").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777u, test.copy) << std::oct << test.source << " " << test.mask;
+    removeFile(copy);
+  }
+}
+
 TEST_F(CopyFile, AnyFaultAtAnyCallLeavesTheOldFileOrTheNewOne) {
   for (const Faulty duration : {Faulty::Once, Faulty::FromThenOn}) {
     for (const DiskFault fault : allFaults) {

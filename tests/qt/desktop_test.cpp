@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QWindow>
 
 #include "controls/common_dialog.h"
 #include "main_form.h"
@@ -171,7 +172,7 @@ TEST_F(WindowTest, ClicksArriveWhileARunLetsEventsThrough) {
 
 TEST_F(WindowTest, AModalFormIsWaitedForAndLaidOutWithoutALayoutOfItsOwn) {
   open();
-  Form patch("frmPatch", "Patch");
+  Form patch("frmAltra", "Patch");
   Label top("lblTop", "In corso");
   TextBox report("txt");
   report.setMultiLine(true);
@@ -201,6 +202,16 @@ TEST_F(WindowTest, AFormPlacesItselfWhenItLoads) {
   EXPECT_EQ(window->pos(), QPoint(form.left(), form.top()));
   EXPECT_GE(form.left(), 0);
   EXPECT_LE(form.left() + form.width(), desktop.screenWidth());
+}
+
+TEST_F(WindowTest, IsPutBeforeOthersAndGivenBackWithoutLeavingTheScreen) {
+  desktop.keepOnTop(form, true);  // nothing happens before there is a window
+  open();
+  for (const bool onTop : {true, false}) {
+    desktop.keepOnTop(form, onTop);
+    EXPECT_EQ(window->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), onTop);
+    EXPECT_TRUE(window->isVisible());
+  }
 }
 
 TEST_F(WindowTest, TheHourglassGivesWayToABoxAndComesBack) {

@@ -34,9 +34,12 @@ TEST_F(Layout, NothingIsCutAtAnySizeOfTheFontEvenInTheSmallestWindow) {
     QFont larger = font_;
     larger.setPointSizeF(font_.pointSizeF() * factor);
     QApplication::setFont(larger);
+    qt::QtDesktop fresh;  // one that has shown its last window shows no other
+    const controls::DesktopScope freshScope(fresh);
     MainForm scaled;
     scaled.show();
-    window = desktop.windowOf(scaled);
+    window = fresh.windowOf(scaled);
+    ASSERT_TRUE(window->isVisible());
     EXPECT_EQ(cut(), "") << factor;
     window->resize(1, 1);
     EXPECT_EQ(cut(), "") << factor << ", smallest";

@@ -74,10 +74,10 @@ struct MainForm : controls::Form {
   std::string log;
 };
 
-/// A shown and active main window.
-class WindowTest : public testing::Test {
+/// A shown and active window of any form.
+class ShownWindow : public testing::Test {
  protected:
-  void open() {
+  void open(controls::Form& form) {
     form.show();
     window = desktop.windowOf(form);
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));
@@ -86,13 +86,20 @@ class WindowTest : public testing::Test {
   Widget* view(const char* name) {
     return window->findChild<Widget*>(name);
   }
+
+  qt::QtDesktop desktop;
+  controls::DesktopScope scope{desktop};
+  qt::FormWindow* window = nullptr;
+};
+
+/// A shown and active main window.
+class WindowTest : public ShownWindow {
+ protected:
+  void open() { ShownWindow::open(form); }
   std::string focused() {
     return qt::fromQt(window->focusWidget() ? window->focusWidget()->objectName() : "-");
   }
   std::string takeLog() { return std::exchange(form.log, {}); }
 
-  qt::QtDesktop desktop;
-  controls::DesktopScope scope{desktop};
   MainForm form;
-  qt::FormWindow* window = nullptr;
 };

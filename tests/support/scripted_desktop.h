@@ -48,7 +48,7 @@ class ScriptedDesktop : public controls::Desktop {
   std::vector<Box> boxes;
   std::vector<Input> inputs;
   std::vector<controls::MousePointer> pointers;
-  /// "load NAME", "show NAME", "show NAME modal", "unload NAME".
+  /// "load NAME", "show NAME", "show NAME modal", "top NAME", "not top NAME", "unload NAME".
   std::vector<std::string> forms;
   int opens = 0;
   int eventRounds = 0;
@@ -78,6 +78,9 @@ class ScriptedDesktop : public controls::Desktop {
     if (!modal) return;
     if (modalHook_) modalHook_(form);
     form.unload();
+  }
+  void keepOnTop(controls::Form& form, bool onTop) override {
+    forms.push_back((onTop ? "top " : "not top ") + form.name());
   }
   void unloadForm(controls::Form& form) override { forms.push_back("unload " + form.name()); }
   void endProgram() override { ended = true; }

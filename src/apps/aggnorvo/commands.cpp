@@ -4,6 +4,9 @@
 #include <iostream>
 #include <map>
 
+#include "patcher/batch.h"
+#include "platform/paths.h"
+
 namespace aggnorvo {
 namespace {
 
@@ -64,12 +67,38 @@ class List : public Command {
   }
 };
 
+class Patch : public Command {
+ public:
+  std::string name() const override { return "--patch"; }
+  std::string help() const override {
+    return "Copia i file della patch che sta in una cartella, come dice il suo PatchList.txt, senza "
+           "finestra; "
+           "il resoconto va sullo standard output, gli avvisi sullo standard error";
+  }
+  CLI::Option* addChoice(CLI::App& app) override {
+    return app.add_option(name(), folder_)->type_name("CARTELLA");
+  }
+  void addOptions(CLI::App&, CLI::Option*) override {}
+  int run(const console::ProgramOptions& program) override {
+    const console::ProgramScope scope(program);
+    return patcher::runPatch(platform::fromSystemPath(folder_), std::cout, std::cerr);
+  }
+
+ private:
+  std::string folder_;
+};
+
 }  // namespace
+
+CLI::Option* Command::addChoice(CLI::App& app) {
+  return app.add_flag(name());
+}
 
 std::vector<std::unique_ptr<Command>> commands() {
   std::vector<std::unique_ptr<Command>> all;
   all.push_back(std::make_unique<Batch>());
   all.push_back(std::make_unique<List>());
+  all.push_back(std::make_unique<Patch>());
   return all;
 }
 

@@ -19,6 +19,8 @@ class Command {
   virtual ~Command() = default;
   virtual std::string name() const = 0;  // with its dashes
   virtual std::string help() const = 0;
+  /// Adds the option that names the command.
+  virtual CLI::Option* addChoice(CLI::App& app);
   /// Adds the command's own options; `chosen` is the option that names it.
   virtual void addOptions(CLI::App& app, CLI::Option* chosen) = 0;
   /// Returns an exit status.

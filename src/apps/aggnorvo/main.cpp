@@ -16,14 +16,15 @@ const char* const description =
 const char* const notes =
     "\nStato di uscita: 0 aggiornamento terminato, o con --plan nulla da cambiare; 1 non riuscito, il\n"
     "database è com'era; 2 rifiutato prima di cominciare, nulla è stato scritto; 3 con --plan, qualcosa\n"
-    "cambierebbe; 4 non riuscito, il database non è com'era; 64 uso errato.";
+    "cambierebbe; 4 non riuscito, il database non è com'era; 64 uso errato.\n"
+    "Con --patch: 0 nessun errore; 1 qualche errore; 2 elenco non leggibile, nulla è stato scritto.";
 
 /// Adds the commands, one at a time to be chosen, and returns the options that choose them.
 std::vector<CLI::Option*> addCommands(CLI::App& app,
                                       const std::vector<std::unique_ptr<aggnorvo::Command>>& commands) {
   std::vector<CLI::Option*> choices;
   for (const auto& command : commands) {
-    CLI::Option* chosen = app.add_flag(command->name())->description(command->help())->group("Comandi");
+    CLI::Option* chosen = command->addChoice(app)->description(command->help())->group("Comandi");
     for (CLI::Option* other : choices) chosen->excludes(other);
     command->addOptions(app, chosen);
     choices.push_back(chosen);

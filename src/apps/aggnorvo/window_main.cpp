@@ -4,10 +4,19 @@
 #include "apps/aggnorvo/options.h"
 #include "apps/command_line.h"
 #include "console/frmAggMain.h"
-#include "platform/paths.h"
+#include "patcher/frmPatch.h"
 #include "platform/program.h"
-#include "platform/settings.h"
 #include "qt/qt_desktop.h"
+
+namespace {
+
+void showPatch(const std::string& folder) {
+  patcher::frmPatch window;
+  window.Path(folder);
+  window.show(true);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   platform::keepRunningOnWriteSignals();
@@ -21,10 +30,12 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return apps::answer(app, error);
   }
-  const auto settings = console::openSettings(program);
+  const console::ProgramScope scopeOfProgram(program);
   qt::QtDesktop desktop;
   controls::DesktopScope scope(desktop);
-  console::frmAggMain window({*settings, console::programFolder(program)});
+  console::frmAggMain window({.impostazioni = scopeOfProgram.settings(),
+                              .cartella = scopeOfProgram.folder(),
+                              .mostraPatch = showPatch});
   window.show();
   return desktop.run();
 }

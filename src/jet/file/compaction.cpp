@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <map>
+#include <numeric>
 
 #include "jet/file/catalogue.h"
 #include "jet/file/database_writer.h"
 #include "jet/file/errors.h"
 #include "jet/file/global_map.h"
+#include "jet/file/index_numbers.h"
 #include "jet/file/page_use.h"
 #include "jet/file/table_writer.h"
 
@@ -22,14 +24,27 @@ std::vector<Column*> columnsBy(TableDefinition& table, Key key) {
   return sorted;
 }
 
-/// The same columns without the numbers, slots and bytes of those that were dropped.
-TableDefinition withoutHoles(TableDefinition table) {
+/// Where each record of the compact table's columns comes from. They stand by number, so in display order; in
+/// the tables that the engine's tools keep for themselves they stand by name, and stay so.
+std::vector<std::size_t> recordOrder(const TableDefinition& table) {
+  if (std::ranges::is_sorted(table.columns, {}, &Column::number)) return table.displayOrder();
+  std::vector<std::size_t> order(table.columns.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  return order;
+}
+
+/// The same columns without the numbers, slots and bytes of those that were dropped, numbered in display
+/// order: other readers of the format show them by number.
+TableDefinition withoutHoles(const TableDefinition& source, const std::vector<std::size_t>& records) {
+  TableDefinition table = source;
   std::map<std::uint16_t, std::uint16_t> numbers;
-  table.maxColumns = 0;
-  for (Column* column : columnsBy(table, [](const Column* each) { return each->number; })) {
-    numbers[column->number] = table.maxColumns;
-    column->number = table.maxColumns++;
+  for (const std::size_t column : source.displayOrder())
+    numbers.emplace(source.columns[column].number, static_cast<std::uint16_t>(numbers.size()));
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    table.columns[i] = source.columns[records[i]];
+    table.columns[i].number = numbers.at(table.columns[i].number);
   }
+  table.maxColumns = static_cast<std::uint16_t>(table.columns.size());
   for (RealIndex& index : table.realIndexes)
     for (IndexColumn& part : index.columns) {
       const auto number = numbers.find(part.column);
@@ -61,10 +76,29 @@ TableDefinition withoutHoles(TableDefinition table) {
   return table;
 }
 
+/// Rows with their fields in another order.
+class Reordered : public RowSource {
+ public:
+  Reordered(RowSource& rows, const std::vector<std::size_t>& order) : rows_(rows), order_(order) {}
+  bool next(Row& row) override {
+    if (!rows_.next(read_)) return false;
+    row.resize(order_.size());
+    for (std::size_t i = 0; i < order_.size(); ++i) row[i] = read_[order_[i]];
+    return true;
+  }
+
+ private:
+  RowSource& rows_;
+  const std::vector<std::size_t>& order_;
+  Row read_;
+};
+
 void compactTable(const PageFile& source, const TableDefinition& table, PageOutput& out, const TakePage& take,
                   MapPages& maps) {
-  TableReader rows(source, table);
-  TableWriter writer(table.system ? table : withoutHoles(table), out, take);
+  TableReader reader(source, table);
+  const std::vector<std::size_t> records = recordOrder(table);
+  Reordered rows(reader, records);
+  TableWriter writer(table.system ? table : withoutHoles(table, records), out, take);
   writer.writeRows(rows);
   writer.writeIndexes();
   writer.writeMaps(maps);
@@ -78,7 +112,8 @@ void writeCompacted(const PageFile& source, platform::File& file) {
   PageOutput out(file);
   PageSpace space;
   const TakePage take = [&space] { return space.take(); };
-  const std::vector<TableDefinition> tables = readTables(source);
+  std::vector<TableDefinition> tables = readTables(source);
+  renumberIndexes(tables);
   space.use(0);
   space.use(GlobalMap.page);
   for (const TableDefinition& table : tables) space.use(table.page);

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -113,6 +114,13 @@ void refuseUnlessRegular(const std::string& path) {
   throw DiskError(S_ISDIR(info.st_mode) ? DiskFault::IsFolder : DiskFault::AccessDenied, path);
 }
 
+/// The pair of times that the system's calls take; the time of the last access stays as it is.
+std::array<timespec, 2> modifiedTime(std::int64_t unixNanoseconds) {
+  constexpr std::int64_t second = 1'000'000'000;
+  const std::int64_t part = (unixNanoseconds % second + second) % second;
+  return {{{0, UTIME_OMIT}, {static_cast<time_t>((unixNanoseconds - part) / second), part}}};
+}
+
 /// Empties the file only under its lock, and only if no one has meanwhile renamed it to another place.
 NativeFile create(const std::string& path) {
   for (;;) {
@@ -206,6 +214,14 @@ void takePermissions(NativeFile file, const std::string& model) noexcept {
   ::fchmod(descriptor(file), permissions);
 }
 
+void grantLike(NativeFile file, const std::string& model) noexcept {
+  struct stat old, fresh;
+  if (::stat(toSystemPath(model).c_str(), &old) != 0 || ::fstat(descriptor(file), &fresh) != 0) return;
+  const mode_t readers = fresh.st_mode & 0444;
+  const mode_t permissions = (fresh.st_mode & old.st_mode & 0777) | (readers >> 2 & old.st_mode);
+  ::fchmod(descriptor(file), permissions | S_IRUSR | S_IWUSR);
+}
+
 void replace(const std::string& from, const std::string& to) {
   const std::string source = native(from), target = native(to);
   if (::rename(source.c_str(), target.c_str()) == 0) return;
@@ -213,6 +229,10 @@ void replace(const std::string& from, const std::string& to) {
   struct stat info;
   fail(error, ::stat(source.c_str(), &info) == 0 ? to : from);
 }
+
+void closeForReplacement(NativeFile&) noexcept {}
+
+void openAfterReplacement(NativeFile&, const std::string&, std::optional<LockMode>) {}
 
 void remove(const std::string& path) {
   if (::unlink(native(path).c_str()) != 0) fail(errno, path);
@@ -242,11 +262,13 @@ std::optional<FileInfo> inspect(const std::string& path) {
   return result;
 }
 
+void setModified(NativeFile file, const std::string& path, std::int64_t unixNanoseconds) {
+  if (::futimens(descriptor(file), modifiedTime(unixNanoseconds).data()) != 0) fail(errno, path);
+}
+
 void setModified(const std::string& path, std::int64_t unixNanoseconds) {
-  constexpr std::int64_t second = 1'000'000'000;
-  const std::int64_t part = (unixNanoseconds % second + second) % second;
-  const timespec times[2] = {{0, UTIME_OMIT}, {static_cast<time_t>((unixNanoseconds - part) / second), part}};
-  if (::utimensat(AT_FDCWD, native(path).c_str(), times, 0) != 0) fail(errno, path);
+  const auto times = modifiedTime(unixNanoseconds);
+  if (::utimensat(AT_FDCWD, native(path).c_str(), times.data(), 0) != 0) fail(errno, path);
 }
 
 std::string followLinks(const std::string& path) {

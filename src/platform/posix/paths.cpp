@@ -9,9 +9,7 @@
 
 namespace platform {
 
-namespace {
-
-std::string executable() {
+std::string executablePath() {
   static const std::string path = [] {
     std::error_code failure;
     return fromSystemPath(std::filesystem::read_symlink("/proc/self/exe", failure).string());
@@ -19,8 +17,10 @@ std::string executable() {
   return path;
 }
 
+namespace {
+
 /// Asked for before main, while the program still has the name it was started under.
-[[maybe_unused]] const std::string atStart = executable();
+[[maybe_unused]] const std::string atStart = executablePath();
 
 std::string homeFolder() {
   if (const char* home = std::getenv("HOME"); home && *home) return home;
@@ -59,11 +59,11 @@ std::string userStateFolder() {
 }
 
 std::string executableFolder() {
-  return folderOf(executable());
+  return folderOf(executablePath());
 }
 
 std::string executableName() {
-  return std::filesystem::path(toSystemPath(executable())).stem().string();
+  return std::filesystem::path(toSystemPath(executablePath())).stem().string();
 }
 
 }  // namespace platform

@@ -1,0 +1,2 @@
+-- Geologi: regione di competenza.
+ALTER TABLE ragioniere ADD COLUMN cd_regione TEXT(3);

@@ -1,0 +1,48 @@
+#include "patcher/batch.h"
+
+#include <ostream>
+
+#include "controls/batch_desktop.h"
+#include "patcher/frmPatch.h"
+#include "platform/paths.h"
+#include "runtime/error.h"
+
+namespace patcher {
+namespace {
+
+/// False, with the reason in `err`, if the list can't be read.
+bool load(frmPatch& form, const std::string& folder, std::ostream& err) {
+  try {
+    form.Path(folder);
+    form.load();
+    return true;
+  } catch (const controls::ProgramEnded&) {
+    // The boxes have told it.
+  } catch (const runtime::Error& failure) {
+    err << failure.description() << std::endl;
+  }
+  err << "Elenco della patch non leggibile: " << platform::toSystemPath(folder + "\\PatchList.txt")
+      << std::endl;
+  return false;
+}
+
+}  // namespace
+
+int runPatch(const std::string& folder, std::ostream& out, std::ostream& err) {
+  controls::BatchDesktop desktop(err);
+  const controls::DesktopScope scope(desktop);
+  frmPatch form;
+  if (!load(form, folder, err)) return PatchUnreadable;
+  if (desktop.boxesShown() > 0) return PatchErrors;
+  controls::streamText(form.txt, out);
+  try {
+    form.cmd.press();
+  } catch (const runtime::Error& failure) {
+    err << failure.description() << std::endl;
+    return PatchErrors;
+  }
+  if (const std::string& report = form.txt.text(); !report.empty() && report.back() != '\n') out << std::endl;
+  return form.ErroriPatch > 0 || desktop.boxesShown() > 0 ? PatchErrors : PatchDone;
+}
+
+}  // namespace patcher

@@ -1,0 +1,36 @@
+#include "platform/program.h"
+
+#include <windows.h>
+
+#include "platform/command_line.h"
+#include "platform/windows/handle.h"
+#include "platform/windows/wide.h"
+#include "runtime/error.h"
+
+namespace platform {
+
+void keepRunningOnWriteSignals() {}
+
+int continueAs(const std::string& path, const std::vector<std::string>& arguments) {
+  std::vector<std::string> words = {path + ".exe"};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  const std::wstring program = windows::wide(words.front());
+  std::wstring line = windows::wide(joinCommandLine(words));
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process;
+  if (!::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
+                        &process)) {
+    const DWORD error = ::GetLastError();
+    throw runtime::languageError(error == ERROR_FILE_NOT_FOUND  ? runtime::FileNotFound
+                                 : error == ERROR_ACCESS_DENIED ? runtime::PathFileAccess
+                                                                : runtime::InvalidCall);
+  }
+  const windows::Handle child(process.hProcess), thread(process.hThread);
+  DWORD status = 1;
+  ::WaitForSingleObject(child.get(), INFINITE);
+  ::GetExitCodeProcess(child.get(), &status);
+  return static_cast<int>(status);
+}
+
+}  // namespace platform

@@ -1,0 +1,216 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "jet/dao/engine.h"
+#include "support/command.h"
+#include "support/temp_folder.h"
+
+namespace {
+
+using support::CommandResult;
+using support::shellWord;
+using testing::HasSubstr;
+
+class Catalogo : public testing::Test {
+ protected:
+  void make(const std::string& file, const std::string& script) {
+    const auto result = support::runCommand(JETSQL " --create " + shellWord(file), script);
+    ASSERT_EQ(result.status, 0) << result.errors;
+  }
+  CommandResult catalogo(const std::string& arguments) {
+    return support::runCommand(CATALOGO " " + arguments + " " + shellWord(reference_) + " " +
+                               shellWord(model_));
+  }
+  void write(const std::string& arguments) {
+    const auto result = catalogo(arguments);
+    ASSERT_EQ(result.status, 0) << result.errors;
+  }
+  void change(const std::string& sql) {
+    const auto result = support::runCommand(JETSQL " " + shellWord(reference_) + " " + shellWord(sql));
+    ASSERT_EQ(result.status, 0) << result.errors;
+  }
+  std::string exported(const std::string& table) {
+    return support::runCommand("mdb-export -H " + shellWord(reference_) + " " + shellWord(table)).output;
+  }
+  /// Every row of these tables of the catalogue.
+  std::string catalogue() {
+    std::string text;
+    for (const char* table : {"CampiTabella", "Indici", "CampiIndice", "Relazioni", "CampiRelazione"})
+      text += exported(table);
+    return text;
+  }
+  static std::string content(const std::string& file) {
+    std::ostringstream text;
+    text << std::ifstream(file, std::ios::binary).rdbuf();
+    return text.str();
+  }
+
+  support::TempFolder folder_;
+  std::string reference_ = folder_.systemPath("Agg Norvo.mdb");
+  std::string model_ = folder_.systemPath("modello è.mdb");
+};
+
+/// What a script can't say of a model's field.
+void setField(const std::string& file, const char* table, const char* field,
+              const std::function<void(const jet::dao::Field&)>& set) {
+  const auto database = jet::dao::DBEngine::OpenDatabase(platform::fromSystemPath(file), true);
+  set(database->TableDefs(table)->Fields(field));
+  database->Close();
+}
+
+TEST_F(Catalogo, EveryFieldStandsThereAsTheModelHasIt) {
+  make(model_,
+       "CREATE TABLE Tutto ([Set] TEXT(1) NOT NULL DEFAULT 'A', n COUNTER, b BYTE, s SHORT, c CURRENCY "
+       "DEFAULT 0,"
+       " si SINGLE, d DOUBLE, q DATETIME DEFAULT Date(), [legge494/96] YESNO DEFAULT True, m MEMO,"
+       " bin BINARY(20), ole LONGBINARY, g GUID, t TEXT(255));\n");
+  setField(model_, "Tutto", "t", [](const auto& field) { field.setAllowZeroLength(false); });
+  setField(model_, "Tutto", "m", [](const auto& field) { field.setDefaultValue("\"a, \"\"b\"\"\""); });
+  setField(model_, "Tutto", "b", [](const auto& field) { field.setOrdinalPosition(40); });
+  write("--create");
+  EXPECT_EQ(exported("CampiTabella"),
+            "\"Tutti\",\"Tutto\",\"Set\",10,1,34,1,1,\"'A'\",0,0\n"
+            "\"Tutti\",\"Tutto\",\"n\",4,4,49,0,0,,1,0\n"
+            "\"Tutti\",\"Tutto\",\"s\",3,2,33,0,0,,3,0\n"
+            "\"Tutti\",\"Tutto\",\"c\",5,8,33,0,0,\"0\",4,0\n"
+            "\"Tutti\",\"Tutto\",\"si\",6,4,33,0,0,,5,0\n"
+            "\"Tutti\",\"Tutto\",\"d\",7,8,33,0,0,,6,0\n"
+            "\"Tutti\",\"Tutto\",\"q\",8,8,33,0,0,\"Date()\",7,0\n"
+            "\"Tutti\",\"Tutto\",\"legge494/96\",1,1,33,0,0,\"True\",8,0\n"
+            "\"Tutti\",\"Tutto\",\"m\",12,0,34,0,1,\"\"\"a, \"\"\"\"b\"\"\"\"\"\"\",9,0\n"
+            "\"Tutti\",\"Tutto\",\"bin\",9,20,34,0,0,,10,0\n"
+            "\"Tutti\",\"Tutto\",\"ole\",11,0,34,0,0,,11,0\n"
+            "\"Tutti\",\"Tutto\",\"g\",15,16,33,0,0,,12,0\n"
+            "\"Tutti\",\"Tutto\",\"t\",10,255,34,0,0,,13,0\n"
+            "\"Tutti\",\"Tutto\",\"b\",2,1,33,0,0,,40,0\n");
+}
+
+constexpr const char* office =
+    "CREATE TABLE iscritti (cd_norvo BYTE, cd_matr LONG, ds_cognome TEXT(50),\n"
+    "  CONSTRAINT PrimaryKey PRIMARY KEY (cd_norvo, cd_matr));\n"
+    "CREATE INDEX Nominativo ON iscritti (ds_cognome DESC, cd_matr) WITH IGNORE NULL;\n"
+    "CREATE TABLE eventi (nr_evento LONG, cd_matr LONG, cd_norvo BYTE);\n"
+    "CREATE UNIQUE INDEX Numero ON eventi (nr_evento);\n"
+    "ALTER TABLE eventi ADD CONSTRAINT iscritti_eventi FOREIGN KEY (cd_norvo, cd_matr)\n"
+    "  REFERENCES iscritti (cd_norvo, cd_matr) ON UPDATE CASCADE;\n";
+
+TEST_F(Catalogo, IndexesAndRelationsKeepTheOrderOfTheirFields) {
+  make(model_, office);
+  write("--create");
+  EXPECT_EQ(exported("Indici"),
+            "\"Tutti\",\"iscritti\",\"Nominativo\",0,0,1\n"
+            "\"Tutti\",\"iscritti\",\"PrimaryKey\",1,1,0\n"
+            "\"Tutti\",\"eventi\",\"Numero\",0,1,0\n");
+  EXPECT_EQ(exported("CampiIndice"),
+            "\"Tutti\",\"iscritti\",\"Nominativo\",\"ds_cognome\",1\n"
+            "\"Tutti\",\"iscritti\",\"Nominativo\",\"cd_matr\",0\n"
+            "\"Tutti\",\"iscritti\",\"PrimaryKey\",\"cd_norvo\",0\n"
+            "\"Tutti\",\"iscritti\",\"PrimaryKey\",\"cd_matr\",0\n"
+            "\"Tutti\",\"eventi\",\"Numero\",\"nr_evento\",0\n");
+  EXPECT_EQ(exported("Relazioni"), "\"Tutti\",\"iscritti_eventi\",\"iscritti\",\"eventi\",256\n");
+  EXPECT_EQ(exported("CampiRelazione"),
+            "\"Tutti\",\"iscritti_eventi\",\"cd_norvo\",\"cd_norvo\"\n"
+            "\"Tutti\",\"iscritti_eventi\",\"cd_matr\",\"cd_matr\"\n");
+}
+
+TEST_F(Catalogo, AnApplicationsModelAddsOnlyWhatAllDoNotHave) {
+  make(model_, office);
+  write("--create");
+  const std::string common = catalogue();
+  std::filesystem::remove(model_);
+  make(model_, std::string(office) +
+                   "ALTER TABLE ISCRITTI ADD COLUMN ds_cognome_ric TEXT(50);\n"
+                   "CREATE INDEX Ricerca ON iscritti (ds_cognome_ric);\n");
+  write("--norvo ordarchitetti");
+  std::string own, others;
+  std::istringstream rows(catalogue());
+  for (std::string row; std::getline(rows, row);) (row.starts_with("\"Tutti\"") ? others : own) += row + "\n";
+  EXPECT_EQ(others, common);
+  EXPECT_EQ(own,
+            "\"ordarchitetti\",\"iscritti\",\"ds_cognome_ric\",10,50,34,0,1,,3,0\n"
+            "\"ordarchitetti\",\"iscritti\",\"Ricerca\",0,0,0\n"
+            "\"ordarchitetti\",\"iscritti\",\"Ricerca\",\"ds_cognome_ric\",0\n");
+  EXPECT_EQ(exported("Norvi"), "\"ordarchitetti\"\n");
+}
+
+TEST_F(Catalogo, WritingAgainReplacesTheRowsAndKeepsWhatWasSetByHand) {
+  make(model_, office);
+  write("--create");
+  change("UPDATE CampiTabella SET UpdateDefaultValue = True WHERE Campo = 'ds_cognome'");
+  const std::string edited = catalogue();
+  write("");
+  EXPECT_EQ(catalogue(), edited);
+  std::filesystem::remove(model_);
+  make(model_, "CREATE TABLE iscritti (cd_matr LONG);\n");
+  write("");
+  EXPECT_EQ(catalogue(), "\"Tutti\",\"iscritti\",\"cd_matr\",4,4,33,0,0,,0,0\n");
+}
+
+TEST_F(Catalogo, WhatWouldNeverComeToRestIsRefusedAndNothingWritten) {
+  const struct {
+    const char *rows, *norvo, *script, *error;
+  } cases[] = {
+      {"", "ordcommec", "CREATE TABLE iscritti (ds_cognome TEXT(60));", "ds_cognome di iscritti"},
+      {"", "ordcommec",
+       "CREATE TABLE iscritti (cd_matr LONG, ds_cognome TEXT(50));\n"
+       "CREATE INDEX Nominativo ON iscritti (cd_matr, ds_cognome DESC) WITH IGNORE NULL;",
+       "L'indice Nominativo di iscritti"},
+      {"UPDATE CampiTabella SET Norvo = 'ordcommec' WHERE Campo = 'ds_cognome'", "Tutti",
+       "CREATE TABLE iscritti (ds_cognome TEXT(50));", "già nel catalogo per ordcommec"},
+      {"INSERT INTO CampiDaEliminare VALUES ('Tutti', 'ISCRITTI', 'ds_cognome')", "ordcommec",
+       "CREATE TABLE iscritti (ds_cognome TEXT(50));", "CampiDaEliminare"},
+  };
+  for (const auto& item : cases) {
+    SCOPED_TRACE(item.error);
+    std::filesystem::remove(reference_);
+    std::filesystem::remove(model_);
+    make(model_, office);
+    write("--create");
+    if (*item.rows) change(item.rows);
+    std::filesystem::remove(model_);
+    make(model_, std::string(item.script) + "\n");
+    const std::string before = content(reference_);
+    const auto result = catalogo(std::string("--norvo ") + item.norvo);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr(item.error));
+    EXPECT_TRUE(content(reference_) == before);
+  }
+}
+
+TEST_F(Catalogo, QueriesAndChosenTablesGoAlong) {
+  make(model_,
+       "CREATE TABLE [tb motivi] (cd COUNTER CONSTRAINT PrimaryKey PRIMARY KEY, ds TEXT(40) NOT NULL);\n"
+       "INSERT INTO [tb motivi] (cd, ds) VALUES (7, 'perché');\n"
+       "INSERT INTO [tb motivi] (cd, ds) VALUES (3, 'no');\n"
+       ".query [per codice] SELECT * FROM [tb motivi] ORDER BY cd\n");
+  make(reference_,
+       "CREATE TABLE [ADD_tb motivi] (vecchio TEXT(1));\n"
+       ".query [per codice] SELECT 1\n");
+  write("--add " + shellWord("tb motivi") + " --ins " + shellWord("TB MOTIVI"));
+  const auto tables = support::runCommand("mdb-tables -1 " + shellWord(reference_)).output;
+  EXPECT_THAT(tables, testing::Not(HasSubstr("link")));
+  for (const char* copy : {"ADD_tb motivi", "INS_tb motivi"})
+    EXPECT_EQ(exported(copy), "7,\"perché\"\n3,\"no\"\n");
+  EXPECT_THAT(support::runCommand("mdb-queries " + shellWord(reference_) + " 'per codice'").output,
+              HasSubstr("tb motivi"));
+}
+
+TEST_F(Catalogo, AFailureLeavesNoFileAndTellsWhatIsMissing) {
+  make(model_, office);
+  const struct {
+    std::string arguments;
+    int status;
+  } cases[] = {{"--create --add altro", 1}, {"", 1}, {"--norvo", 64}, {"--altro", 64}};
+  for (const auto& item : cases) {
+    const auto result = catalogo(item.arguments);
+    EXPECT_EQ(result.status, item.status) << item.arguments;
+    EXPECT_THAT(result.errors, HasSubstr("aggnorvo-catalogo: "));
+    EXPECT_FALSE(std::filesystem::exists(reference_)) << item.arguments;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "common/directories.h"
+#include "common/globale.h"
+#include "common/registry.h"
+#include "platform/computer.h"
+#include "platform/files.h"
+#include "platform/settings.h"
+#include "support/scripted_desktop.h"
+#include "support/temp_folder.h"
+
+namespace {
+
+using runtime::Variant;
+using namespace std::string_literals;
+
+/// A program with a folder, settings and a file of the computer of its own.
+class LookUps : public testing::Test {
+ protected:
+  ~LookUps() override {
+    common::Impostazioni = nullptr;
+    common::DirProgramma.clear();
+    platform::useComputerFile("");
+  }
+  void useSettings(const std::string& content) {
+    platform::writeWholeFile(folder_.path("impostazioni.ini"), content);
+    settings_ = std::make_unique<platform::Settings>(folder_.path("impostazioni.ini"));
+    common::Impostazioni = settings_.get();
+    common::DirProgramma = folder_.path();
+  }
+  void useComputer(const std::string& content) {
+    platform::writeWholeFile(folder_.path("computer.ini"), content);
+    platform::useComputerFile(folder_.path("computer.ini"));
+  }
+
+  support::TempFolder folder_;
+  std::unique_ptr<platform::Settings> settings_;
+};
+
+TEST(Directories, AreClosedByOneBar) {
+  const struct {
+    const char *path, *closed;
+  } cases[] = {{"C:\\Windows", "C:\\Windows\\"},
+               {"C:\\Windows/", "C:\\Windows/"},
+               {"C:\\ ", "C:\\ "},
+               {" C:\\Win  ", " C:\\Win\\"},
+               {"", "\\"},
+               {"  ", "\\"}};
+  for (const auto& test : cases) {
+    std::string path = test.path;
+    common::AggiungiBarra(path);
+    EXPECT_EQ(path, test.closed) << '"' << test.path << '"';
+  }
+  EXPECT_EQ(common::TroncaAlNul("ab\0c\0"s), "ab");
+  EXPECT_EQ(common::TroncaAlNul("\0"s), "");
+  EXPECT_EQ(common::TroncaAlNul("abc"), "abc");
+}
+
+TEST_F(LookUps, FindTheDirectoryOfADatabaseAndTheOneAbove) {
+  useSettings(
+      "[Prova\\DBSECTION]\ndbPath=C:\\Prog\\db\\Dati.mdb\n[Radice\\dbsection]\nDBPATH=C:\\Dati.mdb\n"
+      "[Nuda\\DBSECTION]\ndbPath=Dati.mdb\n[Cima\\DBSECTION]\ndbPath=\\Dati.mdb\n"
+      "[Rete\\DBSECTION]\ndbPath=\\\\srv\\è\\Dati.mdb\n[Barre\\DBSECTION]\ndbPath=/srv/db/a.mdb\n");
+  const struct {
+    const char* application;
+    std::int32_t level;
+    const char* directory;
+  } cases[] = {
+      {"PROVA", 0, "C:\\Prog\\db\\"},
+      {"Prova", 1, "C:\\Prog\\"},
+      {"Prova", 2, "C:\\Prog\\db\\"},
+      {"Prova", -1, "C:\\Prog\\db\\"},
+      {"Radice", 0, "C:\\"},
+      {"Radice", 1, ""},
+      {"Nuda", 0, ""},
+      {"Nuda", 1, ""},
+      {"Cima", 0, "\\"},
+      {"Cima", 1, ""},
+      {"Rete", 0, "\\\\srv\\è\\"},
+      {"Rete", 1, "\\\\srv\\"},
+      {"Barre", 1, "\\srv\\"},
+      {"Altra", 0, ""},
+      {"Altra", 1, ""},
+  };
+  for (const auto& test : cases)
+    EXPECT_EQ(common::GetDBParentDir(test.application, test.level), test.directory)
+        << test.application << " " << test.level;
+}
+
+TEST_F(LookUps, FindTheDirectoriesOfAnApplicationByKind) {
+  useSettings("[Prova\\DBSECTION]\ndbPath=C:\\Prog\\db\\Dati.mdb\n");
+  useComputer("[Computer]\nNome=UFFICIO1\n");
+  ASSERT_EQ(::setenv("TeMp", "/tmp/ mia", 1), 0);
+  const struct {
+    std::int32_t kind;
+    std::string known, unknown;
+  } cases[] = {
+      {0, "C:\\Prog\\Tesserini\\", "Tesserini\\"},
+      {1, "C:\\Prog\\Stampe\\", "Stampe\\"},
+      {2, "C:\\Prog\\Scan\\", "Scan\\"},
+      {3, "C:\\Prog\\AllegatiUFFICIO1\\", "AllegatiUFFICIO1\\"},
+      {4, folder_.path() + "\\Temp\\", folder_.path() + "\\Temp\\"},
+      {5, "C:\\Prog\\db\\", ""},
+      {6, "/tmp/ mia", "/tmp/ mia"},
+      {7, "", ""},
+      {-1, "", ""},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(common::VerificaDir(test.kind, "Prova"), test.known) << test.kind;
+    EXPECT_EQ(common::VerificaDir(test.kind, "Altra"), test.unknown) << test.kind;
+  }
+  ::unsetenv("TeMp");
+}
+
+TEST_F(LookUps, ReportAnErrorOnceAndGiveNothing) {
+  common::DirProgramma = folder_.path();  // and no settings at all
+  support::ScriptedDesktop desktop;
+  controls::DesktopScope scope(desktop);
+  desktop.expectBox("GetDBParentDir\r\nErrore N° 5\r\n", controls::vbOK);
+  EXPECT_EQ(common::VerificaDir(common::DirDatabaseNorvo, "Prova"), "");
+  EXPECT_EQ(desktop.left(), 0u);
+  EXPECT_EQ(platform::readWholeFile(folder_.path("error.log")).find("Procedura: GetDBParentDir\r\n"), 0u);
+  // A report that can't be written leaves its procedure: an error inside the trap of the one that called it.
+  common::DirProgramma = folder_.path("manca");
+  EXPECT_THROW(common::VerificaDir(common::DirDatabaseNorvo, "Prova"), runtime::Error);
+}
+
+TEST_F(LookUps, GiveTheDirectoriesOfTheSystemClosed) {
+  useComputer("[Computer]\nWindows=/srv/windows\nSystem=C:\\Windows\\System32\\\n");
+  EXPECT_EQ(common::DirWindows(), "\\srv\\windows\\");
+  EXPECT_EQ(common::DirSystem(), "C:\\Windows\\System32\\");
+  useComputer("");
+  EXPECT_EQ(common::DirWindows(), "");
+  EXPECT_EQ(common::DirSystem(), "");
+}
+
+TEST_F(LookUps, ConvertARegistryValueByItsType) {
+  const std::string longText(5000, 'x');
+  useComputer("[HKEY_LOCAL_MACHINE\\Chiave]\n@=\ntesto=%TEMP%\\è\nlungo=" + longText +
+              "\nnumero=dword:ffffffff\ncorto=hex(4):02,01\nbyte=hex:00,ff\nelenco=hex(7):61,00,62,00,00\n"
+              "zero=hex(1):\nmonco=hex(7):00\naltro=hex(b):01\n");
+  const auto read = [](const char* name, const Variant& otherwise = {}) {
+    return common::LeggiRegistro(platform::RegistryRoot::LocalMachine, "Chiave", name, otherwise);
+  };
+  const struct {
+    const char* name;
+    std::string text;
+  } texts[] = {{"", ""},     {"testo", "%TEMP%\\è"}, {"lungo", longText}, {"elenco", "a\0b"s},
+               {"zero", ""}, {"monco", ""}};
+  for (const auto& test : texts) {
+    EXPECT_TRUE(read(test.name).isText()) << test.name;
+    EXPECT_EQ(read(test.name).toText(), test.text) << test.name;
+  }
+  EXPECT_EQ(read("numero").kind(), Variant::Kind::Long);
+  EXPECT_EQ(read("numero").toLong(), -1);
+  EXPECT_EQ(read("corto").toLong(), 258);
+  EXPECT_EQ(std::get<runtime::Bytes>(read("byte").value()), (runtime::Bytes{std::byte{0}, std::byte{255}}));
+  for (const char* name : {"altro", "manca"}) {
+    try {
+      read(name, "predefinito");
+      ADD_FAILURE() << name;
+    } catch (const runtime::Error& error) {
+      EXPECT_EQ(error.number(), 1001) << name;
+      EXPECT_EQ(error.description(), "Unsupported value type");
+    }
+  }
+  const auto missing = [](const Variant& otherwise) {
+    return common::LeggiRegistro(platform::RegistryRoot::CurrentUser, "Chiave", "testo", otherwise);
+  };
+  EXPECT_TRUE(missing({}).isEmpty());
+  EXPECT_EQ(missing(std::int32_t{7}).toLong(), 7);
+}
+
+TEST_F(LookUps, FindInstalledProgramsInTheirTable) {
+  useComputer(
+      "[App Paths]\nprova.exe=C:\\Prog\\Prova.exe\nbarre.exe=/srv/norvo/barre.exe\nvuoto.exe=\n"
+      "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\senza.exe]\n"
+      "Path=C:\\Prog\n");
+  EXPECT_EQ(common::LeggiAppPath("PROVA.EXE"), "C:\\Prog\\Prova.exe");
+  EXPECT_EQ(common::LeggiAppPath("barre.exe"), "\\srv\\norvo\\barre.exe");
+  EXPECT_EQ(common::LeggiAppPath("vuoto.exe"), "");
+  EXPECT_EQ(common::LeggiAppPath("manca.exe"), "");
+  EXPECT_EQ(common::LeggiAppPath(""), "");
+  EXPECT_THROW(common::LeggiAppPath("senza.exe"), runtime::Error);
+}
+
+}  // namespace
