@@ -88,10 +88,11 @@ void equalDatabase(const std::string& folder, int tables, int fields) {
     }));
     reads = reading.calls;
   }
-  const double pages = static_cast<double>(std::filesystem::file_size(platform::toSystemPath(target))) / 4096;
+  const double megabytes =
+      static_cast<double>(std::filesystem::file_size(platform::toSystemPath(target))) / 1e6;
   report("an equal database of 60 tables and 1,500 fields", median(times), "s", "<", 0.5);
-  report("  its file", pages, "pages", "", 0);
-  report("  pages read of it", static_cast<double>(reads), "", "", 0);
+  report("  its file", megabytes, "MB", "", 0);
+  report("  reads of it, a megabyte at most each", static_cast<double>(reads), "", "", 0);
 }
 
 /// A column of the large table, and what a rebuild makes of it.
@@ -100,6 +101,8 @@ struct Rebuild {
   int type, size;
 };
 
+/// The bound holds for a file just opened, as an update finds it; rows that are in memory already show what
+/// the rest is made of.
 void rebuiltField(const std::string& folder, const Rebuild& field, bool loaded) {
   const std::string office = folder + "\\office.mdb", reference = folder + "\\field-reference.mdb";
   makeFieldReference(reference, "storico_quote", field.column, field.type, field.size);
@@ -129,7 +132,7 @@ void rebuiltField(const std::string& folder, const Rebuild& field, bool loaded) 
       std::string("field ") + field.column + (loaded ? ", rows loaded" : ", file just opened");
   report((name + ": UPDATE").c_str(), median(updating), "s", "", 0);
   report("  rebuilding it", median(rebuilding), "s", "", 0);
-  report("  in times of the UPDATE", median(rebuilding) / median(updating), "x", "<=", 2);
+  report("  in times of the UPDATE", median(rebuilding) / median(updating), "x", "<=", loaded ? 0 : 2);
 }
 
 void run(const std::string& systemFolder, long rows) {

@@ -78,7 +78,9 @@ void addRow(Recordset& rows, long row) {
 }  // namespace
 
 void makeOffice(const std::string& path, long rows) {
-  const auto database = DBEngine::Workspaces(0)->CreateDatabase(path);
+  Workspace workspace;
+  const auto database = workspace.CreateDatabase(path);
+  workspace.BeginTrans();  // without one each row pays for a commit of its own
   for (const char* statement : smallTables) database->Execute(statement, dbFailOnError);
   database->Execute(largeTable, dbFailOnError);
   database->Execute("CREATE INDEX Iscritto ON storico_quote (cd_matr)", dbFailOnError);
@@ -86,6 +88,7 @@ void makeOffice(const std::string& path, long rows) {
   for (long row = 1; row <= rows; ++row) addRow(*table, row);
   table->Close();
   database->Close();
+  workspace.CommitTrans();
 }
 
 void makeReference(const std::string& path) {

@@ -79,6 +79,7 @@ void makeEqualPair(const std::string& target, const std::string& reference, int 
   makeReference(reference);
   Workspace workspace;
   const auto db = workspace.CreateDatabase(target), catalogue = workspace.OpenDatabase(reference, true);
+  workspace.BeginTrans();
   for (int table = 0; table < tables; ++table) {
     const std::string name = "tabella_" + std::to_string(table);
     const std::string parent = table ? "tabella_" + std::to_string(table - 1) : "";
@@ -87,6 +88,7 @@ void makeEqualPair(const std::string& target, const std::string& reference, int 
   }
   db->Close();
   catalogue->Close();
+  workspace.CommitTrans();
 }
 
 void makeFieldReference(const std::string& path, const std::string& table, const std::string& field, int type,

@@ -122,6 +122,20 @@ TEST(Program, ListsWhatTheWindowWouldOffer) {
   EXPECT_THAT(none.errors, HasSubstr("Database mancante"));
 }
 
+TEST(Program, ShowsAPlanAndWritesNothing) {
+  Office office;
+  const std::string before = platform::readWholeFile(office.target);
+  const auto plan = runCommand(command(office, "--batch --plan --app collgeometri"));
+  EXPECT_EQ(plan.status, 3) << plan.errors;
+  EXPECT_EQ(plan.output, "Tabella ragioniere - campo ds_regione_certificatore_energetico in modifica\n");
+  EXPECT_EQ(platform::readWholeFile(office.target), before);
+  EXPECT_THAT(office.dataFiles(), ElementsAre("studio.mdb"));
+  EXPECT_FALSE(platform::fileExists(office.log));
+  const auto refused = runCommand(command(office, "--batch --plan --app ordmedici"));
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_THAT(refused.errors, HasSubstr("Applicazione non installata"));
+}
+
 TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
   const struct {
     const char* arguments;
@@ -134,6 +148,7 @@ TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
                {"--batch --bach", 64, "", "argomento non previsto: --bach"},
                {"--batch --app", 64, "", "numero di valori errato"},
                {"--batch --answer forse", 64, "", "valore non valido"},
+               {"--plan", 64, "", "manca un'opzione"},
                {"--list --app ordmedici", 64, "", "manca un'opzione"},
                {"--patch", 64, "", "numero di valori errato"},
                {"--patch /manca --list", 64, "", "opzioni incompatibili"},

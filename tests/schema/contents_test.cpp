@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "study.h"
+#include "support/disk_faults.h"
 
 namespace {
 
@@ -90,6 +91,30 @@ TEST(Contents, ComeFromTheReference) {
     }
     EXPECT_EQ(study.faults(), "");
   }
+}
+
+/// The reference, open already, can't be opened a second time.
+class UnreadableLink : public platform::DiskObserver {
+ public:
+  void before(const platform::DiskCall& call) override {
+    if (call.operation == platform::DiskOperation::Open && call.path.ends_with("AggNorvo.mdb") &&
+        opened_++ > 0)
+      throw platform::DiskError(platform::DiskFault::Io, call.path);
+  }
+
+ private:
+  int opened_ = 0;
+  support::ObservedDisk scope_{*this};
+};
+
+TEST(Contents, ThatCanNotBeReadAreNoSuccess) {
+  Study study(reference("ADD_codici", {"1, 'a'"}), target({"2, 'x'"}));
+  EXPECT_EQ((UnreadableLink(), study.plan()), "1\n");
+  const UnreadableLink fault;
+  const auto update = study.update();
+  EXPECT_EQ(update.status, console::FailedChanged);
+  EXPECT_EQ(update.contents, None + "\n- tabella codici  ");
+  EXPECT_THAT(study::described(study.office.target), HasSubstr("codici(c 4, d 10(9)) PK[PU c] : 2,x\n"));
 }
 
 /// Stores queries in a file.
