@@ -33,6 +33,24 @@ const char* const largeTable =
     "ds_nominativo TEXT(100), dt_pagamento DATETIME, ip_quota CURRENCY, nr_aliquota DOUBLE, fl_pagata YESNO, "
     "ds_causale TEXT(255), ds_note MEMO)";
 
+const char* const referenceTables[] = {
+    "CREATE TABLE Norvi (norvo TEXT(50))",
+    "INSERT INTO Norvi VALUES ('ordcommec')",
+    "CREATE TABLE CampiTabella (Norvo TEXT(50), Tabella TEXT(64), Campo TEXT(64), Tipo INTEGER, Dimensione "
+    "LONG, "
+    "Attributi LONG, Required YESNO, AllowZeroLength YESNO, DefaultValue TEXT(255), OrdinalPosition INTEGER, "
+    "UpdateDefaultValue YESNO)",
+    "CREATE TABLE CampiDaEliminare (Norvo TEXT(50), Tabella TEXT(64), Campo TEXT(64))",
+    "CREATE TABLE Indici (Norvo TEXT(50), Tabella TEXT(64), Indice TEXT(64), [Primary] YESNO, [Unique] "
+    "YESNO, "
+    "IgnoreNulls YESNO)",
+    "CREATE TABLE CampiIndice (Norvo TEXT(50), Tabella TEXT(64), Indice TEXT(64), Campo TEXT(64), Attributi "
+    "LONG)",
+    "CREATE TABLE Relazioni (Norvo TEXT(50), Relazione TEXT(64), [Table] TEXT(64), ForeignTable TEXT(64), "
+    "Attributi LONG)",
+    "CREATE TABLE CampiRelazione (Norvo TEXT(50), Relazione TEXT(64), Campo TEXT(64), ForeignName TEXT(64))",
+};
+
 /// A text of believable length that differs from row to row.
 std::string causale(long row) {
   return "Quota d'iscrizione all'albo per l'anno " + std::to_string(1960 + row % 47) +
@@ -72,8 +90,7 @@ void makeOffice(const std::string& path, long rows) {
 
 void makeReference(const std::string& path) {
   const auto database = DBEngine::Workspaces(0)->CreateDatabase(path);
-  database->Execute("CREATE TABLE Norvi (norvo TEXT(50))", dbFailOnError);
-  database->Execute("INSERT INTO Norvi VALUES ('ordcommec')", dbFailOnError);
+  for (const char* statement : referenceTables) database->Execute(statement, dbFailOnError);
   database->Close();
 }
 
