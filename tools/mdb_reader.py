@@ -33,19 +33,22 @@ def indexes(file):
 
 
 def relations(file):
-    """Relation -> its attributes and pairs of fields."""
+    """Relation -> its attributes and pairs of fields; those between the tables of an engine are left out."""
     found = {}
     for row in rows(file, "MSysRelationships"):
+        if row["szObject"].startswith("MSys"):
+            continue
         pair = "{szReferencedObject}.{szReferencedColumn} -> {szObject}.{szColumn} ({grbit})".format(**row)
         found.setdefault(row["szRelationship"], []).append((int(row["icolumn"]), pair))
     return {name: [pair for _, pair in sorted(pairs)] for name, pairs in found.items()}
 
 
 def queries(file):
-    """Query -> the rows that its text is kept in."""
+    """Query -> the rows that its text is kept in, by kind; an option that is off may be left out."""
     names = {row["Id"]: row["Name"] for row in rows(file, "MSysObjects") if row["Type"] == "5"}
     found = {name: [] for name in names.values()}
     for row in rows(file, "MSysQueries"):
         kept = [row[column] or "-" for column in ("Attribute", "Name1", "Name2", "Expression", "Flag")]
-        found[names[row["ObjectId"]]].append(" ".join(kept))
-    return found
+        if (row["Attribute"], row["Flag"]) != ("3", "0"):
+            found[names[row["ObjectId"]]].append(" ".join(kept))
+    return {name: sorted(lines) for name, lines in found.items()}

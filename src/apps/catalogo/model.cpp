@@ -53,6 +53,8 @@ std::vector<Thing> indexesOf(Database& model, const std::string& norvo) {
 std::vector<Thing> relationsOf(Database& model, const std::string& norvo) {
   std::vector<Thing> relations;
   for (const auto& relation : model.Relations()) {
+    if (!isData(*model.TableDefs(relation->Table())) || !isData(*model.TableDefs(relation->ForeignTable())))
+      continue;
     Thing thing{
         {norvo, relation->Name(), relation->Table(), relation->ForeignTable(), relation->Attributes()}, {}};
     for (const auto& pair : relation->Fields())
