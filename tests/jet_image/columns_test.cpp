@@ -209,7 +209,7 @@ TEST(Columns, OnesThatWereDroppedAreForgottenByCompaction) {
   EXPECT_EQ(desk.rows("SELECT * FROM t WHERE v = 1 OR v IS NULL ORDER BY nome"),
             "Anna|-1|2.5|1|-1|lungo Bo|0|Null|Null|0|Null");
   EXPECT_EQ(office::exported(desk.path(), "t"),
-            "nome,si,v,b,m,d\n\"Anna\",1,1,1,\"lungo\",2.5\n\"Bo\",0,,0,,\n");
+            "nome,si,d,v,b,m\n\"Anna\",1,2.5,1,1,\"lungo\"\n\"Bo\",0,,,0,\n");
   EXPECT_EQ(desk.error("UPDATE t SET v = 2"), 3201);
   EXPECT_EQ(desk.error("UPDATE t SET nome = '9'"), 3317);
   EXPECT_EQ(grow(5), 5);
