@@ -18,7 +18,7 @@ bool isRelations(const LogicalIndex& index) {
 void putOwnIndexesFirst(TableDefinition& table) {
   std::vector<std::uint32_t> order;
   for (std::uint32_t real = 0; real < table.realIndexes.size(); ++real) order.push_back(real);
-  std::ranges::stable_partition(order, [&table](std::uint32_t real) {
+  std::stable_partition(order.begin(), order.end(), [&table](std::uint32_t real) {
     return std::ranges::any_of(table.logicalIndexes, [real](const LogicalIndex& index) {
       return index.real == real && !isRelations(index);
     });
