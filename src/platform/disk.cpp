@@ -137,11 +137,11 @@ void File::grantLike(const std::string& model) {
   system::grantLike(handle_->native, model);
 }
 
-/// `done` says that the new name holds, also where the file could not be taken up again under it.
-void File::replaceFileAt(const std::string& path, bool& done) {
+void File::beforeReplacement() {
   system::closeForReplacement(handle_->native);
-  replaceFile(handle_->path, path);
-  done = true;
+}
+
+void File::afterReplacement(const std::string& path) {
   handle_->path = path;
   system::openAfterReplacement(handle_->native, path, handle_->held);
 }

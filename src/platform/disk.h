@@ -113,7 +113,8 @@ class File {
   friend class Replacement;
   void takePermissionsOf(const std::string& model);
   void grantLike(const std::string& model);
-  void replaceFileAt(const std::string& path, bool& done);
+  void beforeReplacement();
+  void afterReplacement(const std::string& path);
   struct Handle;
   std::unique_ptr<Handle> handle_;
 };

@@ -21,7 +21,10 @@ Replacement::~Replacement() {
 File Replacement::publish(std::optional<LockMode> lock) {
   file_.flush();
   if (lock && !file_.tryLock(*lock)) throw DiskError(DiskFault::Sharing, temporary_);
-  file_.replaceFileAt(path_, renamed_);
+  file_.beforeReplacement();
+  replaceFile(temporary_, path_);
+  renamed_ = true;  // also where the file can't be taken up again under its new name
+  file_.afterReplacement(path_);
   flushFolder(containingFolder(path_));
   return std::move(file_);
 }
