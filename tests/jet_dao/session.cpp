@@ -1,6 +1,8 @@
 #include "session.h"
 
+#include <filesystem>
 #include <functional>
+#include <sstream>
 #include <stdexcept>
 
 #include "platform/disk.h"
@@ -98,6 +100,16 @@ const std::map<std::string, RecordsetType> Kinds = {{"table", dbOpenTable},
                                                     {"snapshot", dbOpenSnapshot},
                                                     {"forward", dbOpenForwardOnly}};
 
+/// The rule of a field, or of a table.
+void setRule(Database& db, const std::string& owner, const std::string& rule) {
+  const auto [name, field] = cut(owner, ".");
+  const auto table = db.TableDefs(name);
+  if (field.empty())
+    table->Properties().Append(table->CreateProperty("ValidationRule", dbMemo, rule));
+  else
+    table->Fields(field).setValidationRule(rule);
+}
+
 }  // namespace
 
 std::string Session::run(std::string line) {
@@ -130,7 +142,7 @@ std::string Session::command(const std::string& text) {
     return onRecordset(*rows->second, member, rest);
   if (const auto query = queries_.find(name); query != queries_.end())
     return onQuery(*query->second, member, rest);
-  if (word == "SELECT") return rows(*db_->OpenRecordset(text));
+  if (word == "SELECT" && text.find(" INTO ") == std::string::npos) return rows(*db_->OpenRecordset(text));
   if (std::isupper(static_cast<unsigned char>(word.at(0)))) {
     db_->Execute(text, dbFailOnError);
     return {};
@@ -154,6 +166,12 @@ std::string Session::database(const std::string& name, const std::string& rest) 
   } else if (name == "try") {
     db_->Execute(rest);
     return std::to_string(db_->RecordsAffected());
+  } else if (name == "relate") {
+    relate(rest);
+  } else if (name == "unrelate") {
+    db_->Relations().Delete(rest);
+  } else if (name == "rule") {
+    setRule(*db_, cut(rest, " ").first, cut(rest, " ").second);
   } else if (name == "rename") {
     const auto [field, target] = cut(rest, " ");
     db_->TableDefs(cut(field, ".").first)->Fields(cut(field, ".").second).setName(target);
@@ -166,26 +184,43 @@ std::string Session::database(const std::string& name, const std::string& rest) 
   return {};
 }
 
+/// "NAME TABLE FOREIGN ATTRIBUTES field=foreign,..."
+void Session::relate(const std::string& text) {
+  std::istringstream words(text);
+  std::string name, table, foreign, pair;
+  int attributes = 0;
+  words >> name >> table >> foreign >> attributes >> std::ws;
+  const auto relation = db_->CreateRelation(name, table, foreign, attributes);
+  while (std::getline(words, pair, ','))
+    relation->Fields().Append(relation->CreateField(cut(pair, "=").first, cut(pair, "=").second));
+  db_->Relations().Append(relation);
+}
+
 std::string Session::file(const std::string& name, const std::string& rest) {
   if (name == "saved") return query(path_, rest);
   if (name == "exported") {
     const std::string table = exported(path_, rest);
     return table.substr(0, table.find_last_not_of('\n') + 1);
   }
-  if (name == "faults") return complaints(path_);
+  if (name == "schema") {
+    const auto schema = support::runCommand("mdb-schema " + system(path_)).output;
+    return schema.find(rest) == std::string::npos ? "no" : "yes";
+  }
   if (name == "compare") return platform::readWholeFile(path_) == bytes_ ? "same" : "changed";
   if (name == "remember") {
     bytes_ = platform::readWholeFile(path_);
+  } else if (name == "faults") {
+    checked_.push_back(folder_.path(std::to_string(checked_.size()) + ".mdb"));
+    platform::copyFile(path_, checked_.back());
   } else if (name == "new") {
+    restart();
+    std::filesystem::remove(platform::toSystemPath(path_));
     db_ = workspace_->CreateDatabase(path_);
   } else if (name == "keep") {
     db_->Close();
     platform::copyFile(path_, kept_);
   } else if (name == "again") {
-    recordsets_.clear();
-    queries_.clear();
-    db_.reset();
-    workspace_.emplace();
+    restart();
     platform::replaceFile(kept_, path_);
     platform::copyFile(path_, kept_);
     open(rest);
@@ -193,6 +228,13 @@ std::string Session::file(const std::string& name, const std::string& rest) {
     throw std::logic_error("no command " + name);
   }
   return {};
+}
+
+void Session::restart() {
+  recordsets_.clear();
+  queries_.clear();
+  db_.reset();
+  workspace_.emplace();
 }
 
 void Session::open(const std::string& how) {

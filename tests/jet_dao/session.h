@@ -16,32 +16,41 @@ namespace office {
 ///   NAME = KIND SOURCE   opens a recordset: any, table, dynaset, snapshot, forward; or a query: query SQL
 ///   NAME.Member VALUE    a member of the object, as the DAO calls it
 ///   NAME.field [= VALUE] a field's or a parameter's value
+///   relate NAME TABLE FOREIGN ATTRIBUTES field=foreign,..., unrelate NAME     relations
+///   rule TABLE[.FIELD] RULE, default FIELD VALUE, rename FIELD NAME   what a design says
 ///   open HOW, close, begin, commit, rollback, end     the database, its transactions, the workspace
 ///   new, keep, again     a new file; keeps it; goes on with what was kept
 ///   remember, compare    the file's bytes, and whether they are still the same
-///   saved QUERY, exported TABLE, faults               what the closed file holds, for us and for others
+///   saved QUERY, exported TABLE      what the closed file holds, for us and for another reader
+///   schema PART          whether it stands in the schema as another reader shows it
+///   faults               keeps the closed file for the checker
 class Session {
  public:
   /// `kind` stands where the lines say KIND.
   explicit Session(std::string kind) : kind_(std::move(kind)) {}
   /// What the commands give, joined by blanks; at an error its number, and what follows is left out.
   std::string run(std::string line);
+  /// What the checker has against the files that "faults" kept, which are numbered from 0.
+  std::string faults() const { return complaints(checked_); }
 
  private:
   std::string command(const std::string& text);
   std::string file(const std::string& name, const std::string& rest);
   std::string database(const std::string& name, const std::string& rest);
+  void relate(const std::string& text);
   std::string made(const std::string& name, const std::string& kind, const std::string& source);
   std::string onRecordset(jet::dao::Recordset& rows, const std::string& member, const std::string& rest);
   std::string onQuery(jet::dao::QueryDef& query, const std::string& member, const std::string& rest);
   /// Of the literals between commas.
   std::vector<runtime::Variant> values(const std::string& literals);
+  void restart();
   void open(const std::string& how);
 
   const std::string kind_;
   support::TempFolder folder_;
   const std::string path_ = folder_.path("a.mdb"), kept_ = folder_.path("kept.mdb");
   std::string bytes_;
+  std::vector<std::string> checked_;
   std::optional<jet::dao::Workspace> workspace_{std::in_place};
   jet::dao::DatabasePtr db_;
   std::map<std::string, jet::dao::RecordsetPtr> recordsets_;
