@@ -88,6 +88,12 @@ const std::map<std::string, Member> Members = {
        return std::to_string(found.size()) + "x" + std::to_string(found.at(0).size());
      }},
     {"Rows", [](Recordset& rows, const std::string&) { return office::rows(rows); }},
+    {"Names",
+     [](Recordset& rows, const std::string&) {
+       std::string names;
+       for (const auto& field : rows.Fields()) names += (names.empty() ? "" : " ") + field.Name();
+       return names;
+     }},
     {"At",
      [](Recordset& rows, const std::string&) {
        const std::string beside = place(rows);
@@ -172,6 +178,12 @@ std::string Session::database(const std::string& name, const std::string& rest) 
     db_->Relations().Delete(rest);
   } else if (name == "rule") {
     setRule(*db_, cut(rest, " ").first, cut(rest, " ").second);
+  } else if (name == "store") {
+    db_->CreateQueryDef(cut(rest, " = ").first, cut(rest, " = ").second);
+  } else if (name == "drop") {
+    db_->QueryDefs().Delete(rest);
+  } else if (name == "run") {
+    db_->Execute(rest, dbFailOnError);
   } else if (name == "rename") {
     const auto [field, target] = cut(rest, " ");
     db_->TableDefs(cut(field, ".").first)->Fields(cut(field, ".").second).setName(target);
@@ -244,6 +256,8 @@ void Session::open(const std::string& how) {
 std::string Session::made(const std::string& name, const std::string& kind, const std::string& source) {
   if (kind == "query")
     queries_[name] = db_->CreateQueryDef("", source);
+  else if (kind == "stored")
+    queries_[name] = db_->QueryDefs(source);
   else if (kind == "any")
     recordsets_[name] = db_->OpenRecordset(source);
   else if (kind == "clone")
@@ -280,6 +294,12 @@ std::string Session::onQuery(QueryDef& query, const std::string& member, const s
   } else if (member == "Try") {
     query.Execute();
     return std::to_string(query.RecordsAffected());
+  } else if (member == "Rows") {
+    return rows(*query.OpenRecordset());
+  } else if (member == "Text") {
+    return query.SQL();
+  } else if (member == "Name") {
+    query.setName(rest);
   } else if (member == "SQL") {
     query.setSQL(rest);
   } else if (member == "Parameters") {

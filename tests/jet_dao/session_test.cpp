@@ -29,6 +29,7 @@ TEST(Sessions, GoAsTheirLinesSay) {
       {"refusals"},
       {"rules"},
       {"domains"},
+      {"stored_queries"},
   };
   for (const auto& [file, kinds] : all)
     for (const char* kind : kinds) {
