@@ -11,18 +11,24 @@
 namespace office {
 
 /// Runs lines of commands that stand between " ; ", and keeps what they made for the lines after them:
-///   a statement          carried out, all or nothing; a SELECT gives its rows
-///   try STATEMENT        carried out without its refused rows; the number of rows changed
-///   NAME = KIND SOURCE   opens a recordset: any, table, dynaset, snapshot, forward; or a query: query SQL,
-///   stored QUERY store QUERY = SQL, drop QUERY, run QUERY NAME.Member VALUE    a member of the object, as
-///   the DAO calls it NAME.field [= VALUE] a field's or a parameter's value relate NAME TABLE FOREIGN
-///   ATTRIBUTES field=foreign,..., unrelate NAME     relations rule TABLE[.FIELD] RULE, default FIELD VALUE,
-///   rename FIELD NAME   what a design says open HOW, close, begin, commit, rollback, end     the database,
-///   its transactions, the workspace new, keep, again     a new file; keeps it; goes on with what was kept
-///   remember, compare    the file's bytes, and whether they are still the same
-///   saved QUERY, exported TABLE      what the closed file holds, for us and for another reader
-///   schema PART          whether it stands in the schema as another reader shows it
-///   faults               keeps the closed file for the checker
+///   a statement               carried out, all or nothing; a SELECT gives its rows
+///   try STATEMENT             carried out without its refused rows; the number of rows changed
+///   NAME = KIND SOURCE        a recordset: any, table, dynaset, snapshot, forward; clone or narrowed NAME
+///   NAME = query SQL          a query without a name; "stored QUERY": one of the database
+///   NAME.Member VALUE         a member of the object, as the DAO calls it
+///   NAME.field [= VALUE]      a field's or a parameter's value
+///   NAME.Keep MARK            a bookmark, for NAME.Bookmark MARK and NAME.MoveFrom MARK COUNT
+///   store QUERY = SQL, drop QUERY, run QUERY
+///   relate NAME TABLE FOREIGN ATTRIBUTES field=foreign,..., unrelate NAME
+///   rule TABLE[.FIELD] RULE, default FIELD VALUE, rename FIELD NAME
+///   open HOW, close, end      the database, the workspace; exclusive, shared, readonly
+///   begin, commit, rollback
+///   new, keep, again HOW      a new file; keeps it; goes on with what was kept
+///   remember, compare         the file's bytes, and whether they are still the same
+///   saved QUERY               what the closed file holds
+///   exported TABLE            the same as another reader sees it
+///   schema PART               whether another reader's schema holds this
+///   faults                    keeps the closed file for the checker
 class Session {
  public:
   /// `kind` stands where the lines say KIND.

@@ -8,11 +8,11 @@
 
 #include "runtime/date.h"
 #include "runtime/date_arithmetic.h"
-#include "runtime/error.h"
 #include "runtime/format.h"
 #include "runtime/like.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "shown.h"
 
 namespace runtime {
 namespace {
@@ -216,14 +216,12 @@ class Expression {
 }  // namespace
 
 std::string resultOf(std::string_view text) {
-  try {
+  return shown([&] {
     Expression expression(text);
     const Variant value = expression.value();
     if (!expression.atEnd()) throw std::logic_error("too much: " + std::string(text));
     return value.toText();
-  } catch (const Error& error) {
-    return "error " + std::to_string(error.number());
-  }
+  });
 }
 
 }  // namespace runtime
