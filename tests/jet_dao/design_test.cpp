@@ -87,46 +87,6 @@ TEST(Design, ACompactCopyShowsWhatItsIndexesAreMadeOfAfterOneIsGone) {
   EXPECT_EQ(office::complaints(compact, "--strict --allow id-gap"), "");
 }
 
-struct Refusal {
-  const char* sql;
-  int error;
-};
-
-TEST(Design, RefusedStatementsLeaveNothing) {
-  const support::TempFolder folder;
-  const std::string path = folder.path("ogni.mdb");
-  office::make(path, EveryType);
-  const auto before = platform::readWholeFile(path);
-  const Refusal refusals[] = {
-      {"INSERT INTO Ogni (t, l) VALUES ('', 0)", 3022},
-      {"INSERT INTO Ogni (id, t) VALUES (1, 'x')", 3022},
-      {"UPDATE Ogni SET t = 'stesso', l = 1", 3022},
-      {"INSERT INTO Ogni (l) VALUES (1)", 3314},
-      {"UPDATE Ogni SET t = NULL", 3314},
-      {"UPDATE Ogni SET id = NULL", 3058},
-      {"UPDATE Ogni SET t = '0123456789012345678901234567890' WHERE id = 1", 3163},
-      {"CREATE TABLE ogni (a LONG)", 3010},
-      {"CREATE TABLE nuova (a LONG, A TEXT)", 3191},
-      {"CREATE TABLE [a.b] (a LONG)", 3125},
-      {"CREATE UNIQUE INDEX doppi ON Ogni (si)", 3022},
-      {"CREATE INDEX pk ON Ogni (l)", 3284},
-      {"CREATE INDEX nuovo ON Ogni (manca)", 3409},
-      {"CREATE INDEX nuovo ON Ogni (o)", 3290},
-      {"DROP TABLE manca", 3376},
-      {"DROP INDEX manca ON Ogni", 3372},
-      {"DROP TABLE MSysObjects", 3111},
-      {"SELECT * FROM Ogni", 3065},
-      {"UPDATE manca SET a = 1", 3078},
-      {"UPDATE Ogni SET l = manca", 3061},
-  };
-  Workspace workspace;
-  const auto db = workspace.OpenDatabase(path, true);
-  for (const auto& [sql, error] : refusals)
-    EXPECT_EQ(errorOf([&, text = sql] { db->Execute(text, dbFailOnError); }), error) << sql;
-  db->Close();
-  EXPECT_EQ(platform::readWholeFile(path), before);
-}
-
 TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
   const support::TempFolder folder;
   const std::string path = folder.path("ogni.mdb");
@@ -179,20 +139,6 @@ TEST(Design, DroppedTablesAndIndexesGiveTheirPagesBack) {
   const auto size = platform::inspectFile(path)->size;
   office::make(folder.path("b.mdb"), EveryType);
   EXPECT_LE(size, platform::inspectFile(folder.path("b.mdb"))->size + 16 * 4096);
-}
-
-TEST(Design, CountersGoOnWhereTheyStood) {
-  const support::TempFolder folder;
-  const std::string path = folder.path("a.mdb");
-  office::make(path, {"CREATE TABLE t (n COUNTER, a TEXT)", "INSERT INTO t (a) VALUES ('x')",
-                      "INSERT INTO t (n, a) VALUES (41, 'y')", "DELETE * FROM t WHERE n = 41"});
-  Workspace workspace;
-  const auto db = workspace.OpenDatabase(path, true);
-  const auto rows = db->OpenRecordset("t");
-  rows->AddNew();
-  rows->Fields("a").setValue("z");
-  rows->Update();
-  EXPECT_EQ(office::rows(*rows), "1|x 42|z");
 }
 
 }  // namespace

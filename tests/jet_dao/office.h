@@ -66,12 +66,18 @@ inline std::string jetData() {
   return folder ? folder : "";
 }
 
-/// Complaints of the checker about a file; empty where it is clean, or where the checker is not at hand.
-inline std::string complaints(const std::string& path, const std::string& options = "--strict") {
-  if (jetData().empty()) return {};
-  const auto result = support::runCommand("python3 " + support::shellWord(jetData() + "/jet/jetcheck.py") +
-                                          " " + options + " " + system(path));
+/// Complaints of the checker about files, in one run of it; empty where they are clean, or where the checker
+/// is not at hand.
+inline std::string complaints(const std::vector<std::string>& paths,
+                              const std::string& options = "--strict") {
+  if (jetData().empty() || paths.empty()) return {};
+  std::string command = "python3 " + support::shellWord(jetData() + "/jet/jetcheck.py") + " " + options;
+  for (const auto& path : paths) command += " " + system(path);
+  const auto result = support::runCommand(command);
   return result.status == 0 ? std::string() : result.output + result.errors;
+}
+inline std::string complaints(const std::string& path, const std::string& options = "--strict") {
+  return complaints(std::vector{path}, options);
 }
 
 /// Number of the error that `work` ends in; 0 if it ends in none.

@@ -57,91 +57,7 @@ class StoredQueries : public testing::Test {
   DatabasePtr db_;
 };
 
-TEST_F(StoredQueries, StandWhereATableStands) {
-  store("Con comune",
-        "SELECT cd_matr, ds_cognome, ds_comune FROM ragioniere AS r INNER JOIN comune AS c ON "
-        "r.cd_comune = c.cd_comune");
-  store("Di Abano", "SELECT ds_cognome FROM [Con comune] WHERE ds_comune = 'Abano' ORDER BY ds_cognome DESC");
-  store("Tutti i nomi", "SELECT ds_cognome AS nome FROM ragioniere UNION SELECT ds_comune FROM comune");
-  store("Per comune",
-        "PARAMETERS parComune Text; SELECT cd_matr FROM ragioniere WHERE cd_comune = parComune");
-  store("Incrocio",
-        "TRANSFORM Count(*) SELECT Left(ds_cognome, 1) AS iniziale FROM ragioniere GROUP BY "
-        "Left(ds_cognome, 1) PIVOT cd_comune IN ('A001', 'B002')");
-  for (int pass = 0; pass < 2; ++pass) {
-    EXPECT_EQ(read("Incrocio"), "B|Null|1 R|1|Null V|1|Null");
-    EXPECT_EQ(read("SELECT iniziale FROM Incrocio WHERE A001 = 1 ORDER BY iniziale"), "R V");
-    EXPECT_EQ(read("Di Abano"), "Verdi Rossi");
-    EXPECT_EQ(read("SELECT Count(*) FROM [tutti I nomi] WHERE nome LIKE 'B*'"), "2");
-    EXPECT_EQ(read("SELECT x.ds_cognome FROM [Di Abano] AS x, comune WHERE ds_comune = 'Bari' ORDER BY 1"),
-              "Rossi Verdi");
-    // The query's parameters are those of the statement around it.
-    const auto query = db_->CreateQueryDef("", "SELECT Count(*) FROM [Per comune] WHERE cd_matr > [da]");
-    EXPECT_EQ(errorOf([&] { query->OpenRecordset(); }), 3061);
-    query->Parameters("parComune").setValue("A001");
-    query->Parameters("da").setValue(std::int32_t{1});
-    EXPECT_EQ(rows(*query->OpenRecordset()), "1");
-    reopen();
-  }
-  EXPECT_EQ(office::complaints((db_->Close(), path_)), "");
-}
-
-TEST_F(StoredQueries, ACrosstabHasAsManyColumnsAsItsRowsHaveValues) {
-  db_->Execute(
-      "CREATE TABLE rata (id LONG, anno LONG, data DATETIME, importo CURRENCY, tipo TEXT(9), si BIT)");
-  for (const char* row : {"5, 2025, #2/1/2025#, 10.5, 'b.c', True", "1, 2025, #1/31/2025#, 4, 'a', False",
-                          "3, 2026, #1/31/2025#, 2, Null, False", "2, 2026, #1/31/2025#, 7, 'a', True"})
-    db_->Execute("INSERT INTO rata VALUES (" + std::string(row) + ")", dbFailOnError);
-  const struct {
-    const char *value, *pivot, *names, *rows;
-  } cases[] = {
-      {"Sum(importo)", "tipo", "<> a b_c", "2025|Null|4|10,5 2026|2|7|Null"},
-      {"Count(*)", "importo", "2 4 7 10,5", "2025|Null|1|Null|1 2026|1|Null|1|Null"},
-      {"First(importo)", "data", "31/01/2025 01/02/2025", "2025|4|10,5 2026|2|Null"},
-      {"Last(id)", "1", "1", "2025|1 2026|2"},
-      {"Max(id) - Min(id)", "si", "-1 0", "2025|0|0 2026|0|0"},
-      {"Sum(id)", "Format(data, 'mm') & '!'", "01_ 02_", "2025|1|5 2026|5|Null"},
-      {"Sum(id)", "id / 10", "0,1 0,2 0,3 0,5", "2025|1|Null|Null|5 2026|Null|2|3|Null"},
-  };
-  for (const auto& test : cases) {
-    const auto found = db_->OpenRecordset(std::string("TRANSFORM ") + test.value + " SELECT anno FROM rata " +
-                                          "GROUP BY anno PIVOT " + test.pivot);
-    std::string names;
-    for (std::size_t i = 1; i < found->Fields().Count(); ++i)
-      names += (i > 1 ? " " : "") + found->Fields(i).Name();
-    EXPECT_EQ(names, test.names) << test.pivot;
-    EXPECT_EQ(rows(*found), test.rows) << test.pivot;
-  }
-
-  store("Per tipo",
-        "PARAMETERS dal Long; TRANSFORM Sum(importo) SELECT anno FROM rata WHERE anno >= [dal] "
-        "GROUP BY anno PIVOT tipo");
-  store("Sopra", "TRANSFORM Sum([a]) SELECT 'a' AS chi FROM [Per tipo] GROUP BY 'a' PIVOT anno");
-  const auto above = db_->QueryDefs("Sopra");
-  EXPECT_EQ(errorOf([&] { above->OpenRecordset(); }), 3061);
-  above->Parameters("dal").setValue(std::int32_t{2025});
-  EXPECT_EQ(rows(*above->OpenRecordset()), "a|4|7");
-  const auto kept = db_->CreateQueryDef("", "SELECT * INTO copia FROM [Per tipo]");
-  kept->Parameters("dal").setValue(std::int32_t{2026});
-  kept->Execute(dbFailOnError);
-  EXPECT_EQ(read("copia"), "2026|2|7");
-  db_->Execute("DROP TABLE copia");
-  db_->Execute("INSERT INTO rata (anno, tipo, importo) VALUES (2026, 'z', 1)", dbFailOnError);
-  kept->Execute(dbFailOnError);
-  EXPECT_EQ(read("copia"), "2026|2|7|1");
-  EXPECT_EQ(errorOf([&] {
-              read("TRANSFORM Sum(id) SELECT anno FROM rata WHERE id > [manca] GROUP BY anno PIVOT tipo");
-            }),
-            3070);
-}
-
-TEST_F(StoredQueries, ARingOfThemIsAnError) {
-  store("Uno", "SELECT * FROM Due");
-  store("Due", "SELECT * FROM Uno");
-  store("Se stessa", "SELECT * FROM [Se stessa]");
-  EXPECT_EQ(errorOf([&] { read("Uno"); }), 3360);
-  EXPECT_EQ(errorOf([&] { read("Se stessa"); }), 3360);
-
+TEST_F(StoredQueries, ThatFailAreNamedWhereTheyAreUsed) {
   store("Rotta", "SELECT a FROM nessuna");
   try {
     read("SELECT * FROM ragioniere, Rotta");
@@ -152,59 +68,6 @@ TEST_F(StoredQueries, ARingOfThemIsAnError) {
     EXPECT_NE(error.description().find("Rotta"), std::string::npos) << error.description();
     EXPECT_NE(error.description().find("nessuna"), std::string::npos) << error.description();
   }
-}
-
-TEST_F(StoredQueries, ActionsRunByTheirName) {
-  store("Trasloca",
-        "PARAMETERS parDa Text; UPDATE ragioniere SET cd_comune = 'B002' WHERE cd_comune = parDa");
-  store("Svuota comuni", "DELETE FROM comune");
-  db_->Execute("Svuota comuni", dbFailOnError);
-  EXPECT_EQ(db_->RecordsAffected(), 2);
-  EXPECT_EQ(errorOf([&] { db_->Execute("Trasloca", dbFailOnError); }), 3061);
-  const auto query = db_->QueryDefs("trasloca");
-  query->Parameters(std::size_t{0}).setValue("A001");
-  query->Execute(dbFailOnError);
-  EXPECT_EQ(query->RecordsAffected(), 2);
-  EXPECT_EQ(errorOf([&] { db_->OpenRecordset("Trasloca"); }), 3219);
-  EXPECT_EQ(errorOf([&] { read("SELECT * FROM Trasloca"); }), 3078);
-  EXPECT_EQ(errorOf([&] { db_->Execute("Nessuna", dbFailOnError); }), 3129);
-  store("Elenco", "SELECT * FROM ragioniere");
-  EXPECT_EQ(errorOf([&] { db_->Execute("Elenco", dbFailOnError); }), 3065);
-  EXPECT_EQ(errorOf([&] { db_->OpenRecordset("Elenco", dbOpenTable); }), 3219);
-}
-
-TEST_F(StoredQueries, ExecuteGivesTheParametersByTheirPlaces) {
-  store("Trasloca",
-        "PARAMETERS parDa Text, parA Text; UPDATE ragioniere SET cd_comune = [parA] WHERE cd_comune "
-        "= [parDa] AND cd_matr < [fino]");
-  store("Chi sta a", "PARAMETERS dove Text; SELECT ds_cognome FROM ragioniere WHERE cd_comune = dove");
-  db_->Execute("EXECUTE Trasloca 'A001', Left('C003bis', 4), 1 + 1", dbFailOnError);
-  EXPECT_EQ(db_->RecordsAffected(), 1);
-  EXPECT_EQ(rows(*db_->OpenRecordset("EXEC [chi sta a] 'C003';")), "Rossi");
-  const std::pair<const char*, int> wrong[] = {
-      {"EXECUTE Trasloca 'A001', 'B002'", 3061}, {"EXECUTE [Chi sta a] 'A001', 1", 3061},
-      {"EXECUTE [Chi sta a] dove", 3075},        {"EXECUTE Nessuna", 3078},
-      {"EXECUTE [Chi sta a] 'A001'", 3065},
-  };
-  for (const auto& [sql, number] : wrong)
-    EXPECT_EQ(errorOf([&, text = sql] { db_->Execute(text, dbFailOnError); }), number) << sql;
-}
-
-TEST_F(StoredQueries, ThatOnlySelectRowsLetThemBeChanged) {
-  store("Di Abano",
-        "PARAMETERS dove Text; SELECT r.* FROM ragioniere AS r WHERE r.cd_comune = [dove] OR cd_matr = 2");
-  store("Nomi", "SELECT DISTINCT ds_cognome FROM ragioniere");
-  const auto run = [&](const char* sql) {
-    const auto query = db_->CreateQueryDef("", sql);
-    query->Parameters("dove").setValue("A001");
-    query->Execute(dbFailOnError);
-    return query->RecordsAffected();
-  };
-  EXPECT_EQ(run("UPDATE [Di Abano] SET ds_cognome = UCase(ds_cognome) WHERE [Di Abano].cd_matr < 3"), 2);
-  EXPECT_EQ(run("DELETE FROM [Di Abano] AS d WHERE d.cd_matr <> 1"), 2);
-  EXPECT_EQ(read("ragioniere"), "1|ROSSI|A001");
-  EXPECT_EQ(errorOf([&] { db_->Execute("UPDATE Nomi SET ds_cognome = 'x'", dbFailOnError); }), 3073);
-  EXPECT_EQ(errorOf([&] { db_->Execute("DELETE FROM Nomi", dbFailOnError); }), 3073);
 }
 
 TEST_F(StoredQueries, AreRewrittenInPlace) {
@@ -239,48 +102,6 @@ TEST_F(StoredQueries, AreRewrittenInPlace) {
   EXPECT_EQ(names(), "Modifica Altra");
   EXPECT_EQ(db_->QueryDefs("Modifica")->SQL(), text);
   EXPECT_EQ(read("SELECT Expression FROM MSysQueries WHERE Attribute = 77"), "x");
-}
-
-TEST_F(StoredQueries, NamesAreTakenOnceAndFreedAgain) {
-  store("Elenco", "SELECT * FROM nessuna");
-  EXPECT_EQ(errorOf([&] { store("elenco", "SELECT 1"); }), 3012);
-  EXPECT_EQ(errorOf([&] { store("Ragioniere", "SELECT 1"); }), 3012);
-  EXPECT_EQ(errorOf([&] { store("Sbagliata", "SELECT a FROM T WHERE a ="); }), 3075);
-  EXPECT_EQ(errorOf([&] { db_->Execute("CREATE TABLE Elenco (a LONG)"); }), 3012);
-  EXPECT_EQ(errorOf([&] { db_->QueryDefs().Delete("Sbagliata"); }), 3265);
-  const auto query = db_->QueryDefs("Elenco");
-  db_->QueryDefs().Delete("ELENCO");
-  EXPECT_EQ(errorOf([&] { query->SQL(); }), 3420);
-  EXPECT_EQ(errorOf([&] { db_->QueryDefs("Elenco"); }), 3265);
-  EXPECT_EQ(read("SELECT Count(*) FROM MSysQueries"), "0");
-  db_->Execute("CREATE TABLE Elenco (a LONG)");
-  EXPECT_EQ(read("Elenco"), "");
-  workspace_.BeginTrans();
-  store("Nuova", "SELECT 2");
-  EXPECT_EQ(read("Nuova"), "2");
-  workspace_.Rollback();
-  EXPECT_EQ(names(), "");
-  EXPECT_EQ(errorOf([&] { read("SELECT * FROM Nuova"); }), 3078);
-  // A text that was read before is not taken for the one that is there now.
-  store("Cambia", "SELECT 1 AS n");
-  EXPECT_EQ(read("SELECT n FROM Cambia"), "1");
-  db_->QueryDefs("Cambia")->setSQL("SELECT 2 AS n");
-  EXPECT_EQ(read("SELECT n FROM Cambia"), "2");
-  db_->Execute("UPDATE MSysQueries SET Expression = '3' WHERE Attribute = 6");
-  EXPECT_EQ(read("SELECT n FROM Cambia"), "3");
-  db_->QueryDefs("Cambia")->setName("Cambiata");
-  EXPECT_EQ(errorOf([&] { read("SELECT n FROM Cambia"); }), 3078);
-}
-
-TEST_F(StoredQueries, NothingIsStoredInAReadOnlyDatabase) {
-  store("Elenco", "SELECT * FROM ragioniere");
-  db_->Close();
-  db_ = workspace_.OpenDatabase(path_, false, true);
-  EXPECT_EQ(errorOf([&] { store("Altra", "SELECT 1"); }), 3027);
-  EXPECT_EQ(errorOf([&] { db_->QueryDefs("Elenco")->setSQL("SELECT 1"); }), 3027);
-  EXPECT_EQ(errorOf([&] { db_->QueryDefs("Elenco")->setName("Altra"); }), 3027);
-  EXPECT_EQ(errorOf([&] { db_->QueryDefs().Delete("Elenco"); }), 3027);
-  EXPECT_EQ(read("SELECT Count(*) FROM Elenco"), "3");
 }
 
 TEST_F(StoredQueries, AreSeenByASecondReader) {

@@ -7,61 +7,6 @@ namespace {
 
 using office::errorOf;
 
-TEST(Validation, ARowThatBreaksARuleIsRefusedHoweverItComes) {
-  struct Case {
-    const char *column, *rule, *value;
-    int error;
-  };
-  const Case cases[] = {
-      {"n", ">0", "0", 3317},
-      {"n", ">0", "NULL", 0},
-      {"n", "<>0 And <10", "10", 3317},
-      {"n", "Is Null Or >5", "5", 3317},
-      {"n", "Is Null Or >5", "NULL", 0},
-      {"n", "Not Null", "NULL", 3317},
-      {"n", "Not In (1, 2)", "2", 3317},
-      {"n", "Between 1 And 9 Or -1", "-1", 0},
-      {"n", "Between 1 And 9 Or -1", "10", 3317},
-      {"n", "Not Between 1 And 9", "4", 3317},
-      {"n", "[n] Mod 2 = 0", "3", 3317},
-      {"s", "Like 'A*'", "'abc'", 0},
-      {"s", "Like 'A*'", "'bca'", 3317},
-      {"s", "\"M\" Or \"F\"", "'f'", 0},
-      {"s", "\"M\" Or \"F\"", "'x'", 3317},
-      {"s", "Len([s]) = 3 And Not Like '*[!a-z]*'", "'ab1'", 3317},
-      {"d", "<#1/1/2000#", "#12/31/2001#", 3317},
-      {"", "[n] > [m]", "1", 3316},
-      {"", "[n] > [m] Or s Is Null", "NULL", 0},
-      {"n", ">", "1", 3075},
-      {"n", "> [manca]", "1", 3387},
-      {"n", "> (SELECT Max(n) FROM t)", "1", 3387},
-  };
-  support::TempFolder folder;
-  const auto path = folder.path("a.mdb");
-  office::make(path,
-               {"CREATE TABLE t (n LONG, m LONG, s TEXT(9), d DATETIME)", "INSERT INTO t (m) VALUES (1)"});
-  for (const auto& each : cases) {
-    SCOPED_TRACE(std::string(each.rule) + " " + each.value);
-    Workspace workspace;
-    const auto db = workspace.OpenDatabase(path, true);
-    workspace.BeginTrans();
-    const auto table = db->TableDefs("t");
-    const std::string column = *each.column ? each.column : "n";
-    if (*each.column)
-      table->Fields(column).setValidationRule(each.rule);
-    else
-      table->Properties().Append(table->CreateProperty("ValidationRule", dbMemo, each.rule));
-    EXPECT_EQ(errorOf([&] {
-                db->Execute("INSERT INTO t (m, " + column + ") VALUES (2, " + each.value + ")",
-                            dbFailOnError);
-              }),
-              each.error);
-    const std::string update = "UPDATE t SET " + column + " = " + each.value + ", m = 2 WHERE m = 1";
-    EXPECT_EQ(errorOf([&] { db->Execute(update, dbFailOnError); }), each.error);
-    workspace.Rollback();
-  }
-}
-
 TEST(Validation, RulesFollowTheirPropertiesAndHoldInRecordsets) {
   support::TempFolder folder;
   const auto path = folder.path("a.mdb");

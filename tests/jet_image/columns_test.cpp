@@ -177,7 +177,7 @@ TEST(Columns, AlteredOnesKeepTheirPlaceAndTheirValues) {
     EXPECT_EQ(platform::readWholeFile(desk.path()) == before, error != 0);
   }
   // The rows that are Null in a column that has become required are allowed to stay.
-  const auto complaints = desk::complaints(paths, "--strict --allow required-null");
+  const auto complaints = office::complaints(paths, "--strict --allow required-null");
   EXPECT_EQ(complaints, "");
 }
 

@@ -100,17 +100,6 @@ class Desk {
   std::unique_ptr<jet::dao::Session> session_;
 };
 
-/// The checker's complaints about several files, in one run of it.
-inline std::string complaints(const std::vector<std::string>& paths,
-                              const std::string& options = "--strict") {
-  if (office::jetData().empty() || paths.empty()) return {};
-  std::string command =
-      "python3 " + support::shellWord(office::jetData() + "/jet/jetcheck.py") + " " + options;
-  for (const auto& path : paths) command += " " + office::system(path);
-  const auto result = support::runCommand(command);
-  return result.status == 0 ? std::string() : result.output + result.errors;
-}
-
 /// A relation between two tables with these column pairs.
 inline image::RelationDesign relation(const std::string& name, const std::string& table,
                                       const std::string& foreignTable,

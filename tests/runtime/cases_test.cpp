@@ -1,0 +1,18 @@
+#include <gtest/gtest.h>
+
+#include "call.h"
+#include "support/case_file.h"
+
+namespace runtime {
+namespace {
+
+/// Each file holds calls and what they give.
+TEST(Cases, GiveWhatTheLanguageGives) {
+  for (const char* file : {"conversions", "dates", "formats", "numbers", "texts"})
+    support::CaseFile(CASES "/" + std::string(file) + ".cases").expectResults([](const support::Case& each) {
+      return resultOf(each.statement);
+    });
+}
+
+}  // namespace
+}  // namespace runtime
