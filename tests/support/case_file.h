@@ -5,6 +5,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -18,6 +19,39 @@ struct Case {
   std::string look;                                          // "@ LOOK"
   std::string result;                                        // "=> RESULT"
 };
+
+/// The fields of a statement, parted by " | ". {HH} is a byte, {} nothing: an empty field, or the place of a
+/// blank at an end.
+inline std::vector<std::string> fieldsOf(const std::string& statement) {
+  std::vector<std::string> fields(1);
+  for (std::size_t at = 0; at < statement.size(); ++at) {
+    const std::size_t close = statement.find('}', at);
+    if (statement.compare(at, 3, " | ") == 0) {
+      fields.emplace_back();
+      at += 2;
+    } else if (statement[at] == '{' && (close == at + 1 || close == at + 3)) {
+      if (close == at + 3)
+        fields.back() += static_cast<char>(std::stoi(statement.substr(at + 1, 2), nullptr, 16));
+      at = close;
+    } else {
+      fields.back() += statement[at];
+    }
+  }
+  return fields;
+}
+
+/// A text as it stands in a case file: each control character as {HH}.
+inline std::string inBraces(std::string_view text) {
+  std::string shown;
+  for (const unsigned char letter : text) {
+    if (letter >= ' ') {
+      shown += static_cast<char>(letter);
+    } else {
+      shown += {'{', "0123456789ABCDEF"[letter / 16], "0123456789ABCDEF"[letter % 16], '}'};
+    }
+  }
+  return shown;
+}
 
 /// Reads a text of cases. A case is a statement, then lines "? NAME = VALUE" and "@ LOOK" where it needs
 /// them, and its result: "=> RESULT", on a line of its own or behind the last of these. Lines that go on are
