@@ -91,22 +91,13 @@ TEST(Run, ThatEndsNormallyLeavesTheUpdatedFileItsBackupAndItsSummary) {
               ElementsAre(controls::MousePointer::Hourglass, controls::MousePointer::Default));
 }
 
-/// The texts under a name of a case.
-std::vector<std::string> all(const support::Case& end, const char* name) {
-  std::vector<std::string> texts;
-  for (const auto& [key, value] : end.answers)
-    if (key == name) texts.push_back(value);
-  return texts;
-}
-
-std::string one(const support::Case& end, const char* name, const char* otherwise = "") {
-  const std::vector<std::string> texts = all(end, name);
-  return texts.empty() ? otherwise : texts.front();
-}
-
 /// Fails calls on a file while the summary holds a text, or ends with it if the text ends with a blank.
 struct Fault {
-  explicit Fault(const std::string& text) : fields(support::fieldsOf(text)) { fields.resize(4); }
+  explicit Fault(const support::Case& end) {
+    for (const auto& [name, text] : end.answers)
+      if (name == "fault") fields = support::fieldsOf(text);
+    fields.resize(4);
+  }
 
   void judge(const DiskCall& call, const std::string& summary) const {
     static const std::map<std::string, DiskOperation> operations = {{"Write", DiskOperation::Write},
@@ -149,22 +140,21 @@ std::string endOf(const support::Case& end) {
                                                      {Esito::NonRimossa, "NonRimossa"},
                                                      {Esito::Ripristinata, "Ripristinata"}};
   Office office;
-  office.makeTarget(with(office::oldInstallation(), all(end, "design")));
-  leave(one(end, "leftover"), office.file("Newstudio.mdb"));
+  office.makeTarget(with(office::oldInstallation(), end.all("design")));
+  leave(end.one("leftover"), office.file("Newstudio.mdb"));
   const std::string before = platform::readWholeFile(office.target);
-  const Fault fault(one(end, "fault"));
+  const Fault fault(end);
   Window window(office);
-  window.desktop.setEventsHook(changing(window, one(end, "meanwhile")));
+  window.desktop.setEventsHook(changing(window, end.one("meanwhile")));
   {
     OnDisk faults([&](const DiskCall& call) { fault.judge(call, window.summary()); });
-    window.update(one(end, "application", "collgeometri"));
+    window.update(end.one("application", "collgeometri"));
   }
-  for (const std::string& part : all(end, "summary"))
-    EXPECT_THAT(window.summary(), HasSubstr(support::fieldsOf(part)[0]));
-  const std::vector<std::string> boxes = all(end, "box");
+  for (const std::string& part : end.all("summary")) EXPECT_THAT(window.summary(), HasSubstr(part));
+  const std::vector<std::string> boxes = end.all("box");
   EXPECT_EQ(window.desktop.boxes.size(), boxes.size());
   for (std::size_t box = 0; box < std::min(boxes.size(), window.desktop.boxes.size()); ++box)
-    EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(support::fieldsOf(boxes[box])[0]));
+    EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(boxes[box]));
   const Esito esito = window.form.UltimaCorsa.esito;
   const std::string kept = office.file("ErrUnioncol20261116171600.mdb");
   EXPECT_EQ(platform::fileExists(kept), esito == Esito::Ripristinata);

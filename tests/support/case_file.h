@@ -11,15 +11,6 @@
 
 namespace support {
 
-/// A case of a case file, and the line where it begins.
-struct Case {
-  int line = 0;
-  std::string statement;
-  std::vector<std::pair<std::string, std::string>> answers;  // "? NAME = VALUE"
-  std::string look;                                          // "@ LOOK"
-  std::string result;                                        // "=> RESULT"
-};
-
 /// The fields of a statement, parted by " | ". {HH} is a byte, {} nothing: an empty field, or the place of a
 /// blank at an end.
 inline std::vector<std::string> fieldsOf(const std::string& statement) {
@@ -39,6 +30,27 @@ inline std::vector<std::string> fieldsOf(const std::string& statement) {
   }
   return fields;
 }
+
+/// A case of a case file, and the line where it begins.
+struct Case {
+  int line = 0;
+  std::string statement;
+  std::vector<std::pair<std::string, std::string>> answers;  // "? NAME = VALUE"
+  std::string look;                                          // "@ LOOK"
+  std::string result;                                        // "=> RESULT"
+
+  /// The values under a name, and the first of them; {HH} in them is a byte.
+  std::vector<std::string> all(std::string_view name) const {
+    std::vector<std::string> values;
+    for (const auto& [key, value] : answers)
+      if (key == name) values.push_back(fieldsOf(value)[0]);
+    return values;
+  }
+  std::string one(std::string_view name, const char* otherwise = "") const {
+    const std::vector<std::string> values = all(name);
+    return values.empty() ? otherwise : values.front();
+  }
+};
 
 /// A text as it stands in a case file: each control character as {HH}.
 inline std::string inBraces(std::string_view text) {
