@@ -4,24 +4,13 @@
 
 #include "common/globale.h"
 #include "common/text.h"
-#include "platform/clock.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "runtime/date.h"
+#include "support/fixed_clock.h"
 #include "support/scripted_desktop.h"
 #include "support/temp_folder.h"
 
 namespace {
-
-class StoppedClock : public platform::Clock {
- public:
-  StoppedClock() : before_(platform::setClock(this)) {}
-  ~StoppedClock() override { platform::setClock(before_); }
-  runtime::Date now() override { return runtime::dateFromParts(2026, 11, 3, 9, 5, 7); }
-
- private:
-  platform::Clock* before_;
-};
 
 class ErrorLog : public testing::Test {
  protected:
@@ -29,7 +18,7 @@ class ErrorLog : public testing::Test {
   ~ErrorLog() override { common::DirProgramma.clear(); }
   std::string log() const { return platform::readWholeFile(folder.path("error.log")); }
 
-  StoppedClock clock;
+  support::FixedClock clock;
   support::TempFolder folder;
   support::ScriptedDesktop desktop;
   controls::DesktopScope scope{desktop};
@@ -42,7 +31,7 @@ TEST_F(ErrorLog, GetsARecordForEachErrorAndABoxTellsIt) {
   common::GestisciErrore(error, "Start", false, "");
   const std::string lines = "Errore N° 76\r\nSorgente: Patch\r\nDescrizione: Cartella inesistente: è";
   const auto record = [&](const std::string& procedure) {
-    return platform::toCodePage1252("Procedura: " + procedure + "\r\nData: 03/11/2026\r\nOra: 09:05:07\r\n" +
+    return platform::toCodePage1252("Procedura: " + procedure + "\r\nData: 16/11/2026\r\nOra: 17:16:00\r\n" +
                                     lines + "\r\n\r\n");
   };
   EXPECT_EQ(log(), record("GetPaths") + record("Start"));
@@ -98,7 +87,7 @@ TEST_F(ErrorLog, OfUnattendedUpdatesLiesBesideTheDatabase) {
   common::PercorsoLog = folder.path("DB\\a.mdb");
   common::ScriviLogAggiornamenti("è fatto", 0);
   common::ScriviLogAggiornamenti("ancora", 0);
-  const std::string first = "03/11/26 09:05 - è fatto\r\n", second = "03/11/26 09:05 - ancora\r\n";
+  const std::string first = "16/11/26 17:16 - è fatto\r\n", second = "16/11/26 17:16 - ancora\r\n";
   EXPECT_EQ(platform::readWholeFile(folder.path("AggiornamentiAutomaticiLog.txt")),
             platform::toCodePage1252(first + "\r\n" + second + "\r\n"));
   EXPECT_EQ(common::LogAutomatico, first + "\r\n" + second + "\r\n");
@@ -107,26 +96,6 @@ TEST_F(ErrorLog, OfUnattendedUpdatesLiesBesideTheDatabase) {
   common::ModoAutomatico = false;
   common::LogAutomatico.clear();
   common::PercorsoLog.clear();
-}
-
-TEST(Changes, AreTold) {
-  using runtime::Null;
-  using runtime::Variant;
-  const struct {
-    Variant before, after, always;
-    bool newLine;
-    const char* text;
-  } cases[] = {
-      {"a", "b", false, false, "Via: sostituito [a] con [b]"},
-      {" 1", "1", false, true, ""},
-      {std::int32_t{1}, "1 ", true, true, "Via: invariato [1]\r\n"},
-      {Null{}, "x", Null{}, true, "Via: sostituito [] con [x]\r\n"},
-      {Null{}, Variant(), true, false, "Via: invariato []"},
-      {"A", "a", false, false, "Via: sostituito [A] con [a]"},
-  };
-  for (const auto& test : cases)
-    EXPECT_EQ(common::DescriviVariazione("Via", test.before, test.after, test.always, test.newLine),
-              test.text);
 }
 
 }  // namespace

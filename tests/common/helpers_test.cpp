@@ -1,115 +1,91 @@
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <map>
 
+#include "common/directories.h"
+#include "common/error_log.h"
 #include "common/files.h"
 #include "common/globale.h"
 #include "common/records.h"
 #include "common/text.h"
 #include "jet/dao/engine.h"
 #include "platform/files.h"
+#include "runtime/shown.h"
+#include "support/case_file.h"
 #include "support/temp_folder.h"
 
 namespace {
 
-/// Number of the error that `work` raises; 0 without one.
-int number(const std::function<void()>& work) {
-  try {
-    work();
-    return 0;
-  } catch (const runtime::Error& error) {
-    return error.number();
-  }
+runtime::Variant variant(const std::string& text) {
+  if (text == "Null") return runtime::Null{};
+  if (text == "Empty") return {};
+  if (text == "True" || text == "False") return text == "True";
+  return text;
 }
 
-TEST(Text, IsReplacedFromAPlaceANumberOfTimes) {
-  const struct {
-    const char *text, *sought, *fresh;
-    std::int32_t start, count, mode;
-    const char* result;
-  } cases[] = {
-      {"aaa", "a", "b", 2, -1, common::ConfrontoEsatto, "bb"},
-      {"perché è così", "è", "E'", 9, 0, common::ConfrontoEsatto, " così"},
-      {"D'Amico l'8", "'", "''", -3, -1, common::ConfrontoEsatto, "D''Amico l''8"},
-      {"aXaxa", "x", "xx", 1, 1, common::ConfrontoEsatto, "aXaxxa"},
-      {"CÀ cà Cà", "Cà", "casa", 1, 2, common::ConfrontoTesto, "casa casa Cà"},
-      {"abc", "b", "", 9, -1, common::ConfrontoEsatto, ""},
-  };
-  for (const auto& test : cases)
-    EXPECT_EQ(common::Sostituisci(test.text, test.sought, test.fresh, test.start, test.count, test.mode),
-              test.result);
-  EXPECT_THROW(common::SostituisciTutto("a", "", "b"), runtime::Error);
+std::string inBrackets(const std::vector<std::string>& parts) {
+  std::string shown;
+  for (const std::string& part : parts) shown += "[" + part + "]";
+  return shown;
 }
 
-TEST(Text, TellsTheChosenOccurrence) {
-  const struct {
-    std::int32_t which, start;
-    const char *text, *sought;
-    std::int32_t mode, position;
-  } cases[] = {
-      {1, 1, "C:\\è\\a", "\\", 0, 3}, {2, 1, "C:\\è\\a", "\\", 0, 5}, {-1, 1, "C:\\è\\a", "\\", 1, 5},
-      {3, 1, "C:\\è\\a", "\\", 0, 0}, {-1, 1, "abc", "x", 0, 0},      {2, 1, "aaa", "aa", 0, 2},
-      {1, 3, "aaa", "a", 0, 3},       {2, 3, "aaa", "a", 0, 0},       {1, 1, "aÈ", "è", 1, 2},
-      {1, 1, "aÈ", "è", 0, 0},        {0, 1, "aaa", "a", 0, 0},       {-2, 1, "aaa", "a", 0, 0},
-      {1, 9, "aaa", "a", 0, 0},       {2, 1, "abc", "", 0, 2},
-  };
-  for (const auto& test : cases)
-    EXPECT_EQ(common::InStrEx(test.which, test.start, test.text, test.sought, test.mode).toLong(),
-              test.position)
-        << test.which << " da " << test.start << " in " << test.text;
+using Fields = std::vector<std::string>;
+
+std::string closed(const Fields& f) {
+  std::string path = f[1];
+  common::AggiungiBarra(path);
+  return path;
 }
 
-TEST(Text, CountsOccurrencesThatOverlap) {
-  EXPECT_EQ(common::ContaOccorrenze("aaa", "aa"), 2);
-  EXPECT_EQ(common::ContaOccorrenze("perché È perché", "è"), 0);
-  EXPECT_EQ(common::ContaOccorrenze("perché è perché", "é"), 2);
-  EXPECT_EQ(common::ContaOccorrenze("", "a"), 0);
+std::string tag(const Fields& f) {
+  std::string value = "prima";
+  return (common::LeggiTag(f[1], f[2], value) ? "True " : "False ") + value;
+}
+
+// clang-format off
+const std::map<std::string, std::string (*)(const Fields&)> Functions = {
+    {"Sostituisci", [](const Fields& f) {
+       return common::Sostituisci(f[1], f[2], f[3], std::stoi(f[4]), std::stoi(f[5]), std::stoi(f[6])); }},
+    {"SostituisciTutto", [](const Fields& f) { return common::SostituisciTutto(f[1], f[2], f[3]); }},
+    {"InStrEx", [](const Fields& f) {
+       return common::InStrEx(std::stoi(f[1]), std::stoi(f[2]), f[3], f[4], std::stoi(f[5])).toText(); }},
+    {"ContaOccorrenze", [](const Fields& f) { return std::to_string(common::ContaOccorrenze(f[1], f[2])); }},
+    {"SenzaAccenti", [](const Fields& f) { return common::SenzaAccenti(f[1]); }},
+    {"SoloCifre", [](const Fields& f) { return common::SoloCifre(f[1]); }},
+    {"Maiuscolo", [](const Fields& f) { return common::Maiuscolo(f[1]); }},
+    {"Dividi", [](const Fields& f) {
+       return inBrackets(common::Dividi(f[1], f[2], std::stoi(f[3]), std::stoi(f[4]))); }},
+    {"LeggiTag", tag},
+    {"DescriviVariazione", [](const Fields& f) {
+       return common::DescriviVariazione("Via", variant(f[1]), variant(f[2]), variant(f[3]), f[4] == "True"); }},
+    {"CodiceEventoEffettivo", [](const Fields& f) {
+       return common::CodiceEventoEffettivo(variant(f[1]), variant(f[2])); }},
+    {"AggiungiBarra", closed},
+    {"TroncaAlNul", [](const Fields& f) { return common::TroncaAlNul(f[1]); }},
+};
+// clang-format on
+
+TEST(Helpers, GiveWhatTheSuiteExpects) {
+  support::CaseFile(CASES "/helpers.cases").expectResults([](const support::Case& each) {
+    const Fields fields = support::fieldsOf(each.statement);
+    return support::inBraces(runtime::shown([&] { return Functions.at(fields[0])(fields); }));
+  });
+}
+
+TEST(Text, MayBeLong) {
   EXPECT_EQ(common::ContaOccorrenze(std::string(200'000, 'a'), "a"), 200'000);
-}
-
-TEST(Text, LosesAccentsAndAllButLettersOrDigits) {
-  EXPECT_EQ(common::SenzaAccenti("Forlì"), "FORLI");
-  EXPECT_EQ(common::SenzaAccenti("L'Aquila 2"), "LAQUILA");
-  EXPECT_EQ(common::SenzaAccenti("Perché ðŠžÿßæÇñ"), "PERCHEOSZYCN");
-  EXPECT_EQ(common::SenzaAccenti(""), "");
-  EXPECT_EQ(common::SoloCifre("N. 12/b-34, 5²"), "12345");
   const std::string most(32767, '1');
   EXPECT_EQ(common::SoloCifre(most), most);
-  EXPECT_EQ(number([&] { common::SoloCifre(most + "1"); }), 6);
-  EXPECT_EQ(number([&] { common::SenzaAccenti(most + "1"); }), 6);
-}
-
-TEST(Text, IsDividedAtADelimiter) {
-  using Pieces = std::vector<std::string>;
-  EXPECT_EQ(common::Dividi("a,b,", ","), (Pieces{"a", "b"}));
-  EXPECT_EQ(common::Dividi("a,b,c", ",", 2), (Pieces{"a", "b"}));
-  EXPECT_EQ(common::Dividi(",,è", ","), (Pieces{"", "", "è"}));
-  EXPECT_EQ(common::Dividi("aXbxc", "x", -1, common::ConfrontoTesto), (Pieces{"a", "b", "c"}));
-  EXPECT_EQ(common::Dividi("abc", ""), (Pieces{"abc"}));
-  EXPECT_TRUE(common::Dividi("", ",").empty());
-  EXPECT_TRUE(common::Dividi("a", ",", 0).empty());
+  EXPECT_EQ(runtime::shown([&] { return common::SoloCifre(most + "1"), "ok"; }), "error 6");
+  EXPECT_EQ(runtime::shown([&] { return common::SenzaAccenti(most + "1"), "ok"; }), "error 6");
   std::string many;
   for (int i = 0; i < 250; ++i) many += "x--";
   EXPECT_EQ(common::Dividi(many, "--").size(), 250U);
 }
 
-TEST(Text, GivesTheValueBehindATag) {
-  std::string value = "prima";
-  EXPECT_FALSE(common::LeggiTag("<a>1</a>", "b", value));
-  EXPECT_FALSE(common::LeggiTag("<A>1</A>", "a", value));
-  EXPECT_EQ(value, "prima");
-  EXPECT_TRUE(common::LeggiTag("<x><a>1è</a>", "a", value));
-  EXPECT_EQ(value, "1è");
-  EXPECT_TRUE(common::LeggiTag("<a k='1'>2", "<a k='1'>", value));
-  EXPECT_EQ(value, "2");
-  EXPECT_TRUE(common::LeggiTag("<a>", "a", value));
-  EXPECT_EQ(value, "");
-  EXPECT_TRUE(common::ValoreVuoto("x").isEmpty());
-}
-
-TEST(Text, HasCapitalsForAllLettersOfTheCodePage) {
-  EXPECT_EQ(common::Maiuscolo("è àþÿš ÷ß œž 1a"), "È ÀÞŸŠ ÷ß ŒŽ 1A");
+TEST(Text, IsComparedWithoutRegardToCaseAlone) {
   EXPECT_FALSE(common::StessoTesto("à", "a"));
+  EXPECT_TRUE(common::ValoreVuoto("x").isEmpty());
 }
 
 TEST(Files, AreThereWhenTheyCanBeRead) {
@@ -132,7 +108,7 @@ TEST(Records, TestAFieldOfTheOpenDatabase) {
   EXPECT_FALSE(common::EsisteCampo("manca", "valore", none));
   common::DatabaseAperto = nullptr;
   common::EliminaTabella(*db, "KepGenerali");
-  EXPECT_EQ(number([&] { common::EliminaTabella(*db, "KepGenerali"); }), 3265);
+  EXPECT_EQ(runtime::shown([&] { return common::EliminaTabella(*db, "KepGenerali"), "ok"; }), "error 3265");
   db->Close();
 }
 
@@ -149,17 +125,6 @@ TEST(Records, CloseATransactionOnce) {
   common::ChiudiTrans(flag);
   EXPECT_NO_THROW(db->TableDefs("t"));
   db->Close();
-}
-
-TEST(Records, HaveTheirReasonAsStateForTwoPairs) {
-  using runtime::Null;
-  const struct {
-    runtime::Variant event, reason;
-    const char* code;
-  } cases[] = {{"IS", "SO", "SO"},   {"CA", "RA", "RA"}, {"IS", "RA", "IS"},
-               {"CA", Null{}, "CA"}, {"is", "SO", "is"}, {"PR", "SO", "PR"}};
-  for (const auto& test : cases) EXPECT_EQ(common::CodiceEventoEffettivo(test.event, test.reason), test.code);
-  EXPECT_EQ(number([] { common::CodiceEventoEffettivo(Null{}, "SO"); }), 94);
 }
 
 }  // namespace

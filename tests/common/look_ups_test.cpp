@@ -39,25 +39,6 @@ class LookUps : public testing::Test {
   std::unique_ptr<platform::Settings> settings_;
 };
 
-TEST(Directories, AreClosedByOneBar) {
-  const struct {
-    const char *path, *closed;
-  } cases[] = {{"C:\\Windows", "C:\\Windows\\"},
-               {"C:\\Windows/", "C:\\Windows/"},
-               {"C:\\ ", "C:\\ "},
-               {" C:\\Win  ", " C:\\Win\\"},
-               {"", "\\"},
-               {"  ", "\\"}};
-  for (const auto& test : cases) {
-    std::string path = test.path;
-    common::AggiungiBarra(path);
-    EXPECT_EQ(path, test.closed) << '"' << test.path << '"';
-  }
-  EXPECT_EQ(common::TroncaAlNul("ab\0c\0"s), "ab");
-  EXPECT_EQ(common::TroncaAlNul("\0"s), "");
-  EXPECT_EQ(common::TroncaAlNul("abc"), "abc");
-}
-
 TEST_F(LookUps, FindTheDirectoryOfADatabaseAndTheOneAbove) {
   useSettings(
       "[Prova\\DBSECTION]\ndbPath=C:\\Prog\\db\\Dati.mdb\n[Radice\\dbsection]\nDBPATH=C:\\Dati.mdb\n"

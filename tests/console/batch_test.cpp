@@ -8,6 +8,7 @@
 
 #include "office.h"
 #include "platform/files.h"
+#include "support/case_file.h"
 #include "support/command.h"
 
 namespace {
@@ -137,30 +138,13 @@ TEST(Program, ShowsAPlanAndWritesNothing) {
 }
 
 TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
-  const struct {
-    const char* arguments;
-    int status;
-    const char* output;
-    const char* errors;
-  } cases[] = {{"--help", 0, "Opzioni di --batch", ""},
-               {"--version", 0, "aggnorvo 1.", ""},
-               {"--batch --list", 64, "", "opzioni incompatibili"},
-               {"--batch --bach", 64, "", "argomento non previsto: --bach"},
-               {"--batch --app", 64, "", "numero di valori errato"},
-               {"--batch --answer forse", 64, "", "valore non valido"},
-               {"--plan", 64, "", "manca un'opzione"},
-               {"--list --app ordmedici", 64, "", "manca un'opzione"},
-               {"--patch", 64, "", "numero di valori errato"},
-               {"--patch /manca --list", 64, "", "opzioni incompatibili"},
-               {"--patch /manca --answer no", 64, "", "manca un'opzione"},
-               {"studio.mdb", 64, "", "argomento non previsto: studio.mdb"}};
-  for (const auto& test : cases) {
-    SCOPED_TRACE(test.arguments);
-    const auto result = runCommand(std::string(AGGNORVO " ") + test.arguments);
-    EXPECT_EQ(result.status, test.status);
-    EXPECT_THAT(result.output, HasSubstr(test.output));
-    EXPECT_THAT(result.errors, HasSubstr(test.errors));
-  }
+  support::CaseFile(CASES "/usage.cases").expectResults([](const support::Case& each) {
+    const auto result = runCommand(AGGNORVO " " + each.statement);
+    EXPECT_EQ(result.status == 0 ? result.errors : result.output, "");
+    const std::string part = each.result.substr(each.result.find(' ') + 1);
+    const std::string said = result.output + result.errors;
+    return std::to_string(result.status) + " " + (said.find(part) == std::string::npos ? said : part);
+  });
 }
 
 }  // namespace

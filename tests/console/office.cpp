@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "common/globale.h"
 #include "platform/files.h"
@@ -15,6 +16,13 @@ namespace {
   return std::filesystem::is_directory("/dev/shm") && ::setenv("TEST_TMPDIR", "/dev/shm/", 0) == 0;
 }();
 
+std::vector<std::string> linesOf(const char* path) {
+  std::vector<std::string> lines;
+  std::ifstream file(path);
+  for (std::string line; std::getline(file, line);) lines.push_back(line);
+  return lines;
+}
+
 }  // namespace
 
 void makeDatabase(const std::string& path, const std::vector<std::string>& statements) {
@@ -24,46 +32,11 @@ void makeDatabase(const std::string& path, const std::vector<std::string>& state
 }
 
 std::vector<std::string> reference() {
-  return {
-      "CREATE TABLE Norvi (norvo TEXT(30))",
-      "INSERT INTO Norvi VALUES ('collgeometri')",
-      "INSERT INTO Norvi VALUES ('ordmedici')",
-      "INSERT INTO Norvi VALUES ('PROTOCOLLO')",
-      "CREATE TABLE CampiTabella (Norvo TEXT(30), Tabella TEXT(64), Campo TEXT(64), Tipo INTEGER, Dimensione "
-      "LONG, Attributi LONG, Required YESNO, AllowZeroLength YESNO, DefaultValue TEXT(255), OrdinalPosition "
-      "INTEGER, UpdateDefaultValue YESNO)",
-      "CREATE TABLE CampiDaEliminare (Norvo TEXT(30), Tabella TEXT(64), Campo TEXT(64))",
-      "CREATE TABLE Indici (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), [Primary] YESNO, [Unique] "
-      "YESNO, "
-      "IgnoreNulls YESNO)",
-      "CREATE TABLE CampiIndice (Norvo TEXT(30), Tabella TEXT(64), Indice TEXT(64), Campo TEXT(64), "
-      "Attributi "
-      "LONG)",
-      "CREATE TABLE Relazioni (Norvo TEXT(30), Relazione TEXT(64), [Table] TEXT(64), ForeignTable TEXT(64), "
-      "Attributi LONG)",
-      "CREATE TABLE CampiRelazione (Norvo TEXT(30), Relazione TEXT(64), Campo TEXT(64), ForeignName "
-      "TEXT(64))",
-  };
+  return linesOf(CASES "/reference.sql");
 }
 
 std::vector<std::string> oldInstallation() {
-  return {
-      "CREATE TABLE KepGenerali (Nome TEXT(50), Valore TEXT(255), [Note] TEXT(255))",
-      "INSERT INTO KepGenerali (Nome, Valore) VALUES ('AppName', 'collgeometri')",
-      "CREATE TABLE ragioniere (id LONG, ds_cognome TEXT(50), ds_regione_certificatore_energetico TEXT(20))",
-      "INSERT INTO ragioniere VALUES (1, 'Nicolò D''Agostino', 'Umbria')",
-      "INSERT INTO ragioniere VALUES (2, 'Forlì', 'Forlì-Cesena')",
-      "CREATE TABLE praticante (id LONG)",
-      "CREATE TABLE associati (id LONG)",
-      "CREATE TABLE simpatizzante (id LONG)",
-      "CREATE TABLE enti (id LONG)",
-      "INSERT INTO enti VALUES (7)",
-      "CREATE TABLE gruppi (id LONG)",
-      "INSERT INTO gruppi VALUES (1)",
-      "INSERT INTO gruppi VALUES (2)",
-      "CREATE TABLE italia_comuni (ISTAT TEXT(6), Comune TEXT(50), PROVINCIA TEXT(2), DataFine DATETIME)",
-      "INSERT INTO italia_comuni VALUES ('066049', 'L''Aquila', 'AQ', #12/31/2001#)",
-  };
+  return linesOf(CASES "/old_installation.sql");
 }
 
 std::string contentOf(const std::string& path) {

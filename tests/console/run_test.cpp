@@ -5,14 +5,17 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <sstream>
 
 #include "common/globale.h"
 #include "office.h"
 #include "platform/files.h"
 #include "platform/program.h"
+#include "support/case_file.h"
 #include "support/child_process.h"
 #include "support/disk_faults.h"
 
@@ -46,14 +49,11 @@ bool names(const DiskCall& call, const std::string& part) {
   return call.path.find(part) != std::string::npos;
 }
 
-std::vector<std::string> with(std::vector<std::string> statements, const std::vector<const char*>& more) {
+std::vector<std::string> with(std::vector<std::string> statements, const std::vector<std::string>& more) {
   statements.insert(statements.end(), more.begin(), more.end());
   return statements;
 }
 
-const char* const NoTransaction = "INSERT INTO KepGenerali (Nome, Valore) VALUES ('UsaTransazione', '0')";
-/// Asks for a table that isn't there: an error behind the first renaming.
-const char* const MissingWebTable = "INSERT INTO KepGenerali (Nome, Valore) VALUES ('DataWeb', '1')";
 const char* const Duplicate = "INSERT INTO italia_comuni VALUES ('066049', 'L''Aquila', 'AQ', #12/31/2010#)";
 const char* const ShortName = "ds_reg_cert_energetico";
 const char* const LongName = "ds_regione_certificatore_energetico";
@@ -91,87 +91,30 @@ TEST(Run, ThatEndsNormallyLeavesTheUpdatedFileItsBackupAndItsSummary) {
               ElementsAre(controls::MousePointer::Hourglass, controls::MousePointer::Default));
 }
 
-enum class Target { Old, Renamed, Other };
-
-/// Fails the calls on a file while the summary holds a text, or ends with it if the text ends with a blank;
-/// `operation` -1: all of them.
+/// Fails calls on a file while the summary holds a text, or ends with it if the text ends with a blank.
 struct Fault {
-  DiskFault fault = DiskFault::Io;
-  int operation = -1;
-  const char* file = "";
-  const char* phase = "";
+  explicit Fault(const support::Case& end) {
+    for (const auto& [name, text] : end.answers)
+      if (name == "fault") fields = support::fieldsOf(text);
+    fields.resize(4);
+  }
+
+  void judge(const DiskCall& call, const std::string& summary) const {
+    static const std::map<std::string, DiskOperation> operations = {{"Write", DiskOperation::Write},
+                                                                    {"Remove", DiskOperation::Remove}};
+    static const std::map<std::string, DiskFault> faults = {{"AccessDenied", DiskFault::AccessDenied},
+                                                            {"Io", DiskFault::Io},
+                                                            {"NoSpace", DiskFault::NoSpace},
+                                                            {"Sharing", DiskFault::Sharing}};
+    const std::string &kind = fields[0], &operation = fields[1], &file = fields[2], &phase = fields[3];
+    if (kind.empty() || !names(call, file)) return;
+    if (operation != "any" && operations.at(operation) != call.operation) return;
+    if (phase.ends_with(' ') ? summary.ends_with(phase) : summary.find(phase) != std::string::npos)
+      throw DiskError(faults.at(kind), call.path);
+  }
+
+  std::vector<std::string> fields;  // fault, operation, part of the file's name, phase
 };
-
-constexpr int Write = static_cast<int>(DiskOperation::Write),
-              Remove = static_cast<int>(DiskOperation::Remove);
-
-struct End {
-  const char* name;
-  const char* application;
-  std::vector<const char*> design;  // statements behind those of the old installation
-  Fault fault;
-  const char* meanwhile;  // a statement in the pause between the commit and the compaction
-  const char* leftover;   // what stands at the place of the compacted file
-  Esito esito;
-  int status;
-  bool flag;
-  Target target;
-  std::vector<const char*> summary, boxes;
-};
-
-const char* const Interrupted =
-    "ATTENZIONE! Aggiornamento interrotto, contattare subito assistenza software!";
-const char* const NullRow = "INSERT INTO italia_comuni VALUES (NULL, 'Narni', 'TR', NULL)";
-
-// clang-format off
-const End Ends[] = {
-    {"failed renaming", "ordmedici", {"DROP TABLE ragioniere"}, {}, "", "", Esito::Fallita, 1, false, Target::Old,
-     {"corso...fatto.\r\nErrore: 0\r\n\r\n\r\nAggiornamento annullato!\r\n"}, {}},
-    {"error in the transaction", "collgeometri", {MissingWebTable}, {}, "", "", Esito::Fallita, 1, false, Target::Old,
-     {"in modifica\r\nErrore: 0\r\n", "Aggiornamento annullato!"}, {}},
-    {"duplicates go before the transaction", "collgeometri", {MissingWebTable, Duplicate}, {}, "", "",
-     Esito::Fallita, 4, false, Target::Other, {"duplicati ....fatto", "Aggiornamento annullato!"}, {}},
-    {"error without transaction", "collgeometri", {MissingWebTable, NoTransaction}, {}, "", "",
-     Esito::Fallita, 4, false, Target::Renamed, {"Errore: 0\r\n", "Aggiornamento annullato!"}, {}},
-    {"protocol without members", "Protocollo", {"DROP TABLE ragioniere", "DROP TABLE KepGenerali"}, {}, "", "",
-     Esito::Completata, 0, true, Target::Other,
-     {"Errore nel calcolo records della tabella ragioniere!\r\n", "puoi uscire."}, {"Errore: 3078\r\n"}},
-    {"duplicates with a Null", "collgeometri", {NullRow, NullRow}, {}, "", "", Esito::Completata, 0, true,
-     Target::Renamed, {"duplicati ....\r\nTabella rag"}, {}},
-    {"file in use while backing up", "collgeometri", {}, {DiskFault::Sharing, -1, "Backup"}, "", "",
-     Esito::Fallita, 1, false, Target::Old,
-     {"corso...\r\nErrore: 70\r\n", "\r\n\r\nIl database è aperto da un altro programma.\r\n\r\nAggiornamento"}, {}},
-    {"commit without space", "collgeometri", {}, {DiskFault::NoSpace, Write, "\\studio.mdb.tmp"}, "", "",
-     Esito::Fallita, 1, false, Target::Old, {"terminato!\r\nErrore: ", "Aggiornamento annullato!"}, {}},
-    {"compacted file that can't be removed", "collgeometri", {}, {DiskFault::Io, Remove, "Newstudio"}, "", "",
-     Esito::Completata, 4, true, Target::Renamed, {"puoi uscire."}, {}},
-    {"compacted file in the way", "collgeometri", {}, {DiskFault::AccessDenied, Remove, "Newstudio"}, "", "file",
-     Esito::NonRimossa, 4, false, Target::Renamed, {"terminato!\r\nErrore: 75\r\n"}, {Interrupted}},
-    {"leftover of an earlier compaction", "collgeometri", {}, {}, "", "file", Esito::Completata, 0, true,
-     Target::Renamed, {"Compattazione eseguita."}, {}},
-    {"compaction that can't write", "collgeometri", {}, {}, "", "folder", Esito::NonCompattata, 4, true,
-     Target::Renamed, {"studio.mdb...\r\nErrore: 3204\r\n",
-                       "\r\n\r\nAggiornamento del database terminato,\r\npuoi uscire.\r\n"}, {}},
-    {"compacted file that can't be copied", "collgeometri", {},
-     {DiskFault::Io, Write, "\\studio.mdb.tmp", "Compattazione"}, "", "", Esito::Completata, 4, true,
-     Target::Renamed, {"Compattazione eseguita.", "puoi uscire."}, {}},
-    {"record missing", "collgeometri", {}, {}, "DELETE FROM gruppi WHERE id = 2", "", Esito::Ripristinata, 1, false,
-     Target::Old, {"\r\n\r\nTabella gruppi: mancano  1 records!\r\n\r\nRipristino database di backup ",
-                   "Backup20261116171600.mdb... fatto!\r\nAggiornamento interrotto, contattare subito assistenza "
-                   "tecnica!"}, {Interrupted}},
-    {"record too many", "collgeometri", {}, {}, "INSERT INTO enti VALUES (8)", "", Esito::Ripristinata, 1, false,
-     Target::Old, {"Tabella enti: mancano -1 records!"}, {Interrupted}},
-    {"restore at the second try", "collgeometri", {}, {DiskFault::Io, -1, "\\studio.mdb.tmp", "mdb... "},
-     "DELETE FROM gruppi", "", Esito::Ripristinata, 1, false, Target::Old,
-     {"... non riuscito!!!!\r\nAggiornamento interrotto"}, {Interrupted}},
-    {"summary that can't be saved", "collgeometri", {}, {DiskFault::AccessDenied, -1, ".log"}, "", "",
-     Esito::Completata, 0, true, Target::Renamed, {"puoi uscire."}, {"Non è possibile salvare il file log"}},
-};
-// clang-format on
-
-bool holds(const std::string& summary, const std::string& phase) {
-  return phase.ends_with(' ') ? summary.ends_with(phase) : summary.find(phase) != std::string::npos;
-}
 
 /// Leaves a file or a folder where the compacted file is to come.
 void leave(const std::string& what, const std::string& path) {
@@ -190,36 +133,43 @@ std::function<void()> changing(const Window& window, const std::string& statemen
   };
 }
 
-TEST(Run, EndsInEveryWayAsItShould) {
-  for (const End& end : Ends) {
-    SCOPED_TRACE(end.name);
-    Office office;
-    office.makeTarget(with(office::oldInstallation(), end.design));
-    leave(end.leftover, office.file("Newstudio.mdb"));
-    const std::string before = platform::readWholeFile(office.target);
-    Window window(office);
-    window.desktop.setEventsHook(changing(window, end.meanwhile));
-    {
-      OnDisk faults([&](const DiskCall& call) {
-        if (*end.fault.file && names(call, end.fault.file) && holds(window.summary(), end.fault.phase) &&
-            (end.fault.operation == -1 || end.fault.operation == static_cast<int>(call.operation)))
-          throw DiskError(end.fault.fault, call.path);
-      });
-      window.update(end.application);
-    }
-    EXPECT_EQ(console::exitStatus(window.form.UltimaCorsa), end.status);
-    EXPECT_EQ(window.form.UltimaCorsa.esito, end.esito);
-    EXPECT_EQ(window.form.AggiornamentoEseguito, end.flag);
-    for (const char* part : end.summary) EXPECT_THAT(window.summary(), HasSubstr(part));
-    ASSERT_EQ(window.desktop.boxes.size(), end.boxes.size());
-    for (std::size_t box = 0; box < end.boxes.size(); ++box)
-      EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(end.boxes[box]));
-    EXPECT_EQ(platform::readWholeFile(office.target) == before, end.target == Target::Old);
-    EXPECT_EQ(contentOf(office.target).find(ShortName) != std::string::npos, end.target == Target::Renamed);
-    const std::string kept = office.file("ErrUnioncol20261116171600.mdb");
-    EXPECT_EQ(platform::fileExists(kept), end.esito == Esito::Ripristinata);
-    EXPECT_EQ(platform::fileExists(office.backup), end.fault.file != std::string("Backup"));
+std::string endOf(const support::Case& end) {
+  static const std::map<Esito, std::string> names = {{Esito::Completata, "Completata"},
+                                                     {Esito::Fallita, "Fallita"},
+                                                     {Esito::NonCompattata, "NonCompattata"},
+                                                     {Esito::NonRimossa, "NonRimossa"},
+                                                     {Esito::Ripristinata, "Ripristinata"}};
+  Office office;
+  office.makeTarget(with(office::oldInstallation(), end.all("design")));
+  leave(end.one("leftover"), office.file("Newstudio.mdb"));
+  const std::string before = platform::readWholeFile(office.target);
+  const Fault fault(end);
+  Window window(office);
+  window.desktop.setEventsHook(changing(window, end.one("meanwhile")));
+  {
+    OnDisk faults([&](const DiskCall& call) { fault.judge(call, window.summary()); });
+    window.update(end.one("application", "collgeometri"));
   }
+  for (const std::string& part : end.all("summary")) EXPECT_THAT(window.summary(), HasSubstr(part));
+  const std::vector<std::string> boxes = end.all("box");
+  EXPECT_EQ(window.desktop.boxes.size(), boxes.size());
+  for (std::size_t box = 0; box < std::min(boxes.size(), window.desktop.boxes.size()); ++box)
+    EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(boxes[box]));
+  const Esito esito = window.form.UltimaCorsa.esito;
+  const std::string kept = office.file("ErrUnioncol20261116171600.mdb");
+  EXPECT_EQ(platform::fileExists(kept), esito == Esito::Ripristinata);
+  EXPECT_EQ(platform::fileExists(office.backup), fault.fields[2] != "Backup");
+  const bool old = platform::readWholeFile(office.target) == before;
+  const bool renamed = contentOf(office.target).find(ShortName) != std::string::npos;
+  return names.at(esito) + ", status " + std::to_string(console::exitStatus(window.form.UltimaCorsa)) +
+         (window.form.AggiornamentoEseguito ? ", done" : ", not done") +
+         (old       ? ", old target"
+          : renamed ? ", field renamed"
+                    : ", other target");
+}
+
+TEST(Run, EndsInEveryWayAsItShould) {
+  support::CaseFile(CASES "/ends.cases").expectResults(endOf);
 }
 
 TEST(Run, BeginsOnADatabaseThatIsOpenElsewhereOnlyWhenItIsFree) {

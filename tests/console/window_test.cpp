@@ -5,6 +5,7 @@
 #include "common/globale.h"
 #include "office.h"
 #include "platform/files.h"
+#include "support/case_file.h"
 
 namespace {
 
@@ -18,66 +19,32 @@ std::vector<std::string> rowsOf(const controls::ListBox& list) {
   return rows;
 }
 
-const std::string Prompt = "Specificare l'applicazione:";
-
 TEST(StartUp, ListsWhatIsInstalledAndSelectsTheApplicationOfThePatch) {
-  const std::string switches = "[AggNorvo\\DU]\nDEBUG = kep\n";
-  struct {
-    const char* name;
-    std::vector<std::string> installed;
-    std::string patchList;
-    std::string more;
-    std::vector<std::string> rows;  // %: the path of the target
-    int selected;
-    bool hand;  // the choice by hand is offered
-  } const cases[] = {
-      {"nothing installed", {}, "", "", {Prompt}, -1, true},
-      {"path of a missing file", {"-ordmedici"}, "Norvo-Prg=ordmedici", "", {Prompt}, -1, true},
-      {"patch of another application",
-       {"ordmedici"},
-       "Norvo-Prg=collperind",
-       "",
-       {Prompt, "ORDMEDICI "},
-       -1,
-       false},
-      {"patch",
-       {"PROTOCOLLO", "collgeometri"},
-       "[x]\r\n norvo-prg = ordmedici \r\nNorvo-Prg =CollGeometri\r\n",
-       "",
-       {Prompt, "COLLGEOMETRI ", "PROTOCOLLO "},
-       1,
-       false},
-      {"debug",
-       {"ordmedici"},
-       "Norvo-Prg=ordmedici\nNorvo-Prg=",
-       switches,
-       {Prompt, "ORDMEDICI (%)"},
-       -1,
-       false},
-  };
-  for (const auto& test : cases) {
-    SCOPED_TRACE(test.name);
+  support::CaseFile(CASES "/start_up.cases").expectResults([](const support::Case& each) {
     Office office;
-    std::string settings = test.more;
-    for (const std::string& name : test.installed)
+    std::string settings = each.one("settings");
+    for (const std::string& name : each.all("installed"))
       settings += name.starts_with('-') ? Office::registered(name.substr(1), office.file("manca.mdb"))
                                         : Office::registered(name, office.target);
     office.writeSettings(settings);
-    if (!test.patchList.empty()) office.writePatchList(test.patchList);
+    if (const std::string list = each.one("patch list"); !list.empty()) office.writePatchList(list);
     Window window(office);
-    std::vector<std::string> rows = test.rows;
-    for (std::string& row : rows)
-      if (const auto place = row.find('%'); place != std::string::npos) row.replace(place, 1, office.target);
-    EXPECT_EQ(rowsOf(window.form.lstDatabase), rows);
-    EXPECT_EQ(window.form.lstDatabase.listIndex(), test.selected);
-    EXPECT_EQ(window.form.cmdAggiorna.enabled(), test.selected > 0);
-    EXPECT_EQ(window.form.mnuFileAggiorna.enabled(), test.selected > 0);
-    EXPECT_EQ(window.form.lstDatabase.enabled(), !test.hand);
-    EXPECT_EQ(window.form.txtAltroDB.visible(), test.hand);
-    EXPECT_EQ(window.form.cmdSelezionaDB.visible(), test.hand);
+    std::string found;
+    for (std::string row : rowsOf(window.form.lstDatabase)) {
+      if (const auto place = row.find(office.target); place != std::string::npos)
+        row.replace(place, office.target.size(), "%");
+      found += "[" + row + "]";
+    }
+    const int selected = window.form.lstDatabase.listIndex();
+    EXPECT_EQ(window.form.cmdAggiorna.enabled(), selected > 0);
+    EXPECT_EQ(window.form.mnuFileAggiorna.enabled(), selected > 0);
+    const bool hand = window.form.txtAltroDB.visible();
+    EXPECT_EQ(window.form.lstDatabase.enabled(), !hand);
+    EXPECT_EQ(window.form.cmdSelezionaDB.visible(), hand);
     EXPECT_FALSE(window.form.chkAltroDatabase.visible());
     EXPECT_FALSE(window.form.chkAggiornaDescrizioni.visible());
-  }
+    return found + " selected " + std::to_string(selected) + (hand ? ", by hand" : "");
+  });
 }
 
 TEST(StartUp, SelectsTheLaterOfTwoRowsThatDifferInCase) {

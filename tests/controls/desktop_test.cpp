@@ -1,59 +1,48 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <sstream>
 
 #include "controls/batch_desktop.h"
 #include "controls/common_dialog.h"
 #include "controls/form.h"
 #include "runtime/error.h"
+#include "support/case_file.h"
 #include "support/scripted_desktop.h"
 
 using namespace controls;
 using Answer = BatchDesktop::Answer;
 
-namespace {
+/// The constants of boxes that the cases name.
+const std::map<std::string, int> Styles = {{"vbOKOnly", vbOKOnly},
+                                           {"vbOKCancel", vbOKCancel},
+                                           {"vbAbortRetryIgnore", vbAbortRetryIgnore},
+                                           {"vbYesNoCancel", vbYesNoCancel},
+                                           {"vbYesNo", vbYesNo},
+                                           {"vbRetryCancel", vbRetryCancel},
+                                           {"vbCritical", vbCritical},
+                                           {"vbQuestion", vbQuestion},
+                                           {"vbExclamation", vbExclamation},
+                                           {"vbInformation", vbInformation},
+                                           {"vbDefaultButton2", vbDefaultButton2},
+                                           {"vbDefaultButton3", vbDefaultButton3}};
+const std::map<std::string, Answer> Configured = {
+    {"Default", Answer::Default}, {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
+const std::map<MessageAnswer, std::string> Answers = {
+    {vbOK, "vbOK"}, {vbCancel, "vbCancel"}, {vbAbort, "vbAbort"}, {vbYes, "vbYes"}, {vbNo, "vbNo"}};
 
-struct BatchBox {
-  const char* name;
-  int style;
-  Answer configured;
-  MessageAnswer answer;
-  const char* line;
-};
-
-class BatchBoxes : public testing::TestWithParam<BatchBox> {};
-
-}  // namespace
-
-TEST_P(BatchBoxes, AreWrittenAndAnswered) {
-  const BatchBox& row = GetParam();
-  std::ostringstream out;
-  BatchDesktop desktop(out, row.configured);
-  EXPECT_EQ(desktop.msgBox("Uno\r\ndue", row.style, "T"), row.answer);
-  EXPECT_EQ(out.str(), row.line);
+TEST(BatchDesktop, WritesBoxesAndAnswersThem) {
+  support::CaseFile(CASES "/batch_boxes.cases").expectResults([](const support::Case& each) {
+    const std::vector<std::string> fields = support::fieldsOf(each.statement);
+    int style = 0;
+    std::istringstream names(fields[0]);
+    for (std::string name; names >> name;) style += Styles.at(name);
+    std::ostringstream out;
+    BatchDesktop desktop(out, Configured.at(fields[1]));
+    const std::string answer = Answers.at(desktop.msgBox("Uno\r\ndue", style, "T"));
+    return answer + "; " + support::inBraces(out.str());
+  });
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, BatchBoxes,
-    testing::Values(
-        BatchBox{"plain", vbOKOnly, Answer::Default, vbOK, "[messaggio] T: Uno / due\n"},
-        BatchBox{"critical", vbCritical, Answer::No, vbOK, "[errore] T: Uno / due\n"},
-        BatchBox{"warningSaysOkToCancel", vbExclamation, Answer::Cancel, vbOK, "[avviso] T: Uno / due\n"},
-        BatchBox{"lockedYes", 67, Answer::Yes, vbYes, "[informazione] T: Uno / due -> Sì\n"},
-        BatchBox{"lockedNo", 67, Answer::No, vbNo, "[informazione] T: Uno / due -> No\n"},
-        BatchBox{"lockedCancel", 67, Answer::Cancel, vbCancel, "[informazione] T: Uno / due -> Annulla\n"},
-        BatchBox{"lockedDefault", 67, Answer::Default, vbYes, "[informazione] T: Uno / due -> Sì\n"},
-        BatchBox{"secondIsDefault", vbYesNo + vbQuestion + vbDefaultButton2, Answer::Default, vbNo,
-                 "[domanda] T: Uno / due -> No\n"},
-        BatchBox{"thirdIsDefault", vbYesNoCancel + vbDefaultButton3, Answer::Default, vbCancel,
-                 "[domanda] T: Uno / due -> Annulla\n"},
-        BatchBox{"noCancelToPress", vbYesNo + vbDefaultButton2, Answer::Cancel, vbNo,
-                 "[domanda] T: Uno / due -> No\n"},
-        BatchBox{"noYesToPress", vbOKCancel, Answer::Yes, vbOK, "[domanda] T: Uno / due -> OK\n"},
-        BatchBox{"abort", vbAbortRetryIgnore, Answer::Yes, vbAbort, "[domanda] T: Uno / due -> Interrompi\n"},
-        BatchBox{"retryCancel", vbRetryCancel, Answer::Cancel, vbCancel,
-                 "[domanda] T: Uno / due -> Annulla\n"}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(BatchDesktop, ABoxWithoutTitleIsTheProgramsOwn) {
   std::ostringstream out;

@@ -5,6 +5,7 @@
 #include "bytes.h"
 #include "crypto/EncUtils.h"
 #include "runtime/shown.h"
+#include "support/case_file.h"
 
 namespace crypto {
 namespace {
@@ -20,47 +21,17 @@ EncUtils keyed(std::size_t blockLength, const plain::Bytes& key) {
 }
 
 TEST(Rijndael, GivesThePublishedCiphertexts) {
-  const std::string key = "2b7e151628aed2a6abf7158809cf4f3c762e7160f38b4da56a784d9045190cfe",
-                    block = "3243f6a8885a308d313198a2e03707344a4093822299f31d0082efa98ec4e6c8",
-                    standardKey = "000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f",
-                    standardBlock = "00112233445566778899aabbccddeeff", zeros(64, '0'),
-                    one = "8" + std::string(63, '0'), two = "4" + std::string(63, '0');
-  const struct {
-    std::string key, block, expected;
-  } cases[] = {
-      // The standard's blocks of 16 bytes.
-      {standardKey.substr(0, 32), standardBlock, "69c4e0d86a7b0430d8cdb78070b4c55a"},
-      {standardKey.substr(0, 48), standardBlock, "dda97ca4864cdfe06eaf70a0ec0d7191"},
-      {standardKey, standardBlock, "8ea2b7ca516745bfeafc49904b496089"},
-      // Brian Gladman's, of every length of block and key.
-      {key.substr(0, 32), block.substr(0, 40), "16e73aec921314c29df905432bc8968ab64b1f51"},
-      {key.substr(0, 40), block.substr(0, 40), "0553eb691670dd8a5a5b5addf1aa7450f7a0e587"},
-      {key.substr(0, 48), block.substr(0, 40), "73cd6f3423036790463aa9e19cfcde894ea16623"},
-      {key.substr(0, 56), block.substr(0, 40), "601b5dcd1cf4ece954c740445340bf0afdc048df"},
-      {key, block.substr(0, 40), "579e930b36c1529aa3e86628bacfe146942882cf"},
-      {key.substr(0, 32), block.substr(0, 48), "b24d275489e82bb8f7375e0d5fcdb1f481757c538b65148a"},
-      {key, block.substr(0, 48), "0ebacf199e3315c2e34b24fcc7c46ef4388aa475d66c194c"},
-      {key.substr(0, 32), block.substr(0, 56), "b0a8f78f6b3c66213f792ffd2a61631f79331407a5e5c8d3793aceb1"},
-      {key, block.substr(0, 56), "02fafc200176ed05deb8edb82a3555b0b10d47a388dfd59cab2f6c11"},
-      {key.substr(0, 32), block, "7d15479076b69a46ffb3b3beae97ad8313f622f67fedb487de9f06b9ed9c8f19"},
-      {key.substr(0, 40), block, "514f93fb296b5ad16aa7df8b577abcbd484decacccc7fb1f18dc567309ceeffd"},
-      {key.substr(0, 48), block, "5d7101727bb25781bf6715b0e6955282b9610e23a43c2eb062699f0ebf5887b2"},
-      {key.substr(0, 56), block, "d56c5a63627432579e1dd308b2c8f157b40a4bfb56fea1377b25d3ed3d6dbf80"},
-      {key, block, "a49406115dfb30a40418aafa4869b7c6a886ff31602a7dd19c889dc64f7e4e7a"},
-      // NESSIE's, of 32 bytes.
-      {one, zeros, "e62abce069837b65309be4eda2c0e149fe56c07b7082d3287f592c4a4927a277"},
-      {two, zeros, "1f00b4dd622c0b2951f25970b0ed47a65f513112daca242b5292ca314917bf94"},
-      {zeros, one, "159a08e46e616e6e9978502010daff922eb362e77dcaaf02eaeb7354eb8b8dba"},
-      {zeros, two, "2756ddecd7558b198962f092d7ba3eef45d9e287380aab8e852658092aa9dfa1"},
-  };
-  for (const auto& test : cases) {
-    const EncUtils utils = keyed(test.block.size() / 2, fromHex(test.key));
-    runtime::Bytes enciphered = bytes(fromHex(test.block));
-    utils.encrypt(enciphered);
-    EXPECT_EQ(toHex(numbers(enciphered)), test.expected);
-    utils.decrypt(enciphered);
-    EXPECT_EQ(toHex(numbers(enciphered)), test.block) << test.expected;
-  }
+  support::CaseFile(CASES "/rijndael.cases").expectResults([](const support::Case& each) {
+    const auto between = each.statement.find(' ');
+    const std::string key = each.statement.substr(0, between), block = each.statement.substr(between + 1);
+    const EncUtils utils = keyed(block.size() / 2, fromHex(key));
+    runtime::Bytes bytes = crypto::bytes(fromHex(block));
+    utils.encrypt(bytes);
+    const std::string enciphered = toHex(numbers(bytes));
+    utils.decrypt(bytes);
+    EXPECT_EQ(toHex(numbers(bytes)), block);
+    return enciphered;
+  });
 }
 
 TEST(Rijndael, GivesThePublishedCiphertextAfterAThousandTurns) {

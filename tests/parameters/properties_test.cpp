@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 
 #include "parametri.h"
+#include "support/case_file.h"
 
 namespace parameters::test {
 namespace {
@@ -32,157 +34,49 @@ std::string mostra(const std::function<Variant()>& leggi) {
   }
 }
 
-struct Lettura {
-  const char* chiave;
-  std::optional<Variant> valore;  // nothing: no row
-  const char* note;
-  std::function<Variant(Kep&)> leggi;
-  const char* atteso;
-  const char* avviso = nullptr;  // the box that it shows
-};
+// clang-format off
+#define LEGGE(proprieta) {#proprieta, [](Kep& kep) -> Variant { return kep.proprieta(); }}
 
-#define LEGGE(proprieta) [](Kep& kep) -> Variant { return kep.proprieta; }
+const std::map<std::string, std::function<Variant(Kep&)>> Proprieta = {
+    LEGGE(SanMarino), LEGGE(IndirizziMaiuscoli), LEGGE(ProtocolloRgpOggi), LEGGE(Tellaro), LEGGE(PecIngUD),
+    LEGGE(SospensioniPerDecorrenza), LEGGE(CancellazioniPerDecorrenza), LEGGE(FaxServer),
+    LEGGE(TipoPagamentoMav), LEGGE(TellaroDB), LEGGE(ProtocolloPercorsoI), LEGGE(Curriculum),
+    LEGGE(ProtocolloUnitaOrganizzative), LEGGE(ProtocolloDataTmpBypass), LEGGE(DataWeb),
+    LEGGE(AnnoProtocolloNumerazioneUnica), LEGGE(TitoloStudioDefault), LEGGE(EDFontSize),
+    LEGGE(EDEtichetteOrizzontale), LEGGE(EDEtichetteVerticale), LEGGE(TipoNumeratoreParcella),
+    LEGGE(CtrlCapComuneProv), LEGGE(BackColorPcy), LEGGE(BackColorNoPcy), LEGGE(ProtSviluppoListe),
+    LEGGE(ProtocolloMailto), LEGGE(ProtocolloCaricaCorrispondenti), LEGGE(ProtocolloAnnotazioniExt),
+    LEGGE(ProtocolloSicurezza), LEGGE(ProtocolloInformatico), LEGGE(ProtocolloScanner),
+    LEGGE(ProtocolloArgomentiMultilivello), LEGGE(PubblicazioneDisciplina),
+    LEGGE(SospensioniChiudiTerminate), LEGGE(RadiazioniChiudiTerminate),
+    LEGGE(SospensioniNumeroProgressivo), LEGGE(EDAltezzaModulo), LEGGE(EDPassoVerticale),
+    LEGGE(DataProtocolloInformatico), LEGGE(DataControlloComuniVariati),
+    {"ProtocolloCfgImap 3", [](Kep& kep) -> Variant { return kep.ProtocolloCfgImap(3); }},
+    {"InizialiMaiuscole Cognome", [](Kep& kep) -> Variant { return kep.InizialiMaiuscole("Cognome"); }}};
+// clang-format on
 
-const std::optional<Variant> Manca;
-
-const Lettura Interruttori[] = {
-    {"SanMarino", Manca, "", LEGGE(SanMarino()), "16: 0"},
-    {"SanMarino", "1", "", LEGGE(SanMarino()), "16: -1"},
-    {"SanMarino", "-1", "", LEGGE(SanMarino()), "16: -1"},
-    {"SanMarino", "0", "", LEGGE(SanMarino()), "16: 0"},
-    {"SanMarino", "2", "", LEGGE(SanMarino()), "16: 0"},
-    {"SanMarino", "True", "", LEGGE(SanMarino()), "16: 0"},
-    {"SanMarino", " 1", "", LEGGE(SanMarino()), "16: 0"},
-    {"SanMarino", Null{}, "", LEGGE(SanMarino()), "16: 0"},
-    {"IndirizziMaiuscoli", Manca, "", LEGGE(IndirizziMaiuscoli()), "16: -1"},
-    {"IndirizziMaiuscoli", Null{}, "", LEGGE(IndirizziMaiuscoli()), "16: 0"},
-    {"ProtocolloRgpOggi", Manca, "", LEGGE(ProtocolloRgpOggi()), "16: -1"},
-    {"TellaroDB", "1", "", LEGGE(Tellaro()), "16: -1"},
-    {"PecIngCT", "1", "", LEGGE(PecIngUD()), "16: -1"},
-    {"PecIngUD", "1", "", LEGGE(PecIngUD()), "16: 0"},
-    {"SospensioniPerDataDecorrenza", "1", "", LEGGE(SospensioniPerDecorrenza()), "16: -1"},
-    {"CancellazioniPerDataDecorrenza", "1", "", LEGGE(CancellazioniPerDecorrenza()), "16: -1"},
-    {"InizialiMaiuscolecognome", "1", "", LEGGE(InizialiMaiuscole("Cognome")), "16: -1"},
-};
-
-const Lettura Testi[] = {
-    {"FaxServer", Manca, "", LEGGE(FaxServer()), ""},
-    {"FaxServer", " a ", "n", LEGGE(FaxServer()), " a "},
-    {"TipoPagamentoMav", Manca, "", LEGGE(TipoPagamentoMav()), "4"},
-    {"TipoPagamentoMav", "", "", LEGGE(TipoPagamentoMav()), "4"},
-    {"TipoPagamentoMav", "2", "", LEGGE(TipoPagamentoMav()), "2"},
-    {"ProtocolloCfgImap3", "x", "", LEGGE(ProtocolloCfgImap(3)), "x"},
-    {"TellaroDB", "v", "C:\\db", LEGGE(TellaroDB()), "C:\\db"},
-    {"TellaroDB", Manca, "", LEGGE(TellaroDB()), ""},
-    {"ProtocolloPercorsoI", ".", "P:\\", LEGGE(ProtocolloPercorsoI()), "P:\\"},
-    {"Curriculum", "1", "C:\\cv", LEGGE(Curriculum()), "C:\\cv"},
-    {"Curriculum", "-1", "", LEGGE(Curriculum()), "1"},
-    {"Curriculum", "2", "", LEGGE(Curriculum()), ""},
-    {"ProtocolloUnitaOrganizzative", "u", "", LEGGE(ProtocolloUnitaOrganizzative()), "u"},
-    {"ProtocolloDataTmpBypass", Manca, "", LEGGE(ProtocolloDataTmpBypass()), "Null"},
-};
-
-const Lettura Numeri[] = {
-    {"DataWeb", Manca, "", LEGGE(DataWeb()), "16: 0"},
-    {"DataWeb", Null{}, "", LEGGE(DataWeb()), "16: 0"},
-    {"DataWeb", "2,5", "", LEGGE(DataWeb()), "16: 2"},
-    {"DataWeb", "3,5", "", LEGGE(DataWeb()), "16: 4"},
-    {"DataWeb", "12abc", "", LEGGE(DataWeb()), "16: 0"},
-    {"DataWeb", "40000", "", LEGGE(DataWeb()), "16: 0"},
-    {"AnnoProtocolloNumerazioneUnica", "anno", "", LEGGE(AnnoProtocolloNumerazioneUnica()), "16: 2004"},
-    {"AnnoProtocolloNumerazioneUnica", "99999", "", LEGGE(AnnoProtocolloNumerazioneUnica()), "16: 2004"},
-    {"TitoloStudioDefault", "7", "", LEGGE(TitoloStudioDefault()), "32: 7"},
-    {"TitoloStudioDefault", "40000", "", LEGGE(TitoloStudioDefault()), "32: 0"},
-    {"EDFontSize", "-3", "", LEGGE(EDFontSize()), "16: 10"},
-    {"EDFontSize", "0", "", LEGGE(EDFontSize()), "16: 0"},
-    {"EDFontSize", "40000", "", LEGGE(EDFontSize()), "error 6"},
-    {"EDEtichetteOrizzontale", "40000", "", LEGGE(EDEtichetteOrizzontale()), "error 6"},
-    {"EDEtichetteVerticale", "40000", "", LEGGE(EDEtichetteVerticale()), "error 6"},
-    {"TipoNumeratoreParcella", "40000", "", LEGGE(TipoNumeratoreParcella()), "error 6"},
-    {"CtrlCapComuneProv", "40000", "", LEGGE(CtrlCapComuneProv()), "error 6"},
-    {"CtrlCapComuneProv", "3", "", LEGGE(CtrlCapComuneProv()), "16: 2"},
-    {"CtrlCapComuneProv", "-1", "", LEGGE(CtrlCapComuneProv()), "16: 2"},
-    {"CtrlCapComuneProv", "1", "", LEGGE(CtrlCapComuneProv()), "16: 1"},
-    {"BackColorPcy", Manca, "", LEGGE(BackColorPcy()), "32: 8421631"},
-    {"BackColorNoPcy", "3000000000", "", LEGGE(BackColorNoPcy()), "32: 8454143"},
-    {"BackColorNoPcy", "&HFF", "", LEGGE(BackColorNoPcy()), "32: 255"},
-    {"ProtSviluppoListe", Manca, "", LEGGE(ProtSviluppoListe()), "32: -1"},
-    {"ProtocolloMailto", "12abc", "", LEGGE(ProtocolloMailto()), "16: 12"},
-    {"ProtocolloMailto", "parola", "", LEGGE(ProtocolloMailto()), "16: 0"},
-    {"ProtocolloMailto", "40000", "", LEGGE(ProtocolloMailto()), "error 6"},
-    {"ProtocolloCaricaCorrispondenti", Manca, "", LEGGE(ProtocolloCaricaCorrispondenti()), "16: 1"},
-    {"ProtocolloCaricaCorrispondenti", "", "", LEGGE(ProtocolloCaricaCorrispondenti()), "16: 0"},
-    {"ProtocolloAnnotazioniExt", "2.5", "", LEGGE(ProtocolloAnnotazioniExt()), "32: 2"},
-    {"ProtocolloSicurezza", "2abc", "", LEGGE(ProtocolloSicurezza()), "32: 2"},
-    {"ProtocolloSicurezza", "2.5", "", LEGGE(ProtocolloSicurezza()), "32: 0",
-     "Parametro 'ProtocolloSicurezza' errato!"},
-    {"ProtocolloSicurezza", Manca, "", LEGGE(ProtocolloSicurezza()), "32: 0"},
-    {"ProtocolloInformatico", "3", "", LEGGE(ProtocolloInformatico()), "32: 0",
-     "Parametro 'ProtocolloInformatico' errato!"},
-    {"ProtocolloScanner", "-1", "", LEGGE(ProtocolloScanner()), "32: 0",
-     "Parametro 'ProtocolloScanner' errato!"},
-    {"ProtocolloArgomentiMultilivello", "3", "", LEGGE(ProtocolloArgomentiMultilivello()), "32: 3"},
-    {"ProtocolloArgomentiMultilivello", "4", "", LEGGE(ProtocolloArgomentiMultilivello()), "32: 0",
-     "Parametro 'ProtocolloArgomentiMultilivello' errato!"},
-    {"PubblicazioneDisciplina", "6", "", LEGGE(PubblicazioneDisciplina()), "32: 0",
-     "Parametro 'PubblicazioneDisciplina' errato!"},
-    {"SospensioniChiudiTerminate", "0", "", LEGGE(SospensioniChiudiTerminate()), "32: 0",
-     "Parametro 'SospensioniChiudiTerminate' errato!"},
-    {"RadiazioniChiudiTerminate", Manca, "", LEGGE(RadiazioniChiudiTerminate()), "32: 0"},
-    {"RadiazioniChiudiTerminate", "3", "", LEGGE(RadiazioniChiudiTerminate()), "32: 0",
-     "Parametro 'RadiazioniChiudiTerminate' errato!"},
-    {"SospensioniNumeroProgressivo", "0", "", LEGGE(SospensioniNumeroProgressivo()), "16: 1"},
-    {"SospensioniNumeroProgressivo", Manca, "", LEGGE(SospensioniNumeroProgressivo()), "16: 0"},
-};
-
-const Lettura MisureEDate[] = {
-    {"EDAltezzaModulo", Manca, "", LEGGE(EDAltezzaModulo()), "single: 17280"},
-    {"EDAltezzaModulo", "", "", LEGGE(EDAltezzaModulo()), "single: 17280"},
-    {"EDAltezzaModulo", "2.5cm", "", LEGGE(EDAltezzaModulo()), "single: 1417,5"},
-    {"EDAltezzaModulo", "2,5 cm", "", LEGGE(EDAltezzaModulo()), "single: 1417,5"},
-    {"EDAltezzaModulo", "1\"", "", LEGGE(EDAltezzaModulo()), "single: 1440"},
-    {"EDAltezzaModulo", "720", "", LEGGE(EDAltezzaModulo()), "single: 720"},
-    {"EDAltezzaModulo", "5 mm", "", LEGGE(EDAltezzaModulo()), "single: 0"},
-    {"EDAltezzaModulo", "2CM", "", LEGGE(EDAltezzaModulo()), "single: 0"},
-    {"EDPassoVerrticale", "10", "", LEGGE(EDPassoVerticale()), "single: 10"},
-    {"EDPassoVerticale", "10", "", LEGGE(EDPassoVerticale()), "single: 2160"},
-    {"ProtocolloInformatico", "1", "31/12/2005", LEGGE(DataProtocolloInformatico()), "31/12/2005"},
-    {"ProtocolloInformatico", "1", "31/13/2005", LEGGE(DataProtocolloInformatico()), "Null"},
-    {"DataControlloComuniVariati", Manca, "", LEGGE(DataControlloComuniVariati()), "Null"},
-};
-
-template <std::size_t N>
-void controlla(const Lettura (&casi)[N]) {
+TEST(Properties, ReadTheirRows) {
   Parametri p;
-  for (const auto& caso : casi) {
-    SCOPED_TRACE(std::string(caso.chiave) + " = " +
-                 (!caso.valore            ? "(manca)"
-                  : caso.valore->isNull() ? "Null"
-                                          : caso.valore->toText()));
+  p.desktop.answerRestByDefault();
+  support::CaseFile(CASES "/readings.cases").expectResults([&](const support::Case& each) {
+    const auto colon = each.statement.find(": ");
+    const std::string row = colon == std::string::npos ? each.statement : each.statement.substr(colon + 2);
+    const std::string parameter = row.substr(0, row.find(' '));
     p.db->Execute("DELETE FROM KepGenerali");
-    if (caso.valore) p.metti(caso.chiave, *caso.valore, caso.note);
-    p.desktop.boxes.clear();
-    if (caso.avviso) p.desktop.expectBox(caso.avviso, controls::vbOK);
-    EXPECT_EQ(mostra([&] { return caso.leggi(p.kep); }), caso.atteso);
-    EXPECT_EQ(p.desktop.left(), 0U);
-    if (caso.avviso) {
-      EXPECT_EQ(p.desktop.boxes.at(0).text, caso.avviso);
-      EXPECT_EQ(p.desktop.boxes.at(0).style, controls::vbOKOnly);
+    if (const auto equals = row.find(" = "); equals != std::string::npos) {
+      const auto fields = support::fieldsOf(row.substr(equals + 3));
+      p.metti(parameter, fields[0] == "Null" ? Variant(Null{}) : Variant(fields[0]),
+              fields.size() > 1 ? fields[1] : "");
     }
-  }
-}
-
-TEST(Properties, ReadSwitches) {
-  controlla(Interruttori);
-}
-TEST(Properties, ReadTexts) {
-  controlla(Testi);
-}
-TEST(Properties, ReadNumbers) {
-  controlla(Numeri);
-}
-TEST(Properties, ReadMeasuresAndDates) {
-  controlla(MisureEDate);
+    p.desktop.boxes.clear();
+    const auto& read = Proprieta.at(colon == std::string::npos ? parameter : each.statement.substr(0, colon));
+    std::string found = mostra([&] { return read(p.kep); });
+    for (const auto& box : p.desktop.boxes) {
+      EXPECT_EQ(box.style, controls::vbOKOnly);
+      found += ", " + box.text;
+    }
+    return found;
+  });
 }
 
 /// Each write meets a row "vecchio|nota|dati", behind a read of another one: "altro|altra nota|altri dati".

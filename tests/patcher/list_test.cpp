@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "patch.h"
+#include "support/case_file.h"
 
 namespace {
 
@@ -18,38 +19,10 @@ std::string written(const patcher::Riga& row) {
 }
 
 TEST(List, TakesALineApartOrPassesItOver) {
-  const struct {
-    std::string line, row;  // row empty: passed over
-  } cases[] = {
-      {"Top-LBL=Patch del 10-12-2003 = versione 2", "Top|LBL|Patch del 10-12-2003 = versione 2"},
-      {"NorvoDB-AGG=dati.mdb ' nuova tabella", "NorvoDB|AGG|dati.mdb"},
-      {"Top-LBL=L'aggiornamento", "Top|LBL|L"},
-      {"  norvodb - agg = a b.mdb  ", "norvodb|agg|a b.mdb"},
-      {"A-B-C=x", "A|B-C|x"},
-      {"A-B=x-y=z", "A|B|x-y=z"},
-      {"Note=qualcosa", ""},
-      {"Note=a-b", ""},
-      {"A-B", ""},
-      {"' A-B=x", ""},
-      {"A-B'=x", ""},
-      {"-B=x", ""},
-      {"A-=x", ""},
-      {"A-B=", ""},
-      {"-=", ""},
-      {"   ", ""},
-      // Blanks pass for a part, unless a comment lets the line be trimmed.
-      {" -B=x", "|B|x"},
-      {"A- =x", "A||x"},
-      {"A-B= ", "A|B|"},
-      {" -B=x'", ""},
-      {"A-B= 'x", ""},
-      {"\tA-B\t=\tx\t", "\tA|B\t|\tx\t"},
-      {"A-B=c\0d"s, "A|B|c\0d"s},
-  };
-  for (const auto& test : cases) {
-    const auto row = patcher::leggiRiga(test.line);
-    EXPECT_EQ(row ? written(*row) : "", test.row) << test.line;
-  }
+  support::CaseFile(CASES "/rows.cases").expectResults([](const support::Case& each) {
+    const auto row = patcher::leggiRiga(support::fieldsOf(each.statement)[0]);
+    return row ? support::inBraces(written(*row)) : "-";
+  });
 }
 
 TEST(List, IsReadInWhateverBytesItComes) {
@@ -136,34 +109,26 @@ TEST(Paths, ComeFromTheLastApplicationThatTheListNames) {
   EXPECT_EQ(computer.desktop.boxes.size(), 0u);
 }
 
-TEST(Paths, StayEmptyOrRelativeWithoutWhatTheyComeFrom) {
+TEST(Paths, StayEmptyOrRelativeWithoutWhatTheyComeFromAndAreCutByTheLengthOfTheName) {
   const struct {
-    const char* list;
-    const char* stampe;
-  } cases[] = {{"Top-LBL=x", ""}, {"Sorbo-PRG=albo", ""}, {"Norvo-PRG=sconosciuta", "Stampe\\"}};
+    const char *list, *entry;
+    std::string stampe, exe, exeDb;
+  } cases[] = {{"Top-LBL=x", "", "", "", ""},
+               {"Sorbo-PRG=albo", "", "", "", ""},
+               {"Norvo-PRG=sconosciuta", "", "Stampe\\", "", ""},
+               {"Norvo-PRG=altro", "altro.exe = \\a\\b\\lungo nome.exe", "Stampe\\", "\\a\\b\\lungo",
+                "\\a\\b\\lungodb\\"},
+               {"Norvo-PRG=altro", "altro.exe = altro.exe", "Stampe\\", "", "db\\"}};
   for (const auto& test : cases) {
-    Computer computer;
-    computer.list(test.list);
-    computer.form.load();
-    EXPECT_EQ(computer.form.DirNorvoDB, "") << test.list;
-    EXPECT_EQ(computer.form.DirNorvoStampe, test.stampe);
-    EXPECT_EQ(computer.form.DirNorvoEXE + computer.form.DirNorvoEXEDB, "");
-  }
-}
-
-TEST(Paths, AreCutByTheLengthOfTheName) {
-  const struct {
-    const char* entry;
-    std::string exe, db;
-  } cases[] = {{"altro.exe = \\a\\b\\lungo nome.exe", "\\a\\b\\lungo", "\\a\\b\\lungodb\\"},
-               {"altro.exe = altro.exe", "", "db\\"}};
-  for (const auto& test : cases) {
+    SCOPED_TRACE(test.list);
     Computer computer;
     computer.writeComputerFile(test.entry);
-    computer.list("Norvo-PRG=altro");
+    computer.list(test.list);
     computer.form.load();
+    EXPECT_EQ(computer.form.DirNorvoDB, "");
+    EXPECT_EQ(computer.form.DirNorvoStampe, test.stampe);
     EXPECT_EQ(computer.form.DirNorvoEXE, test.exe);
-    EXPECT_EQ(computer.form.DirNorvoEXEDB, test.db);
+    EXPECT_EQ(computer.form.DirNorvoEXEDB, test.exeDb);
   }
 }
 

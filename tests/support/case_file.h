@@ -5,10 +5,31 @@
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace support {
+
+/// The fields of a statement, parted by " | ". {HH} is a byte, {} nothing: an empty field, or the place of a
+/// blank at an end.
+inline std::vector<std::string> fieldsOf(const std::string& statement) {
+  std::vector<std::string> fields(1);
+  for (std::size_t at = 0; at < statement.size(); ++at) {
+    const std::size_t close = statement.find('}', at);
+    if (statement.compare(at, 3, " | ") == 0) {
+      fields.emplace_back();
+      at += 2;
+    } else if (statement[at] == '{' && (close == at + 1 || close == at + 3)) {
+      if (close == at + 3)
+        fields.back() += static_cast<char>(std::stoi(statement.substr(at + 1, 2), nullptr, 16));
+      at = close;
+    } else {
+      fields.back() += statement[at];
+    }
+  }
+  return fields;
+}
 
 /// A case of a case file, and the line where it begins.
 struct Case {
@@ -17,7 +38,32 @@ struct Case {
   std::vector<std::pair<std::string, std::string>> answers;  // "? NAME = VALUE"
   std::string look;                                          // "@ LOOK"
   std::string result;                                        // "=> RESULT"
+
+  /// The values under a name, and the first of them; {HH} in them is a byte.
+  std::vector<std::string> all(std::string_view name) const {
+    std::vector<std::string> values;
+    for (const auto& [key, value] : answers)
+      if (key == name) values.push_back(fieldsOf(value)[0]);
+    return values;
+  }
+  std::string one(std::string_view name, const char* otherwise = "") const {
+    const std::vector<std::string> values = all(name);
+    return values.empty() ? otherwise : values.front();
+  }
 };
+
+/// A text as it stands in a case file: each control character as {HH}.
+inline std::string inBraces(std::string_view text) {
+  std::string shown;
+  for (const unsigned char letter : text) {
+    if (letter >= ' ') {
+      shown += static_cast<char>(letter);
+    } else {
+      shown += {'{', "0123456789ABCDEF"[letter / 16], "0123456789ABCDEF"[letter % 16], '}'};
+    }
+  }
+  return shown;
+}
 
 /// Reads a text of cases. A case is a statement, then lines "? NAME = VALUE" and "@ LOOK" where it needs
 /// them, and its result: "=> RESULT", on a line of its own or behind the last of these. Lines that go on are
