@@ -8,8 +8,8 @@
 
 #include "office.h"
 #include "platform/files.h"
-#include "support/case_file.h"
 #include "support/command.h"
+#include "support/usage.h"
 
 namespace {
 
@@ -138,13 +138,7 @@ TEST(Program, ShowsAPlanAndWritesNothing) {
 }
 
 TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
-  support::CaseFile(CASES "/usage.cases").expectResults([](const support::Case& each) {
-    const auto result = runCommand(AGGNORVO " " + each.statement);
-    EXPECT_EQ(result.status == 0 ? result.errors : result.output, "");
-    const std::string part = each.result.substr(each.result.find(' ') + 1);
-    const std::string said = result.output + result.errors;
-    return std::to_string(result.status) + " " + (said.find(part) == std::string::npos ? said : part);
-  });
+  support::expectUsage(AGGNORVO, CASES "/usage.cases");
 }
 
 }  // namespace
