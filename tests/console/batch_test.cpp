@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "office.h"
 #include "platform/files.h"
@@ -13,22 +12,12 @@
 
 namespace {
 
+using office::batch;
 using office::Office;
 using support::runCommand;
 using support::shellWord;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-struct Printed {
-  int status;
-  std::string out, err;
-};
-
-Printed batch(const console::BatchOptions& options) {
-  std::ostringstream out, err;
-  const int status = console::runBatch(options, out, err);
-  return {status, out.str(), err.str()};
-}
 
 std::string command(const Office& office, const std::string& arguments) {
   return AGGNORVO " " + arguments + " --program-dir " + shellWord(platform::toSystemPath(office.program)) +
