@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <set>
 #include <sstream>
 
 #include "jet/dao/engine.h"
 #include "office.h"
+#include "support/case_file.h"
 
 namespace {
 
@@ -34,6 +34,13 @@ class Catalogo : public testing::Test {
     const auto result = support::runCommand(JETSQL " " + shellWord(reference_) + " " + shellWord(sql));
     ASSERT_EQ(result.status, 0) << result.errors;
   }
+  void expectRows(const std::string& cases) {
+    support::CaseFile(REPOSITORY "/tests/apps/cases/" + cases + ".cases")
+        .expectResults([this](const support::Case& each) {
+          const std::string rows = exported(each.statement);
+          return rows.substr(0, rows.size() - 1);
+        });
+  }
   std::string exported(const std::string& table) { return office::exported(reference_, table); }
   /// Every row of these tables of the catalogue.
   std::string catalogue() {
@@ -41,11 +48,6 @@ class Catalogo : public testing::Test {
     for (const char* table : {"CampiTabella", "Indici", "CampiIndice", "Relazioni", "CampiRelazione"})
       text += exported(table);
     return text;
-  }
-  static std::string content(const std::string& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
   }
 
   support::TempFolder folder_;
@@ -71,21 +73,7 @@ TEST_F(Catalogo, EveryFieldStandsThereAsTheModelHasIt) {
   setField(model_, "Tutto", "m", [](const auto& field) { field.setDefaultValue("\"a, \"\"b\"\"\""); });
   setField(model_, "Tutto", "b", [](const auto& field) { field.setOrdinalPosition(40); });
   write("--create");
-  EXPECT_EQ(exported("CampiTabella"),
-            "\"Tutti\",\"Tutto\",\"Set\",10,1,34,1,1,\"'A'\",0,0\n"
-            "\"Tutti\",\"Tutto\",\"n\",4,4,49,0,0,,1,0\n"
-            "\"Tutti\",\"Tutto\",\"s\",3,2,33,0,0,,3,0\n"
-            "\"Tutti\",\"Tutto\",\"c\",5,8,33,0,0,\"0\",4,0\n"
-            "\"Tutti\",\"Tutto\",\"si\",6,4,33,0,0,,5,0\n"
-            "\"Tutti\",\"Tutto\",\"d\",7,8,33,0,0,,6,0\n"
-            "\"Tutti\",\"Tutto\",\"q\",8,8,33,0,0,\"Date()\",7,0\n"
-            "\"Tutti\",\"Tutto\",\"legge494/96\",1,1,33,0,0,\"True\",8,0\n"
-            "\"Tutti\",\"Tutto\",\"m\",12,0,34,0,1,\"\"\"a, \"\"\"\"b\"\"\"\"\"\"\",9,0\n"
-            "\"Tutti\",\"Tutto\",\"bin\",9,20,34,0,0,,10,0\n"
-            "\"Tutti\",\"Tutto\",\"ole\",11,0,34,0,0,,11,0\n"
-            "\"Tutti\",\"Tutto\",\"g\",15,16,33,0,0,,12,0\n"
-            "\"Tutti\",\"Tutto\",\"t\",10,255,34,0,0,,13,0\n"
-            "\"Tutti\",\"Tutto\",\"b\",2,1,33,0,0,,40,0\n");
+  expectRows("fields");
 }
 
 constexpr const char* office =
@@ -100,20 +88,7 @@ constexpr const char* office =
 TEST_F(Catalogo, IndexesAndRelationsKeepTheOrderOfTheirFields) {
   make(model_, office);
   write("--create");
-  EXPECT_EQ(exported("Indici"),
-            "\"Tutti\",\"iscritti\",\"Nominativo\",0,0,1\n"
-            "\"Tutti\",\"iscritti\",\"PrimaryKey\",1,1,0\n"
-            "\"Tutti\",\"eventi\",\"Numero\",0,1,0\n");
-  EXPECT_EQ(exported("CampiIndice"),
-            "\"Tutti\",\"iscritti\",\"Nominativo\",\"ds_cognome\",1\n"
-            "\"Tutti\",\"iscritti\",\"Nominativo\",\"cd_matr\",0\n"
-            "\"Tutti\",\"iscritti\",\"PrimaryKey\",\"cd_norvo\",0\n"
-            "\"Tutti\",\"iscritti\",\"PrimaryKey\",\"cd_matr\",0\n"
-            "\"Tutti\",\"eventi\",\"Numero\",\"nr_evento\",0\n");
-  EXPECT_EQ(exported("Relazioni"), "\"Tutti\",\"iscritti_eventi\",\"iscritti\",\"eventi\",256\n");
-  EXPECT_EQ(exported("CampiRelazione"),
-            "\"Tutti\",\"iscritti_eventi\",\"cd_norvo\",\"cd_norvo\"\n"
-            "\"Tutti\",\"iscritti_eventi\",\"cd_matr\",\"cd_matr\"\n");
+  expectRows("relations");
 }
 
 TEST_F(Catalogo, AnApplicationsModelAddsOnlyWhatAllDoNotHave) {
@@ -172,11 +147,11 @@ TEST_F(Catalogo, WhatWouldNeverComeToRestIsRefusedAndNothingWritten) {
     if (*item.rows) change(item.rows);
     std::filesystem::remove(model_);
     make(model_, std::string(item.script) + "\n");
-    const std::string before = content(reference_);
+    const std::string before = support::contentOf(reference_);
     const auto result = catalogo(std::string("--norvo ") + item.norvo);
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(item.error));
-    EXPECT_TRUE(content(reference_) == before);
+    EXPECT_TRUE(support::contentOf(reference_) == before);
   }
 }
 

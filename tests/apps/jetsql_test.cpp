@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
+#include "support/case_file.h"
 #include "support/command.h"
 #include "support/temp_folder.h"
+#include "support/usage.h"
 
 namespace {
 
@@ -35,11 +35,7 @@ class Jetsql : public testing::Test {
                                shellWord(table))
         .output;
   }
-  std::string content() const {
-    std::ostringstream text;
-    text << std::ifstream(file_, std::ios::binary).rdbuf();
-    return text.str();
-  }
+  std::string content() const { return support::contentOf(file_); }
 
   support::TempFolder folder_;
   std::string file_ = folder_.systemPath("prova è.mdb");
@@ -85,20 +81,12 @@ TEST_F(Jetsql, ParametersAreAnsweredByLiterals) {
       "CREATE TABLE T (Nome TEXT(20), Quando DATETIME);\n"
       "INSERT INTO T VALUES ('L''Aquila', #3/4/2006#);\n"
       "INSERT INTO T VALUES ('Forlì', #3/5/2006#);\n");
-  const struct {
-    const char *answer, *sql, *rows;
-  } cases[] = {
-      {"parNome='L''Aquila'", "PARAMETERS parNome Text; SELECT Nome FROM T WHERE Nome = parNome",
-       "Nome\nL'Aquila\n"},
-      {"parNome=\"Forlì\"", "SELECT Nome FROM T WHERE Nome = parNome", "Nome\nForlì\n"},
-      {"d=#2006-03-04#", "PARAMETERS d DateTime; SELECT Nome FROM T WHERE Quando > d", "Nome\nForlì\n"},
-      {"n=NULL", "SELECT Nome FROM T WHERE Nome = [n]", "Nome\n"},
-      {"n=-1", "SELECT Nome FROM T WHERE [n] < 0 AND Nome = 'Forlì'", "Nome\nForlì\n"},
-  };
-  for (const auto& test : cases) {
-    const auto result = statement(test.sql, "--param " + shellWord(test.answer));
-    EXPECT_EQ(result.output, test.rows) << test.answer << ": " << result.errors;
-  }
+  support::CaseFile(REPOSITORY "/tests/apps/cases/parameters.cases")
+      .expectResults([this](const support::Case& each) {
+        const std::string rows =
+            statement(each.statement, "--param " + shellWord(each.one("--param"))).output;
+        return rows.substr(0, rows.rfind('\n'));
+      });
   EXPECT_THAT(statement("SELECT Nome FROM T WHERE Nome = parNome").errors, HasSubstr("errore 3061"));
   for (const char* wrong : {"parNome", "=1", "parNome=1 FROM T", "parNome=", "altro=1"}) {
     const auto result = statement("SELECT Nome FROM T WHERE Nome = parNome", "--param " + shellWord(wrong));
@@ -216,24 +204,7 @@ TEST_F(Jetsql, StoredQueriesAreShownAndRewritten) {
 }
 
 TEST_F(Jetsql, WrongUsageIsToldApart) {
-  const struct {
-    const char* arguments;
-    int status;
-    const char* expected;
-  } cases[] = {
-      {"", 64, "manca un argomento"},
-      {"--nessuna x.mdb", 64, "argomento non previsto: --nessuna"},
-      {"--create --readonly x.mdb", 64, "incompatibili"},
-      {"--help", 0, ".relations"},
-      {"--version", 0, "jetsql "},
-      {"/nessuna/cartella/x.mdb 'SELECT 1'", 1, "errore"},
-  };
-  for (const auto& test : cases) {
-    const auto result = run(test.arguments);
-    EXPECT_EQ(result.status, test.status) << test.arguments;
-    EXPECT_THAT(result.status == 0 ? result.output : result.errors, HasSubstr(test.expected))
-        << test.arguments;
-  }
+  support::expectUsage(JETSQL, REPOSITORY "/tests/apps/cases/usage.cases");
 }
 
 }  // namespace

@@ -4,31 +4,20 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "office.h"
 #include "platform/files.h"
-#include "support/case_file.h"
 #include "support/command.h"
+#include "support/usage.h"
 
 namespace {
 
+using office::batch;
 using office::Office;
 using support::runCommand;
 using support::shellWord;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-struct Printed {
-  int status;
-  std::string out, err;
-};
-
-Printed batch(const console::BatchOptions& options) {
-  std::ostringstream out, err;
-  const int status = console::runBatch(options, out, err);
-  return {status, out.str(), err.str()};
-}
 
 std::string command(const Office& office, const std::string& arguments) {
   return AGGNORVO " " + arguments + " --program-dir " + shellWord(platform::toSystemPath(office.program)) +
@@ -138,13 +127,7 @@ TEST(Program, ShowsAPlanAndWritesNothing) {
 }
 
 TEST(Program, AnswersInItalianAndRefusesWrongUsage) {
-  support::CaseFile(CASES "/usage.cases").expectResults([](const support::Case& each) {
-    const auto result = runCommand(AGGNORVO " " + each.statement);
-    EXPECT_EQ(result.status == 0 ? result.errors : result.output, "");
-    const std::string part = each.result.substr(each.result.find(' ') + 1);
-    const std::string said = result.output + result.errors;
-    return std::to_string(result.status) + " " + (said.find(part) == std::string::npos ? said : part);
-  });
+  support::expectUsage(AGGNORVO, CASES "/usage.cases");
 }
 
 }  // namespace

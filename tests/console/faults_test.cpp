@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <sstream>
 
 #include "office.h"
 #include "platform/files.h"
@@ -55,10 +54,7 @@ class Faults : public testing::Test {
     RecordProperty("calls", static_cast<int>(calls_));
   }
 
-  int batch() {
-    std::ostringstream out, err;
-    return console::runBatch(office_.batch(), out, err);
-  }
+  int batch() { return office::batch(office_.batch()).status; }
 
   /// The office as it was before the first run.
   void reset() {

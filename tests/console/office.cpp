@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "common/globale.h"
 #include "platform/files.h"
@@ -118,6 +119,12 @@ console::BatchOptions Office::batch(const std::string& app) const {
   options.database = platform::toSystemPath(target);
   options.answer = controls::BatchDesktop::Answer::No;
   return options;
+}
+
+Printed batch(const console::BatchOptions& options) {
+  std::ostringstream out, err;
+  const int status = console::runBatch(options, out, err);
+  return {status, out.str(), err.str()};
 }
 
 Window::Window(const Office& where)

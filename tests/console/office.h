@@ -51,6 +51,13 @@ class Office {
   std::string program, data, target, backup, log, settings;
 };
 
+/// A batch run: its exit status and what it prints.
+struct Printed {
+  int status;
+  std::string out, err;
+};
+Printed batch(const console::BatchOptions& options);
+
 /// The window of an office on a scripted desktop, loaded.
 class Window {
  public:

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <functional>
 #include <map>
-#include <sstream>
 
 #include "common/globale.h"
 #include "office.h"
@@ -296,10 +295,9 @@ TEST(Run, SurvivesADiskThatFillsUp) {
         const rlimit small{20000, 20000};
         ::setrlimit(RLIMIT_FSIZE, &small);
       });
-      std::ostringstream out, err;
-      const int result = console::runBatch(office.batch(), out, err);
-      EXPECT_THAT(out.str(), HasSubstr(test.summary));
-      return testing::Test::HasFailure() ? 98 : result;
+      const auto result = office::batch(office.batch());
+      EXPECT_THAT(result.out, HasSubstr(test.summary));
+      return testing::Test::HasFailure() ? 98 : result.status;
     });
     EXPECT_EQ(status, test.status);
     EXPECT_TRUE(platform::fileExists(office.log));
@@ -309,8 +307,8 @@ TEST(Run, SurvivesADiskThatFillsUp) {
       EXPECT_THAT(contentOf(office.target), HasSubstr(ShortName));
     }
     EXPECT_FALSE(platform::fileExists(office.file("Newstudio.mdb")));
-    std::ostringstream out, err;
-    EXPECT_EQ(console::runBatch(office.batch(), out, err), console::Done) << out.str() << err.str();
+    const auto next = office::batch(office.batch());
+    EXPECT_EQ(next.status, console::Done) << next.out << next.err;
   }
 }
 
@@ -322,10 +320,9 @@ TEST(Run, StandsAReadOnlyProgramFolder) {
   ::chmod(platform::toSystemPath(office.program).c_str(), 0555);
   const int status = support::runInChild([&] {
     if (::setgid(65534) != 0 || ::setuid(65534) != 0) return 97;
-    std::ostringstream out, err;
-    const int result = console::runBatch(office.batch(), out, err);
-    EXPECT_EQ(err.str(), "[messaggio] Salvataggio riepilogo: Non è possibile salvare il file log\n");
-    return testing::Test::HasFailure() ? 98 : result;
+    const auto result = office::batch(office.batch());
+    EXPECT_EQ(result.err, "[messaggio] Salvataggio riepilogo: Non è possibile salvare il file log\n");
+    return testing::Test::HasFailure() ? 98 : result.status;
   });
   EXPECT_EQ(status, console::Done);
   EXPECT_THAT(contentOf(office.target), HasSubstr(ShortName));

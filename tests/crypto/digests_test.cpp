@@ -20,11 +20,6 @@ TEST(Digests, AreThePublishedOnes) {
   });
 }
 
-TEST(Digests, TakeAQuestionMarkForWhatTheCodePageDoesNotHave) {
-  EXPECT_EQ(EncUtils::MD5("Ж"), EncUtils::MD5("?"));
-  EXPECT_EQ(EncUtils::SHA1("Ж"), EncUtils::SHA1("?"));
-}
-
 /// The bytes of the code page that RC4 gives, from `from` on.
 std::string stream(EncUtils& utils, const std::string& text, const std::string& key, std::size_t from = 0) {
   const std::string bytes = platform::toCodePage1252(utils.RC4(text, key)).substr(from);

@@ -3,12 +3,15 @@
 #include <cmath>
 #include <cstdlib>
 #include <ctime>
+#include <iomanip>
+#include <sstream>
 
 #include "platform/clock.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/settings.h"
+#include "support/case_file.h"
 #include "support/temp_folder.h"
 
 namespace platform {
@@ -21,23 +24,13 @@ TEST(CodePage, EveryByteComesBack) {
 }
 
 TEST(CodePage, KnownCharactersAndThoseOutsideThePage) {
-  const struct {
-    const char *utf8, *bytes;
-  } cases[] = {
-      {"è", "\xE8"},
-      {"€ 5", "\x80 5"},
-      {"“L’Œuf”…–", "\x93L\x92\x8Cuf\x94\x85\x96"},
-      {"ŸŽž™", "\x9F\x8E\x9E\x99"},
-      {"\xC2\x81", "\x81"},
-      {"ÿ", "\xFF"},
-      {"\xC2\x80", "?"},
-      {"Ω中😀a", "???a"},
-      {"\xE8x", "?x"},
-      {"\xC3", "?"},
-      {"\xE2\x82", "??"},
-      {"\xC0\xAF", "??"},
-  };
-  for (const auto& test : cases) EXPECT_EQ(toCodePage1252(test.utf8), test.bytes) << test.utf8;
+  support::CaseFile(CASES "/code_page.cases").expectResults([](const support::Case& each) {
+    std::ostringstream bytes;
+    bytes << std::hex << std::uppercase << std::setfill('0');
+    for (const unsigned char byte : toCodePage1252(support::fieldsOf(each.statement)[0]))
+      bytes << (bytes.tellp() > 0 ? " " : "") << std::setw(2) << int{byte};
+    return bytes.str();
+  });
   EXPECT_EQ(fromCodePage1252("\x80\x9C\x8D"), "€œ\xC2\x8D");
 }
 

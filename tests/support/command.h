@@ -23,6 +23,13 @@ inline std::string shellWord(const std::string& argument) {
   return word + "'";
 }
 
+/// All bytes of a file; none where it can't be read.
+inline std::string contentOf(const std::string& systemPath) {
+  std::ostringstream text;
+  text << std::ifstream(systemPath, std::ios::binary).rdbuf();
+  return text.str();
+}
+
 /// Runs a line of the shell with `input` as standard input.
 inline CommandResult runCommand(const std::string& line, const std::string& input = {}) {
   const TempFolder folder;
@@ -31,13 +38,8 @@ inline CommandResult runCommand(const std::string& line, const std::string& inpu
   const int status = std::system(("( " + line + " ) <" + shellWord(file("input")) + " >" +
                                   shellWord(file("output")) + " 2>" + shellWord(file("errors")))
                                      .c_str());
-  const auto content = [&](const char* name) {
-    std::ostringstream text;
-    text << std::ifstream(file(name), std::ios::binary).rdbuf();
-    return text.str();
-  };
-  return {WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status), content("output"),
-          content("errors")};
+  return {WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status), contentOf(file("output")),
+          contentOf(file("errors"))};
 }
 
 }  // namespace support
