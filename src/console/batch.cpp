@@ -89,17 +89,8 @@ bool isAsItWas(const Corsa& run) {
   }
 }
 
-/// Copies what the summary grows by to `out`, with the line ends of a stream.
-void streamSummary(controls::TextBox& summary, std::ostream& out) {
-  summary.appended.connect([&out](std::string_view text) {
-    for (const char letter : text)
-      if (letter != '\r') out << letter;
-    out.flush();
-  });
-}
-
 int update(frmAggMain& form, std::ostream& out, std::ostream& err) {
-  streamSummary(form.txtRiepilogo, out);
+  controls::streamText(form.txtRiepilogo, out);
   try {
     form.cmdAggiorna_Click();
   } catch (const std::exception& failure) {

@@ -1,6 +1,5 @@
 #include "console/frmAggMain.h"
 
-#include "common/globale.h"
 #include "common/text.h"
 #include "controls/desktop.h"
 #include "platform/settings.h"
@@ -60,8 +59,6 @@ void frmAggMain::collegaEventi() {
 }
 
 void frmAggMain::Form_Initialize() {
-  common::DirProgramma = programma_.cartella;
-  common::Impostazioni = &programma_.impostazioni;
   ModoDebug = common::StessoTesto(impostazione("DEBUG"), "KEP");
   Ws = jet::dao::DBEngine::Workspaces(0);
   PercorsoProgramma = programma_.cartella;

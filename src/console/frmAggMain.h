@@ -161,7 +161,6 @@ class frmAggMain : public controls::Form {
   bool applicazioneScelta();  // asks for it where the database was picked by hand
   bool aggiornamentoVietato() const;
   void copiaDiSicurezza(const Corsa& corsa);
-  std::string parametro(const std::string& nome);  // of the target; empty where it is no text
   bool transazioneRichiesta();
   void rinominaCampi();
   void contaTabelle(Corsa& corsa);

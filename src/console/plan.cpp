@@ -1,25 +1,10 @@
 // What an update would change, found by trying it on a target that is never saved.
-#include <algorithm>
-
 #include "common/globale.h"
+#include "common/text.h"
 #include "console/frmAggMain.h"
 #include "schema/piano.h"
 
 namespace console {
-namespace {
-
-/// Lines of a summary, without those that are empty.
-std::vector<std::string> righe(const std::string& riepilogo) {
-  std::vector<std::string> trovate;
-  for (std::size_t inizio = 0; inizio < riepilogo.size();) {
-    const std::size_t fine = std::min(riepilogo.find("\r\n", inizio), riepilogo.size());
-    if (fine > inizio) trovate.push_back(riepilogo.substr(inizio, fine - inizio));
-    inizio = fine + 2;
-  }
-  return trovate;
-}
-
-}  // namespace
 
 void frmAggMain::PrevediAggiornamento(schema::Piano& piano) {
   UltimaCorsa = nuovaCorsa();
@@ -36,7 +21,8 @@ void frmAggMain::PrevediAggiornamento(schema::Piano& piano) {
     txtRiepilogo.setText("");
     rinominaCampi();
     piano = schema::prevedi(ambienteDellaCorsa());
-    const auto rinominati = righe(txtRiepilogo.text());
+    auto rinominati = common::Dividi(txtRiepilogo.text(), "\r\n");
+    std::erase(rinominati, "");
     piano.modifiche.insert(piano.modifiche.begin(), rinominati.begin(), rinominati.end());
   } catch (const runtime::Error&) {
     chiudiDestinazione();

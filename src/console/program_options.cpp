@@ -26,6 +26,7 @@ ProgramScope::ProgramScope(const ProgramOptions& options)
 }
 
 ProgramScope::~ProgramScope() {
+  common::DirProgramma.clear();
   common::Impostazioni = nullptr;
   platform::useComputerFile("");
 }

@@ -11,7 +11,6 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "runtime/format.h"
-#include "runtime/numbers.h"
 #include "schema/fasi.h"
 
 namespace console {
@@ -102,24 +101,19 @@ void frmAggMain::copiaDiSicurezza(const Corsa& corsa) {
   ScriviRiepilogo("fatto.", false);
 }
 
-std::string frmAggMain::parametro(const std::string& nome) {
-  const runtime::Variant valore = schema::parametro(ambienteDellaCorsa(), nome);
-  return valore.isText() ? valore.toText() : std::string();
-}
-
 bool frmAggMain::transazioneRichiesta() {
   const runtime::Variant esiste = parameters::EsisteInKepGenerali(*DbDestinazione, "UsaTransazione");
   if (esiste.kind() != runtime::Variant::Kind::Boolean) {
     trattieni(esiste.toLong());
     return true;
   }
-  return !esiste.toBoolean() || parametro("UsaTransazione") != "0";
+  if (!esiste.toBoolean()) return true;
+  const runtime::Variant valore = schema::parametro(ambienteDellaCorsa(), "UsaTransazione");
+  return !valore.isText() || valore.toText() != "0";
 }
 
 void frmAggMain::rinominaCampi() {
-  if (common::StessoTesto(common::ApplicazioneCorrente, "PROTOCOLLO") ||
-      common::StessoTesto(common::ApplicazioneCorrente, "TELLAROPEC"))
-    return;
+  if (schema::applicazioneSenzaIscritti()) return;
   const auto rinomina = [this](const std::string& tabella) {
     bool esito = false;
     RinominaCampiLunghi(tabella, esito);
@@ -127,7 +121,7 @@ void frmAggMain::rinominaCampi() {
     if (!esito) throw runtime::Error(0, "", "");
   };
   rinomina("ragioniere");
-  if (runtime::val(parametro("DataWeb")) > 0) rinomina("DataWebAnagrafica");
+  if (schema::haPagineWeb(ambienteDellaCorsa())) rinomina("DataWebAnagrafica");
 }
 
 void frmAggMain::contaTabelle(Corsa& corsa) {

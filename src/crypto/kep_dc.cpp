@@ -7,7 +7,8 @@ namespace crypto {
 namespace {
 
 const std::string& item(const std::vector<std::string>& items, std::size_t index) {
-  if (index >= items.size()) throw runtime::Error(9, "EncUtils", "Il testo in chiaro non ha le due parti");
+  if (index >= items.size())
+    throw runtime::Error(runtime::SubscriptOutOfRange, "EncUtils", "Il testo in chiaro non ha le due parti");
   return items[index];
 }
 

@@ -97,7 +97,8 @@ std::size_t checkedColumns(int columns) {
 }
 
 void checkLength(std::span<const std::byte> bytes, std::size_t columns) {
-  if (bytes.size() < rows * columns) throw runtime::Error(9, "EncUtils", "Blocco o chiave troppo corti");
+  if (bytes.size() < rows * columns)
+    throw runtime::Error(runtime::SubscriptOutOfRange, "EncUtils", "Blocco o chiave troppo corti");
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array TabelleWeb = {"DataWebAltriDati", "DataWebAnagrafica", "DataWebFoto",
                                    "DataWebIndirizzo", "DataWebPrivacy",    "DataWebTitoloStudio"};
-constexpr std::array ApplicazioniSenzaWeb = {"PROTOCOLLO", "TELLAROPEC"};
+constexpr std::array ApplicazioniSenzaIscritti = {"PROTOCOLLO", "TELLAROPEC"};
 
 bool compreso(const auto& nomi, const std::string& nome) {
   return std::ranges::any_of(nomi, [&](const char* voce) { return common::StessoTesto(voce, nome); });
@@ -27,11 +27,17 @@ runtime::Variant parametro(const Ambiente& ambiente, const std::string& nome) {
   return valore;
 }
 
-bool tabellaWebEsclusa(const Ambiente& ambiente, const std::string& tabella) {
-  if (!compreso(TabelleWeb, tabella)) return false;
-  if (compreso(ApplicazioniSenzaWeb, common::ApplicazioneCorrente)) return true;
+bool applicazioneSenzaIscritti() {
+  return compreso(ApplicazioniSenzaIscritti, common::ApplicazioneCorrente);
+}
+
+bool haPagineWeb(const Ambiente& ambiente) {
   const runtime::Variant valore = parametro(ambiente, "DataWeb");
-  return !valore.isText() || runtime::val(valore.toText()) <= 0;
+  return valore.isText() && runtime::val(valore.toText()) > 0;
+}
+
+bool tabellaWebEsclusa(const Ambiente& ambiente, const std::string& tabella) {
+  return compreso(TabelleWeb, tabella) && (applicazioneSenzaIscritti() || !haPagineWeb(ambiente));
 }
 
 }  // namespace schema

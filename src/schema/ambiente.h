@@ -28,6 +28,10 @@ struct Ambiente {
 /// The target's parameter as stored; Empty if there is none, the Long of an error, which is held back.
 runtime::Variant parametro(const Ambiente& ambiente, const std::string& nome);
 
+/// True in a run for PROTOCOLLO or TELLAROPEC, the applications that have no members.
+bool applicazioneSenzaIscritti();
+/// True if the target's parameter DataWeb is above 0.
+bool haPagineWeb(const Ambiente& ambiente);
 /// True for the tables of the web pages in a database that has none: that of the applications without members
 /// and one whose parameter DataWeb isn't above 0.
 bool tabellaWebEsclusa(const Ambiente& ambiente, const std::string& tabella);

@@ -51,7 +51,8 @@ class Raccolta {
   }
   std::size_t posizione(std::int32_t indice) const {
     if (indice < 1 || indice > Count())
-      throw runtime::Error(9, "schema", "Indice non compreso nell'insieme: " + std::to_string(indice));
+      throw runtime::Error(runtime::SubscriptOutOfRange, "schema",
+                           "Indice non compreso nell'insieme: " + std::to_string(indice));
     return static_cast<std::size_t>(indice - 1);
   }
   std::size_t posizione(std::string_view chiave) const {
