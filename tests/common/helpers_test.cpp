@@ -10,8 +10,8 @@
 #include "common/text.h"
 #include "jet/dao/engine.h"
 #include "platform/files.h"
-#include "runtime/shown.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -68,7 +68,7 @@ const std::map<std::string, std::string (*)(const Fields&)> Functions = {
 TEST(Helpers, GiveWhatTheSuiteExpects) {
   support::CaseFile(CASES "/helpers.cases").expectResults([](const support::Case& each) {
     const Fields fields = support::fieldsOf(each.statement);
-    return support::inBraces(runtime::shown([&] { return Functions.at(fields[0])(fields); }));
+    return support::inBraces(support::shown([&] { return Functions.at(fields[0])(fields); }));
   });
 }
 
@@ -76,8 +76,8 @@ TEST(Text, MayBeLong) {
   EXPECT_EQ(common::ContaOccorrenze(std::string(200'000, 'a'), "a"), 200'000);
   const std::string most(32767, '1');
   EXPECT_EQ(common::SoloCifre(most), most);
-  EXPECT_EQ(runtime::shown([&] { return common::SoloCifre(most + "1"), "ok"; }), "error 6");
-  EXPECT_EQ(runtime::shown([&] { return common::SenzaAccenti(most + "1"), "ok"; }), "error 6");
+  EXPECT_EQ(support::shown([&] { return common::SoloCifre(most + "1"), "ok"; }), "error 6");
+  EXPECT_EQ(support::shown([&] { return common::SenzaAccenti(most + "1"), "ok"; }), "error 6");
   std::string many;
   for (int i = 0; i < 250; ++i) many += "x--";
   EXPECT_EQ(common::Dividi(many, "--").size(), 250U);
@@ -108,7 +108,7 @@ TEST(Records, TestAFieldOfTheOpenDatabase) {
   EXPECT_FALSE(common::EsisteCampo("manca", "valore", none));
   common::DatabaseAperto = nullptr;
   common::EliminaTabella(*db, "KepGenerali");
-  EXPECT_EQ(runtime::shown([&] { return common::EliminaTabella(*db, "KepGenerali"), "ok"; }), "error 3265");
+  EXPECT_EQ(support::shown([&] { return common::EliminaTabella(*db, "KepGenerali"), "ok"; }), "error 3265");
   db->Close();
 }
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/shown.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 using controls::TextBox;
 
@@ -12,7 +12,7 @@ TEST(TextBox, ATextTakesThePlaceOfTheSelection) {
     const std::vector<std::string> fields = support::fieldsOf(each.statement);
     TextBox box("txt");
     box.setText(fields[0]);
-    const std::string refused = runtime::shown([&] {
+    const std::string refused = support::shown([&] {
       box.setSelStart(std::stoi(fields[1]));
       box.setSelLength(std::stoi(fields[2]));
       return "";

@@ -4,8 +4,8 @@
 
 #include "bytes.h"
 #include "crypto/EncUtils.h"
-#include "runtime/shown.h"
 #include "runtime/text.h"
+#include "support/errors.h"
 
 namespace crypto {
 namespace {
@@ -84,7 +84,7 @@ TEST(AesText, IsEmptyWhereNothingCanBeDeciphered) {
       {"è0" + digits.substr(2), "giusta", "error 13"},
   };
   for (const auto& test : cases)
-    EXPECT_EQ(runtime::shown([&] { return utils.AESDecyptString(test.digits, test.password); }),
+    EXPECT_EQ(support::shown([&] { return utils.AESDecyptString(test.digits, test.password); }),
               test.expected);
   EXPECT_EQ(EncUtils::StringToPairArray("1fÀ05"), (std::vector<std::string>{"&h1f", "&hÀ0"}));
 }
@@ -131,7 +131,7 @@ TEST(KepDc, DeciphersInTwoStages) {
       {inner + "_pezzoè", "altra", "error 9"},
   };
   for (const auto& test : cases)
-    EXPECT_EQ(runtime::shown([&] { return utils.KepDc(outer(test.text), test.key); }), test.expected);
+    EXPECT_EQ(support::shown([&] { return utils.KepDc(outer(test.text), test.key); }), test.expected);
   EXPECT_EQ(EncUtils::KepChiaveEsterna("chiave"), "ÿchiave629");
   EXPECT_EQ(EncUtils::KepChiaveInterna("pezzoè"), "4pezzoèk7");
 }

@@ -5,8 +5,8 @@
 #include "bytes.h"
 #include "crypto/EncUtils.h"
 #include "platform/code_page.h"
-#include "runtime/shown.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 namespace crypto {
 namespace {
@@ -54,8 +54,8 @@ TEST(Rc4, IsItsOwnInverseForWhatTheCodePageHas) {
 
 TEST(Rc4, DividesByZeroForAnEmptyKey) {
   EncUtils utils;
-  EXPECT_EQ(runtime::shown([&] { return utils.RC4("testo", ""); }), "error 11");
-  EXPECT_EQ(runtime::shown([&] { return utils.RC4Initialize(""), "ok"; }), "error 11");
+  EXPECT_EQ(support::shown([&] { return utils.RC4("testo", ""); }), "error 11");
+  EXPECT_EQ(support::shown([&] { return utils.RC4Initialize(""), "ok"; }), "error 11");
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 #include "bytes.h"
 #include "crypto/EncUtils.h"
-#include "runtime/shown.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 namespace crypto {
 namespace {
@@ -58,7 +58,7 @@ TEST(Rijndael, AgreesWithItsDefinitionOnRandomKeysAndBlocks) {
 
 TEST(Rijndael, RefusesWhatDoesNotFit) {
   const auto shown = [](std::int32_t nb, std::int32_t nk, std::size_t keyLength, std::size_t blockLength) {
-    return runtime::shown([&] {
+    return support::shown([&] {
       EncUtils utils;
       utils.gkey(nb, nk, runtime::Bytes(keyLength));
       runtime::Bytes block(blockLength);
@@ -75,7 +75,7 @@ TEST(Rijndael, RefusesWhatDoesNotFit) {
   EXPECT_EQ(shown(8, 8, 31, 32), "error 9");
   EXPECT_EQ(shown(8, 8, 32, 31), "error 9");
   runtime::Bytes block(32);
-  EXPECT_EQ(runtime::shown([&] { return EncUtils().decrypt(block), "ok"; }), "error 5");
+  EXPECT_EQ(support::shown([&] { return EncUtils().decrypt(block), "ok"; }), "error 5");
 }
 
 }  // namespace

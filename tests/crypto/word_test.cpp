@@ -5,9 +5,9 @@
 
 #include "crypto/EncUtils.h"
 #include "crypto/shifts.h"
-#include "runtime/shown.h"
 #include "runtime/variant.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 namespace crypto {
 namespace {
@@ -54,7 +54,7 @@ TEST(Words, CalculateWithThirtyTwoBits) {
   };
   support::CaseFile(CASES "/words.cases").expectResults([&](const support::Case& each) {
     const Fields fields = support::fieldsOf(each.statement);
-    return runtime::shown([&] { return functions.at(fields[0])(fields); });
+    return support::shown([&] { return functions.at(fields[0])(fields); });
   });
   EXPECT_EQ(E::HexToWord("12345678"), (Word{0x12, 0x34, 0x56, 0x78}));
   EXPECT_GE(E::DMod(0.7, 0.01), 0) << "0.7 / 0.01 is rounded up to 70, and 70 * 0.01 above 0.7";

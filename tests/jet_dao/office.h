@@ -9,6 +9,7 @@
 #include "jet/dao/engine.h"
 #include "runtime/error.h"
 #include "support/command.h"
+#include "support/errors.h"
 #include "support/temp_folder.h"
 
 /// Small databases for the tests of the data access objects, and second readers that look at what was
@@ -80,15 +81,6 @@ inline std::string complaints(const std::string& path, const std::string& option
   return complaints(std::vector{path}, options);
 }
 
-/// Number of the error that `work` ends in; 0 if it ends in none.
-template <typename Work>
-int errorOf(Work work) {
-  try {
-    work();
-  } catch (const runtime::Error& error) {
-    return error.number();
-  }
-  return 0;
-}
+using support::errorOf;
 
 }  // namespace office

@@ -4,6 +4,7 @@
 #include "apps/jetsql/script.h"
 #include "office.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 namespace jet::dao {
 namespace {
@@ -36,16 +37,6 @@ std::string shown(Recordset& rows, const std::string& columns) {
   return result;
 }
 
-/// What `work` gives, or the number of the error that it ends in.
-template <typename Work>
-std::string resultOf(Work work) {
-  try {
-    return work();
-  } catch (const runtime::Error& error) {
-    return "error " + std::to_string(error.number());
-  }
-}
-
 /// All cases run on one office; what a change leaves is rolled back.
 class SuiteStatements : public testing::Test {
  protected:
@@ -63,7 +54,7 @@ class SuiteStatements : public testing::Test {
 
   void expectRows(const std::string& file) {
     support::CaseFile(folder + "/" + file).expectResults([&](const support::Case& each) {
-      return resultOf([&] { return shown(*query(each)->OpenRecordset(dbOpenDynaset), each.look); });
+      return support::shown([&] { return shown(*query(each)->OpenRecordset(dbOpenDynaset), each.look); });
     });
   }
 
@@ -91,7 +82,7 @@ TEST_F(SuiteStatements, QueriesOfStatesFindTheRowsOfTheOffice) {
 TEST_F(SuiteStatements, ChangesLeaveTheOfficeAsTheyShould) {
   support::CaseFile(folder + "/changes.cases").expectResults([&](const support::Case& each) {
     workspace_.BeginTrans();
-    const std::string result = resultOf([&] { return changed(each); });
+    const std::string result = support::shown([&] { return changed(each); });
     workspace_.Rollback();
     return result;
   });

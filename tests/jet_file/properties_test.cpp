@@ -8,6 +8,7 @@
 #include "jet/file/catalogue.h"
 #include "jet/file/table_reader.h"
 #include "runtime/error.h"
+#include "support/errors.h"
 
 namespace jet::file {
 namespace {
@@ -86,14 +87,9 @@ TEST(Properties, DamageIsError3343) {
       {"MR2\0\x0A\0\0\0\0\0\x03\0\0\0", 14},                            // owner part shorter than its length
       {"MR2\0\x14\0\0\0\0\0\x06\0\0\0\0\0\x08\0\x01\x0A\0\0\0\0", 24},  // name number without a name
   };
-  for (const std::string_view block : damaged) {
-    try {
-      PropertyBlock(Jet4, bytes(block));
-      ADD_FAILURE() << testing::PrintToString(block);
-    } catch (const runtime::Error& error) {
-      EXPECT_EQ(error.number(), 3343);
-    }
-  }
+  for (const std::string_view block : damaged)
+    EXPECT_EQ(support::errorOf([&] { PropertyBlock(Jet4, bytes(block)); }), 3343)
+        << testing::PrintToString(block);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "jet/file/catalogue.h"
 #include "jet/file/database_writer.h"
 #include "jet/file/page_use.h"
+#include "support/errors.h"
 #include "writing.h"
 
 /// Databases made from nothing, changed and compacted.
@@ -356,12 +357,7 @@ TEST_F(ChangedTable, FailingDiskCallsBecomeNumberedErrors) {
         platform::File out = platform::openFile(corpus::scratch("faulty.mdb"), platform::OpenMode::Create);
         support::FailNth observer(nth, fault);
         support::ObservedDisk scope(observer);
-        int got = 0;
-        try {
-          c.write(out);
-        } catch (const runtime::Error& error) {
-          got = error.number();
-        }
+        const int got = support::errorOf([&] { c.write(out); });
         EXPECT_EQ(got, observer.wasHit() ? number : 0) << c.name << " call " << nth;
         if (!observer.wasHit()) break;
       }

@@ -7,6 +7,7 @@
 
 #include "runtime/error.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 namespace jet::sql {
 namespace {
@@ -115,12 +116,7 @@ TEST(StoredQuery, RowsAreThoseOfTheEngine) {
 }
 
 int errorOf(const StoredQuery& query) {
-  try {
-    putTogether(query);
-  } catch (const runtime::Error& error) {
-    return error.number();
-  }
-  return 0;
+  return support::errorOf([&] { putTogether(query); });
 }
 
 /// Rows as a damaged file might hold them.

@@ -5,6 +5,7 @@
 
 #include "parametri.h"
 #include "support/case_file.h"
+#include "support/errors.h"
 
 namespace parameters::test {
 namespace {
@@ -15,7 +16,7 @@ using runtime::Variant;
 
 /// "Integer 5", "Null", "error 6".
 std::string mostra(const std::function<Variant()>& leggi) {
-  try {
+  return support::shown([&]() -> std::string {
     const Variant valore = leggi();
     switch (valore.kind()) {
       case Variant::Kind::Null:
@@ -29,9 +30,7 @@ std::string mostra(const std::function<Variant()>& leggi) {
       default:
         return valore.toText();
     }
-  } catch (const runtime::Error& errore) {
-    return "error " + std::to_string(errore.number());
-  }
+  });
 }
 
 // clang-format off

@@ -7,6 +7,7 @@
 
 #include "support/child_process.h"
 #include "support/disk_faults.h"
+#include "support/errors.h"
 #include "support/temp_folder.h"
 
 namespace platform {
@@ -34,12 +35,7 @@ class CopyFile : public testing::Test {
     EXPECT_FALSE(fileExists(target_ + ".tmp"));
   }
   int errorOfCopy() {
-    try {
-      copyFile(source_, target_);
-      return 0;
-    } catch (const DiskError& error) {
-      return error.number();
-    }
+    return support::errorOf([&] { copyFile(source_, target_); });
   }
 
   support::TempFolder folder_;
@@ -175,14 +171,9 @@ TEST_F(CopyFile, OntoItselfOrWithoutSourceOrFolderIsRefused) {
       {folder_.path(), target_, 75},
       {source_, folder_.path(), 75},
   };
-  for (const auto& test : cases) {
-    try {
-      copyFile(test.from, test.to);
-      ADD_FAILURE() << test.to;
-    } catch (const DiskError& error) {
-      EXPECT_EQ(error.number(), test.error) << test.from << " " << test.to;
-    }
-  }
+  for (const auto& test : cases)
+    EXPECT_EQ(support::errorOf([&] { copyFile(test.from, test.to); }), test.error)
+        << test.from << " " << test.to;
   EXPECT_EQ(readWholeFile(source_), fresh_);
   expectOldTargetAndNothingElse();
 }

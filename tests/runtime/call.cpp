@@ -12,7 +12,7 @@
 #include "runtime/like.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "shown.h"
+#include "support/errors.h"
 
 namespace runtime {
 namespace {
@@ -216,7 +216,7 @@ class Expression {
 }  // namespace
 
 std::string resultOf(std::string_view text) {
-  return shown([&] {
+  return support::shown([&] {
     Expression expression(text);
     const Variant value = expression.value();
     if (!expression.atEnd()) throw std::logic_error("too much: " + std::string(text));

@@ -5,20 +5,13 @@
 
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "support/errors.h"
 #include "support/temp_folder.h"
 
 namespace platform {
 namespace {
 
-template <class Work>
-int errorOf(Work work) {
-  try {
-    work();
-    return 0;
-  } catch (const DiskError& error) {
-    return error.number();
-  }
-}
+using support::errorOf;
 
 HANDLE openByAnotherProgram(const std::string& path) {
   return ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,

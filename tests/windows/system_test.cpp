@@ -10,6 +10,7 @@
 #include "platform/registry.h"
 #include "platform/settings.h"
 #include "runtime/error.h"
+#include "support/errors.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -121,14 +122,8 @@ TEST_F(WindowsChildren, ThatCannotBeStartedAreNumbered) {
                {std::string("cmd\0", 4), 53},
                {folder_.path("niente.exe"), 5},
                {folder_.path("comandi.bat"), 5}};
-  for (const auto& test : cases) {
-    try {
-      platform::Process child(test.command);
-      ADD_FAILURE() << test.command;
-    } catch (const runtime::Error& error) {
-      EXPECT_EQ(error.number(), test.number) << test.command;
-    }
-  }
+  for (const auto& test : cases)
+    EXPECT_EQ(support::errorOf([&] { platform::Process child(test.command); }), test.number) << test.command;
 }
 
 TEST_F(WindowsChildren, CanTakeThePlaceOfTheProgram) {
