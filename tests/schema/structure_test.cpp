@@ -156,14 +156,14 @@ const Case Fields[] = {
          digitColumns() +
          Statements{digits("n", "a", 28, 28), digits("t", "x", 5, 1), digits("t", "d", 10, 2), digits("t", "s", 6, 1),
                     digits("t", "v", 19, 4), digits("t", "z", 9, 3)},
-     {"CREATE TABLE t (d DOUBLE, s SINGLE, v CURRENCY, l LONG, z TEXT(9))", "INSERT INTO t VALUES (12.75, 0.1, -922337203685477.58, 7, '1,125')",
+     {"CREATE TABLE t (d DOUBLE, s SINGLE, v CURRENCY, l LONG, z TEXT(9))", "INSERT INTO t VALUES (12.75, 0.1, -922337203685477.5808, 7, '1,125')",
       "INSERT INTO t (d) VALUES (-0.3)"},
      "Tabella n in creazione\n- campo a in creazione...fatto.\n- campo b in creazione...fatto.\nTabella n inserita.\n"
      "Tabella t- campo x in creazione...fatto.\n"
      "Tabella t- campo d in modifica\nTabella t- campo d fatto.\nTabella t- campo s in modifica\nTabella t- campo s fatto.\n"
      "Tabella t- campo v in modifica\nTabella t- campo v fatto.\nTabella t- campo l in modifica\nTabella t- campo l fatto.\n"
      "Tabella t- campo z in modifica\nTabella t- campo z fatto.\n",
-     "t(d 20(10.2), s 20(6.1), v 20(19.4), l 20(18.0), z 20(9.3), x 20(5.1)) : 12,75,0,1,-922337203685477,58,7,1,125,Null / "
+     "t(d 20(10.2), s 20(6.1), v 20(19.4), l 20(18.0), z 20(9.3), x 20(5.1)) : 12,75,0,1,-922337203685477,5808,7,1,125,Null / "
      "-0,3,Null,Null,Null,Null,Null\nn(a 20(28.28), b 20(18.0))\n"},
     {"a Decimal becomes another number that holds it",
      {field("t", "a", {.type = "4"}), field("t", "b", {.type = "5"}), field("t", "c", {.type = "7"}), field("t", "d", {.type = "10", .size = 9})},
@@ -179,7 +179,7 @@ const Case Fields[] = {
      "Tabella t- campo a in modifica\n", "3421"},
     {"a Decimal that a whole number would round", {field("t", "a", {.type = "4"})}, {"CREATE TABLE t (a DECIMAL(10, 2))", "INSERT INTO t VALUES (12.75)"},
      "Tabella t- campo a in modifica\n", "3421"},
-    {"a Decimal that a Double would round", {field("t", "a", {.type = "7"})}, {"CREATE TABLE t (a DECIMAL(20, 0))", "INSERT INTO t VALUES (12345678901234567890)"},
+    {"a Decimal that a Double would round", {field("t", "a", {.type = "7"})}, {"CREATE TABLE t (a DECIMAL(20, 0))", "INSERT INTO t VALUES ('12345678901234567890')"},
      "Tabella t- campo a in modifica\n", "3421"},
     {"a number with more digits than the Decimal", Statements{field("t", "a", {.type = "20"})} + digitColumns() + Statements{digits("t", "a", 3, 1)},
      {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (100)"}, "Tabella t- campo a in modifica\n", "6"},

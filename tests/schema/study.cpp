@@ -198,9 +198,9 @@ std::string Study::bytes() const {
 std::string Study::faults() const {
   const char* const data = std::getenv("AGGNORVO_JET_DATA");
   if (!data) return {};
-  const auto check =
-      support::runCommand("python3 " + support::shellWord(std::string(data) + "/jet/jetcheck.py") +
-                          " --strict " + support::shellWord(platform::toSystemPath(office.target)));
+  const auto check = support::runCommand(
+      "python3 " + support::shellWord(std::string(data) + "/jet/jetcheck.py") +
+      " --strict --allow required-null " + support::shellWord(platform::toSystemPath(office.target)));
   return check.status == 0 ? "" : check.output + check.errors;
 }
 

@@ -56,7 +56,8 @@ Decimal toDecimal(const runtime::Variant& value) {
   if (const auto* number = std::get_if<Decimal>(&value.value())) return *number;
   if (const auto* money = std::get_if<runtime::Currency>(&value.value())) {
     const std::int64_t amount = money->tenThousandths;
-    const auto magnitude = static_cast<std::uint64_t>(amount < 0 ? -amount : amount);
+    const auto bits = static_cast<std::uint64_t>(amount);  // the lowest amount has no opposite
+    const std::uint64_t magnitude = amount < 0 ? 0 - bits : bits;
     return checked({amount < 0, 4, magnitude});
   }
   if (value.isText()) {
