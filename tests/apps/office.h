@@ -40,7 +40,7 @@ inline std::string jetData() {
 inline std::string complaints(const std::string& database) {
   if (jetData().empty()) return {};
   const auto result = support::runCommand("python3 " + shellWord(jetData() + "/jet/jetcheck.py") +
-                                          " --strict --allow id-gap " + shellWord(database));
+                                          " --strict " + shellWord(database));
   return result.output + result.errors;
 }
 
