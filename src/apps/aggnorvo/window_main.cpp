@@ -19,6 +19,7 @@ void showPatch(const std::string& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   QApplication application(argc, argv);
   CLI::App app("Apre la finestra dell'aggiornamento.\n", "aggnorvo-window");

@@ -24,12 +24,13 @@ std::unique_ptr<file::PageFile> openPages(const std::string& path, bool exclusiv
 template <typename Work>
 platform::File makeFile(const std::string& path, Work work) {
   try {
-    if (platform::inspectFile(path)) throw runtime::Error(3204, Source, "Il database esiste già: " + path);
+    if (platform::inspectFile(path))
+      throw file::jetError(file::DatabaseExists, "Il database esiste già: " + path);
     platform::Replacement replacement(path);
     work(replacement.file());
     return replacement.publish(platform::LockMode::Exclusive);
   } catch (const platform::DiskError& error) {
-    throw file::fromDisk(error, path);
+    throw file::fromDisk(error);
   }
 }
 
@@ -161,7 +162,10 @@ DatabasePtr DBEngine::OpenDatabase(const std::string& path, bool exclusive, bool
 
 void DBEngine::CompactDatabase(const std::string& source, const std::string& destination) {
   const file::PageFile old(source, file::Sharing::Exclusive, true);
-  makeFile(destination, [&](platform::File& out) { file::writeCompacted(old, out); });
+  makeFile(destination, [&](platform::File& out) {
+    file::writeCompacted(old, out);
+    old.requireUnchanged();
+  });
 }
 
 }  // namespace jet::dao
