@@ -176,6 +176,19 @@ TEST(Locks, ASourceThatIsChangedWhileItIsCompactedGivesNoCopy) {
   EXPECT_EQ(folder.names(), std::vector<std::string>{"a.mdb"});
 }
 
+TEST(Locks, ACompactCopyIsForThoseWhoMayUseItsSource) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("a.mdb"), copy = folder.path("b.mdb");
+  office::make(path, {});
+  const auto rights = [](const std::string& file) {
+    return std::filesystem::status(platform::toSystemPath(file)).permissions();
+  };
+  const auto ownersUse = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+  std::filesystem::permissions(platform::toSystemPath(path), ownersUse);
+  DBEngine::CompactDatabase(path, copy);
+  EXPECT_EQ(rights(copy), ownersUse);
+}
+
 TEST(Locks, OwnSavesAreNoChangeByAnother) {
   const support::TempFolder folder;
   const std::string path = folder.path("a.mdb");
