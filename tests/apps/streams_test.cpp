@@ -19,6 +19,7 @@ using support::shellWord;
 
 class Streams : public testing::Test {
  protected:
+  void SetUp() override { ::setenv("QT_QPA_PLATFORM", "offscreen", 1); }
   void make(const std::string& file) {
     const auto made = runCommand(JETSQL " --create " + shellWord(folder_.systemPath(file)),
                                  "CREATE TABLE t (a LONG, b TEXT(10));\nINSERT INTO t VALUES (1, 'uno');\n");
@@ -89,7 +90,6 @@ TEST_F(Streams, OfTheWindowAreNoFilesEither) {
   ASSERT_EQ(runCommand(CATALOGO " --create " + word("AggNorvo.mdb") + " " + word("modello.mdb")).status, 0);
   const std::string reference = folder_.systemPath("AggNorvo.mdb"), programs = folder_.systemPath(),
                     settings = folder_.systemPath("nessuna.ini");
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
   for (const char* program : {WINDOW, AGGNORVO}) {
     support::Child window([&] {
       for (const int stream : {0, 1, 2}) ::close(stream);
