@@ -16,6 +16,8 @@ std::string fromSystemPath(std::string_view path);
 std::string folderOf(std::string_view path);
 /// Folder that holds the file: folderOf, or the root, or "." for a bare name.
 std::string containingFolder(std::string_view path);
+/// The path without any symbolic link in it, as the system finds it; what isn't there stays as it is written.
+std::string realPath(const std::string& path);
 /// Folder in which the user's programs keep their settings.
 std::string userSettingsFolder();
 /// Folder in which they keep what outlives a session but is no setting.
