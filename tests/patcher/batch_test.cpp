@@ -37,7 +37,7 @@ TEST(Batch, TellsWhatItDoesAndWhetherAllWentWell) {
     std::ostringstream out, err;
     const int status = patcher::runPatch(computer.path("patch"), out, err);
     std::string told = std::to_string(status);
-    for (const char letter : " | " + out.str() + " | " + err.str())
+    for (const char letter : " | " + out.str() + (err.str().empty() ? "" : " | " + err.str()))
       told += letter == '\n' ? "\r\n" : std::string(1, letter);
     return computer.shown(told +
                           (platform::fileExists(computer.path("programma\\error.log")) ? " | logged" : ""));
