@@ -7,8 +7,7 @@ namespace common {
 
 bool EsisteFile(const std::string& percorso) {
   try {
-    platform::openFile(percorso, platform::OpenMode::Read);
-    return true;
+    return platform::openFile(percorso, platform::OpenMode::Read).tryLock(platform::LockMode::Shared);
   } catch (const runtime::Error&) {
     return false;
   }

@@ -75,7 +75,8 @@ std::string choose(frmAggMain& form, const BatchOptions& options) {
 /// Why the run did not begin, where no box has said it.
 void explainRefusal(const Corsa& run, std::ostream& err) {
   if (run.esito == Esito::NonScelta)
-    err << "Database inesistente o non leggibile: " << platform::toSystemPath(run.database) << std::endl;
+    err << "Database inesistente, non leggibile o aperto da un altro programma: "
+        << platform::toSystemPath(run.database) << std::endl;
   if (run.esito == Esito::SenzaNome)
     err << "Nome dell'applicazione non indicato: aggiornamento non eseguito." << std::endl;
 }

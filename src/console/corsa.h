@@ -8,7 +8,7 @@ namespace console {
 
 /// How a run of the update ended.
 enum class Esito {
-  NonScelta,      // no database chosen, or its file isn't there: nothing was done
+  NonScelta,      // no database chosen, its file isn't there or is held exclusively: nothing was done
   Vietata,        // the marker file forbids it: nothing was done
   SenzaNome,      // no application was named: nothing was done
   ApertoAltrove,  // the database is open elsewhere and the operator gave up: nothing was done

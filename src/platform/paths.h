@@ -19,6 +19,8 @@ std::string folderOf(std::string_view path);
 std::string containingFolder(std::string_view path);
 /// A name beside the file that nobody has and nobody can foresee: the file's own, ".tmp." and random digits.
 std::string newNameBeside(const std::string& path);
+/// The path without any symbolic link in it, as the system finds it; what isn't there stays as it is written.
+std::string realPath(const std::string& path);
 /// Folder in which the user's programs keep their settings.
 std::string userSettingsFolder();
 /// Folder in which they keep what outlives a session but is no setting.

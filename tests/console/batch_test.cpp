@@ -50,7 +50,7 @@ TEST(Batch, RefusesWhatItCanNotBegin) {
       {options([](auto& o) { o.app = "ordmedici", o.database.reset(); }), "Applicazione non installata"},
       {options([](auto& o) { o.app.reset(), o.database.reset(); }), "Specificare l'applicazione:\n"},
       {options([](auto& o) { o.database = "/manca/del/tutto.mdb"; }),
-       "Database inesistente o non leggibile: /manca"},
+       "Database inesistente, non leggibile o aperto da un altro programma: /manca"},
       {options([&](auto& o) { o.database = platform::toSystemPath(office.data); }), "Database inesistente"},
       {options([](auto& o) { o.app.reset(); }), "Nome dell'applicazione non indicato"},  // the answer is no
       {options([](auto& o) { o.programDir = "/manca"; }), "Database mancante"},

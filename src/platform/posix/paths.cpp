@@ -69,6 +69,12 @@ std::string fromSystemPath(std::string_view path) {
   return result;
 }
 
+std::string realPath(const std::string& path) {
+  std::error_code failure;
+  const auto found = std::filesystem::weakly_canonical(toSystemPath(path), failure);
+  return failure ? path : fromSystemPath(found.string());
+}
+
 std::string userSettingsFolder() {
   return userFolder("XDG_CONFIG_HOME", "/.config");
 }

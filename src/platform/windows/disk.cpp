@@ -237,14 +237,9 @@ std::string followLinks(const std::string& path) {
   if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) return path;
   const Handle file(openForInspection(path));
   if (!file) fail(ERROR_FILE_NOT_FOUND, path);
-  std::wstring name(32768, L'\0');
-  const DWORD length = ::GetFinalPathNameByHandleW(file.get(), name.data(), static_cast<DWORD>(name.size()),
-                                                   FILE_NAME_NORMALIZED);
-  if (length == 0 || length >= name.size()) failLastCall(path);
-  name.resize(length);
-  constexpr std::wstring_view share = L"\\\\?\\UNC\\", local = L"\\\\?\\";
-  if (name.starts_with(share)) return windows::narrow(L"\\\\" + name.substr(share.size()));
-  return windows::narrow(name.starts_with(local) ? name.substr(local.size()) : name);
+  const std::string found = windows::finalPath(file.get());
+  if (found.empty()) failLastCall(path);
+  return found;
 }
 
 std::uint64_t freeSpace(const std::string& folder) {
