@@ -13,16 +13,14 @@ set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # Precompiled headers need the first setting; the others let clones side by side share what they compiled.
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
-    CCACHE_NOHASHDIR=1 ${CCACHE})
+  # Clones side by side share what they compiled.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_NOHASHDIR=1 ${CCACHE})
 endif()
 
 option(AGGNORVO_WERROR "Treat warnings as errors" ON)
 add_library(aggnorvo_options INTERFACE)
 target_compile_options(aggnorvo_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
-  $<$<BOOL:${AGGNORVO_WERROR}>:-Werror>
-  $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)  # lets ccache know precompiled headers
+  $<$<BOOL:${AGGNORVO_WERROR}>:-Werror>)
 target_include_directories(aggnorvo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
 # layer(NAME [DEPENDENCY...]): every .cpp of the current folder as library NAME.
@@ -31,7 +29,6 @@ function(layer name)
   add_library(${name} STATIC ${sources})
   target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE aggnorvo_options)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-  target_precompile_headers(${name} REUSE_FROM precompiled_standard)
 endfunction()
 
 # program(NAME SOURCES file... LIBRARIES library...)
@@ -47,6 +44,5 @@ function(test_binary name)
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest GTest::gmock GTest::gtest_main aggnorvo_options)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_precompile_headers(${name} REUSE_FROM precompiled_tests)
   add_test(NAME ${name} COMMAND ${name})
 endfunction()
