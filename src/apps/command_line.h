@@ -17,7 +17,8 @@ inline constexpr int wrongUsage = 64;
 /// the options are added.
 void speakItalian(CLI::App& app);
 
-/// The answer to an interrupted parse: --help and --version on standard output give 0; anything else is told
+/// The answer to an interrupted parse: --help and --version on standard output give 0 (1 where it can't
+/// be written); anything else is told
 /// on standard error and gives wrongUsage.
 int answer(const CLI::App& app, const CLI::ParseError& error);
 

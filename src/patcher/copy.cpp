@@ -8,15 +8,6 @@
 #include "runtime/format.h"
 
 namespace patcher {
-namespace {
-
-/// Gives a file another name, which must be free.
-void rinomina(const std::string& percorso, const std::string& nuovo) {
-  if (platform::inspectFile(nuovo)) throw platform::DiskError(platform::DiskFault::Exists, nuovo);
-  platform::replaceFile(percorso, nuovo);
-}
-
-}  // namespace
 
 void frmPatch::CopiaConAttesa(const std::string& sorgente, const std::string& destinazione, bool& riuscito) {
   constexpr float attesa = 15.0f;  // seconds: a program that is closing lets go of its files
@@ -33,8 +24,8 @@ void frmPatch::CopiaFile(const std::string& sorgente, const std::string& destina
   riuscito = false;
   try {
     if (common::StessoTesto(common::SenzaSpazi(destinazione), PercorsoEseguibile))
-      rinomina(destinazione,
-               destinazione + "." + runtime::format(platform::clock().now(), "yyyymmdd_hhnnss"));
+      platform::renameFile(destinazione,
+                           destinazione + "." + runtime::format(platform::clock().now(), "yyyymmdd_hhnnss"));
     platform::copyFile(sorgente, destinazione);
     riuscito = true;
   } catch (const runtime::Error&) {

@@ -19,6 +19,7 @@ File holdTarget(const std::string& path) {
   if (inspectFile(path)) {
     target = openFile(path, OpenMode::Update);
     lockOrRefuse(target, LockMode::Exclusive);
+    if (!target.isStillAt(path)) throw DiskError(DiskFault::Sharing, path);
   }
   return target;
 }
@@ -39,9 +40,12 @@ void copyFile(const std::string& from, const std::string& to) {
   lockOrRefuse(source, LockMode::Shared);
   const std::optional<FileInfo> info = inspectFile(from);
   if (!info || !source.isStillAt(from)) throw DiskError(DiskFault::Sharing, from);
+  const FileState before = source.state();
   const File oldTarget = holdTarget(to);
   Replacement copy(to, from);
   copyContent(source, copy.file());
+  // A program that knows nothing of our lock may have written: the copy would be a mixture.
+  if (source.state() != before) throw DiskError(DiskFault::Sharing, from);
   copy.file().setModified(info->modifiedUnixNanoseconds);
   copy.publish();
 }

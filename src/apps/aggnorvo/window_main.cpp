@@ -38,6 +38,7 @@ std::unique_ptr<QApplication> openDisplay(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   CLI::App app("Apre la finestra dell'aggiornamento.\n", "aggnorvo-window");
   apps::speakItalian(app);

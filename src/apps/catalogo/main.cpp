@@ -42,6 +42,7 @@ void declare(CLI::App& app, catalogo::Request& request) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   CLI::App app(description, "aggnorvo-catalogo");
   apps::speakItalian(app);

@@ -40,6 +40,7 @@ void declare(CLI::App& app, jetsql::Request& request) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   std::ios::sync_with_stdio(false);
   CLI::App app(description, "jetsql");
