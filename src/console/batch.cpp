@@ -25,9 +25,8 @@ class BatchWindow {
     form.load();
     // A missing one has its box.
     if (form.ErroreAvvio)
-      err << "Database di riferimento non utilizzabile: "
-          << platform::toSystemPath(form.PercorsoRiferimento) << ": " << inUnaRiga(*form.ErroreAvvio)
-          << std::endl;
+      err << "Database di riferimento non utilizzabile: " << platform::toSystemPath(form.PercorsoRiferimento)
+          << ": " << inUnaRiga(*form.ErroreAvvio) << std::endl;
   }
   ~BatchWindow() { form.unload(); }
 

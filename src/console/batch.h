@@ -35,7 +35,8 @@ int exitStatus(const Corsa& run);
 /// Updates the database of `app`, or `database`, or the application that the patch was built for. The summary
 /// goes to `out` as it grows, with LF line ends; boxes, questions, refusals and, in one line, the cause of a
 /// failure to `err`. Returns an ExitStatus. A plan writes one line a change to `out` and nothing to any file:
-/// WouldChange, or Done if nothing would change; a run that would fail, or take the backup back, is a failure.
+/// WouldChange, or Done if nothing would change; a run that would fail, or take the backup back, is a
+/// failure.
 int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);
 
 /// Writes the applications that the window would list, one a line: name, TAB, path as the system writes it;

@@ -166,15 +166,15 @@ class frmAggMain : public controls::Form {
 
   void congedo();  // what the operator is told or shown on leaving
   void esegui(Corsa& corsa);
-  Corsa nuovaCorsa();         // with SenzaNome where nothing forbids to go on
+  Corsa nuovaCorsa();  // with SenzaNome where nothing forbids to go on
   bool sceltoRiferimento() const;
   void rifiuta(const Corsa& corsa);  // in the summary
   void intesta(const Corsa& corsa);
   bool applicazioneScelta();  // asks for it where the database was picked by hand
   bool aggiornamentoVietato() const;
   void copiaDiSicurezza(Corsa& corsa);
-  /// Copies `percorso` beside itself under `nome`, `ora` ("yyyymmddhhnnss") and ".mdb", and returns that path.
-  /// While another file has the name it waits for the next second.
+  /// Copies `percorso` beside itself under `nome`, `ora` ("yyyymmddhhnnss") and ".mdb", and returns that
+  /// path. While another file has the name it waits for the next second.
   std::string copiaConOra(const std::string& percorso, const std::string& nome, std::string ora);
   bool transazioneRichiesta();
   void rinominaCampi();

@@ -69,7 +69,7 @@ void aggiornaContenuti(const Ambiente& ambiente, const Maniera& maniera) {
       tabella = nome;
       aggiornaContenuto(ambiente, maniera, nome);
     }
-  } catch (runtime::Error errore) {
+  } catch (runtime::Error& errore) {
     errore.addPlace("tabella " + tabella);
     ambiente.trattieni(errore);
   }

@@ -26,7 +26,7 @@ void AggiungiQuery(const Ambiente& ambiente) {
       else
         db.CreateQueryDef(nome, testo);
     }
-  } catch (runtime::Error errore) {
+  } catch (runtime::Error& errore) {
     ambiente.scrivi("- errore " + std::to_string(errore.number()) + " durante la creazione query " + nome,
                     Voce::Errore);
     ambiente.scrivi(errore.description(), Voce::Errore);

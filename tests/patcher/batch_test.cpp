@@ -79,13 +79,14 @@ TEST(Batch, FailsWhereAFileCanNotBeCopiedOrTheDirectoriesCanNotBeFound) {
 TEST(Batch, TellsOfAListThatIsNotThereEvenWhereNothingCanBeLogged) {
   for (const bool logged : {true, false}) {
     Computer computer;
-    if (!logged) std::filesystem::remove(computer.folder.systemPath("programma"));
+    const std::string log = computer.folder.systemPath("programma\\error.log");
+    if (!logged) std::filesystem::create_directory(log);
     const auto result = patchWith(computer, AGGNORVO, "manca");
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
     EXPECT_THAT(result.errors, HasSubstr("Elenco della patch non leggibile: " +
                                          computer.folder.systemPath("manca/PatchList.txt")));
-    EXPECT_EQ(computer.has("programma\\error.log"), logged);
+    EXPECT_EQ(std::filesystem::is_regular_file(log), logged);
   }
 }
 

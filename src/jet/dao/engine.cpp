@@ -107,8 +107,7 @@ DatabasePtr Workspace::OpenDatabase(const std::string& path, bool exclusive, boo
 
 DatabasePtr Workspace::OpenForTrial(const std::string& path) {
   file::PageFile read(path, file::Sharing::Shared, true);
-  return state_->add(
-      std::make_unique<file::PageFile>(std::move(read.file()), file::Sharing::Shared, false));
+  return state_->add(std::make_unique<file::PageFile>(std::move(read.file()), file::Sharing::Shared, false));
 }
 
 DatabasePtr Workspace::CreateDatabase(const std::string& path) {
