@@ -126,7 +126,7 @@ TEST(Batch, TellsWhatIsWrongWithTheReference) {
   const struct {
     const char* statement;
     const char* error;
-  } cases[] = {{"DROP TABLE Norvi", "'Norvi'"}, {"ALTER TABLE Norvi DROP COLUMN norvo", "norvo"}};
+  } cases[] = {{"DROP TABLE Norvi", "Norvi"}, {"ALTER TABLE Norvi DROP COLUMN norvo", "norvo"}};
   for (const auto& [statement, error] : cases) {
     Office office;
     const auto db = jet::dao::DBEngine::OpenDatabase(office.program + "\\AggNorvo.mdb", true);
