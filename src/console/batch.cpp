@@ -83,7 +83,7 @@ const char* sentenceOf(Esito end) {
     case Esito::NonCompattata:
       return "Aggiornato, ma non compattato";
     case Esito::Completata:
-      return "Aggiornato, ma con un errore";
+      return "Errore tralasciato";
     default:
       return "Aggiornamento annullato";
   }
