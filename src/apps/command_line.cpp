@@ -67,4 +67,14 @@ int answer(const CLI::App& app, const CLI::ParseError& error) {
   return wrongUsage;
 }
 
+std::optional<int> parse(CLI::App& app, int argc, char** argv) {
+  refuseSwallowedOptions(app);
+  try {
+    app.parse(argc, argv);
+    return std::nullopt;
+  } catch (const CLI::ParseError& error) {
+    return answer(app, error);
+  }
+}
+
 }  // namespace apps

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 namespace CLI {
 class App;
 class ParseError;
@@ -19,5 +21,12 @@ void speakItalian(CLI::App& app);
 /// be written); anything else is told
 /// on standard error and gives wrongUsage.
 int answer(const CLI::App& app, const CLI::ParseError& error);
+
+/// Makes the options that are there refuse what can't be meant: a value that is empty or begins with "--", as
+/// that of an option whose own value was forgotten, and any value of an option that takes none.
+void refuseSwallowedOptions(CLI::App& app);
+
+/// Reads the command line. Returns the exit status of a program that has nothing more to do.
+std::optional<int> parse(CLI::App& app, int argc, char** argv);
 
 }  // namespace apps

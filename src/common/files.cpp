@@ -13,6 +13,14 @@ bool EsisteFile(const std::string& percorso) {
   }
 }
 
+bool FileOccupato(const std::string& percorso) {
+  try {
+    return !platform::openFile(percorso, platform::OpenMode::Read).tryLock(platform::LockMode::Shared);
+  } catch (const platform::DiskError& error) {
+    return error.fault() == platform::DiskFault::Sharing;
+  }
+}
+
 std::string PercorsoInterno(const std::string& percorso) {
   return percorso.find('/') == std::string::npos ? percorso : platform::fromSystemPath(percorso);
 }

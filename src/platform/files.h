@@ -15,8 +15,12 @@ namespace platform {
 /// locked Exclusive from the start.
 class Replacement {
  public:
+  enum class Name {
+    NewOrTaken,
+    New,  // taken exclusively by publish(): error 58 if anything has it, a symbolic link too
+  };
   /// A file that replaces none lets in whom the one at `model` does, or who is usual for new files.
-  explicit Replacement(std::string path, const std::string& model = {});
+  explicit Replacement(std::string path, const std::string& model = {}, Name name = Name::NewOrTaken);
   /// Removes the unpublished file; a failure there leaves it behind, where it is in nobody's way.
   ~Replacement();
   Replacement(const Replacement&) = delete;
@@ -43,6 +47,8 @@ class Replacement {
 /// source, 70 either file is open elsewhere or the source was changed meanwhile, 75 access, 76 path, 61 disk
 /// full, 57 I/O, 58 a file that came meanwhile.
 void copyFile(const std::string& from, const std::string& to);
+/// The same under a name that must be free, also when all is copied: error 58.
+void copyToNewFile(const std::string& from, const std::string& to);
 /// True if there is a file (not a folder) at `path`.
 bool fileExists(const std::string& path);
 /// Whole file, or error 53, 75, 76, 57.

@@ -1,11 +1,13 @@
+#include <utility>
+
 #include "platform/files.h"
 #include "platform/paths.h"
 
 namespace platform {
 
-Replacement::Replacement(std::string path, const std::string& model)
-    : path_(followLinks(path)),
-      replaces_(inspectFile(path_).has_value()),
+Replacement::Replacement(std::string path, const std::string& model, Name name)
+    : path_(name == Name::New ? std::move(path) : followLinks(path)),
+      replaces_(name == Name::NewOrTaken && inspectFile(path_).has_value()),
       temporary_(newNameBeside(path_)),
       file_(replaces_       ? createFile(temporary_, NewFile::InPlaceOf, path_)
             : model.empty() ? createFile(temporary_)

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <thread>
 
 #include "office.h"
@@ -19,7 +20,11 @@ using support::shellWord;
 
 class Streams : public testing::Test {
  protected:
-  void SetUp() override { ::setenv("QT_QPA_PLATFORM", "offscreen", 1); }
+  Streams() {
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    std::ofstream(folder_.systemPath("nessuna.ini"));
+  }
+
   void make(const std::string& file) {
     const auto made = runCommand(JETSQL " --create " + shellWord(folder_.systemPath(file)),
                                  "CREATE TABLE t (a LONG, b TEXT(10));\nINSERT INTO t VALUES (1, 'uno');\n");

@@ -62,10 +62,10 @@ int main(int argc, char** argv) {
   aggnorvo::addProgramOptions(app, program);
   const auto commands = aggnorvo::commands();
   const auto choices = addCommands(app, commands);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return apps::answer(app, error);
+  if (const auto status = apps::parse(app, argc, argv)) return *status;
+  if (const std::string missing = console::missingOf(program); !missing.empty()) {
+    std::cerr << "aggnorvo: " << missing << "\n";
+    return console::Refused;
   }
   for (std::size_t command = 0; command < commands.size(); ++command)
     if (choices[command]->count() > 0) return runCommand(*commands[command], program);

@@ -48,10 +48,6 @@ int main(int argc, char** argv) {
   apps::speakItalian(app);
   catalogo::Request request;
   declare(app, request);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return apps::answer(app, error);
-  }
+  if (const auto status = apps::parse(app, argc, argv)) return *status;
   return catalogo::run(request, std::cout, std::cerr);
 }

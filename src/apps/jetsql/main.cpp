@@ -47,11 +47,7 @@ int main(int argc, char** argv) {
   apps::speakItalian(app);
   jetsql::Request request;
   declare(app, request);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return apps::answer(app, error);
-  }
+  if (const auto status = apps::parse(app, argc, argv)) return *status;
   if (!request.statements.empty() || !jetsql::atTerminal())
     return jetsql::runSession(request, std::cin, std::cout, std::cerr);
   const auto lines =

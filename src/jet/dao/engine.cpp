@@ -105,6 +105,11 @@ DatabasePtr Workspace::OpenDatabase(const std::string& path, bool exclusive, boo
   return state_->add(openPages(path, exclusive, readOnly));
 }
 
+DatabasePtr Workspace::OpenForTrial(const std::string& path) {
+  file::PageFile read(path, file::Sharing::Shared, true);
+  return state_->add(std::make_unique<file::PageFile>(std::move(read.file()), file::Sharing::Shared, false));
+}
+
 DatabasePtr Workspace::CreateDatabase(const std::string& path) {
   auto made = makeFile(path, [](platform::File& out) { file::writeEmptyDatabase(out); });
   return state_->add(std::make_unique<file::PageFile>(std::move(made), file::Sharing::Exclusive, false));
