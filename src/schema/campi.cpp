@@ -58,9 +58,9 @@ class Tabella {
     const runtime::Variant valore = riga.value("DefaultValue"), richiesto = riga.value("UpdateDefaultValue");
     if (valore.isNull() || richiesto.isNull() || !richiesto.toBoolean()) return;
     const auto aggiornamento = db_.CreateQueryDef(
-        "", "PARAMETERS parDefaultValue TEXT;UPDATE " + nome_ + " SET [" + campo + "]= parDefaultValue");
+        "", "PARAMETERS parDefaultValue TEXT;UPDATE [" + nome_ + "] SET [" + campo + "]= parDefaultValue");
     aggiornamento->Parameters("parDefaultValue").setValue(valore);
-    aggiornamento->Execute(jet::dao::dbFailOnError);
+    aggiornamento->Execute();  // a row that refuses it keeps its Null
     aggiornamento->Close();
   }
 
@@ -76,8 +76,7 @@ class Tabella {
 
   /// A field that a second row describes otherwise before its table is made: nothing hangs on it yet.
   void sostituisci(const std::string& campo, jet::dao::Recordset& riga) {
-    const jet::dao::Field nuovo = nuovoCampo(*definizione_, riga);
-    nuovo.setOrdinalPosition(definizione_->Fields(campo).OrdinalPosition());
+    const jet::dao::Field nuovo = campoSostitutivo(*definizione_, riga, definizione_->Fields(campo));
     definizione_->Fields().Delete(campo);
     definizione_->Fields().Append(nuovo);
   }

@@ -37,10 +37,10 @@ void collega(const Ambiente& ambiente, const std::string& origine, const std::st
 
 void trasferisci(jet::dao::Database& db, const std::string& nome, const std::string& collegamento,
                  bool svuota) {
-  const std::string inserimento = "INSERT INTO " + nome + " SELECT * FROM " + collegamento;
+  const std::string inserimento = "INSERT INTO [" + nome + "] SELECT * FROM [" + collegamento + "]";
   // Understood before anything is deleted: reference rows that don't fit the table leave it as it was.
   db.CreateQueryDef("", inserimento)->Parameters().Count();
-  if (svuota) db.Execute("DELETE * FROM " + nome);
+  if (svuota) db.Execute("DELETE * FROM [" + nome + "]");
   db.Execute(inserimento);
 }
 

@@ -1,6 +1,9 @@
 // A field is rebuilt beside the old one; what depends on it is kept meanwhile and put back.
 #include "schema/ricostruzione.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "common/text.h"
 #include "runtime/format.h"
 #include "schema/indice.h"
@@ -11,12 +14,60 @@ namespace {
 
 using common::StessoTesto;
 
-void copiaDati(jet::dao::Database& db, const std::string& tabella, const std::string& da,
-               const std::string& a) {
-  const auto copia = db.CreateQueryDef("", "UPDATE " + tabella + " SET [" + a + "]=[" + da + "]");
+bool conTesto(const jet::dao::Field& campo) {
+  return campo.Type() == jet::dao::dbMemo || campo.Type() == jet::dao::dbText;
+}
+
+/// A number of digits that the catalogue tells; nothing where it has no such column or says nothing there.
+std::optional<int> cifre(jet::dao::Recordset& riga, const char* colonna) {
+  if (!riga.Fields().contains(colonna) || riga.value(colonna).isNull()) return std::nullopt;
+  return riga.value(colonna).toLong();
+}
+
+bool numero(int tipo) {
+  constexpr int Numeri[] = {jet::dao::dbByte,   jet::dao::dbInteger, jet::dao::dbLong,   jet::dao::dbCurrency,
+                            jet::dao::dbSingle, jet::dao::dbDouble,  jet::dao::dbDecimal};
+  return std::ranges::find(Numeri, tipo) != std::end(Numeri);
+}
+
+/// True if a conversion may round a Decimal, or to one.
+bool puoArrotondare(int da, int a) {
+  if (da == jet::dao::dbDecimal) return numero(a);
+  return a == jet::dao::dbDecimal && da != jet::dao::dbBoolean;
+}
+
+void rifiutaArrotondati(jet::dao::Database& db, const std::string& tabella, const jet::dao::Field& da,
+                        const jet::dao::Field& a) {
+  const auto cambiati = db.OpenRecordset("SELECT TOP 1 [" + da.Name() + "] FROM [" + tabella + "] WHERE [" +
+                                             da.Name() + "] - [" + a.Name() + "] <> 0",
+                                         jet::dao::dbOpenSnapshot);
+  if (!cambiati->atEnd())
+    throw runtime::Error(3421, "ricostruzione",
+                         "Il valore " + cambiati->Fields(0).Value().toText() + " del campo " + da.Name() +
+                             " della tabella " + tabella + " andrebbe arrotondato");
+  cambiati->Close();
+}
+
+void copiaDati(jet::dao::Database& db, const std::string& tabella, const jet::dao::Field& da,
+               const jet::dao::Field& a) {
+  const auto copia =
+      db.CreateQueryDef("", "UPDATE [" + tabella + "] SET [" + a.Name() + "]=[" + da.Name() + "]");
   // A value that doesn't convert must end the run: left out in silence it would be lost.
   copia->Execute(jet::dao::dbFailOnError);
   copia->Close();
+  if (puoArrotondare(da.Type(), a.Type())) rifiutaArrotondati(db, tabella, da, a);
+}
+
+/// Appends the field and brings the values over before it demands anything of them.
+void accodaConDati(jet::dao::Database& db, jet::dao::TableDef& tabella, const jet::dao::Field& vecchio,
+                   const jet::dao::Field& nuovo) {
+  const bool richiesto = nuovo.Required(), testo = conTesto(nuovo), vuoto = nuovo.AllowZeroLength();
+  nuovo.setRequired(false);
+  if (testo) nuovo.setAllowZeroLength(true);
+  tabella.Fields().Append(nuovo);
+  copiaDati(db, tabella.Name(), vecchio, nuovo);
+  if (richiesto) nuovo.setRequired(true);
+  if (testo) nuovo.setAllowZeroLength(vuoto);
 }
 
 void conserva(jet::dao::Relation& relazione, Relazioni& relazioni) {
@@ -115,21 +166,31 @@ jet::dao::Field nuovoCampo(jet::dao::TableDef& tabella, jet::dao::Recordset& rig
   campo.setSize(riga.value("Dimensione").toLong());
   campo.setAttributes(riga.value("Attributi").toLong());
   campo.setRequired(riga.value("Required").toBoolean());
-  if (campo.Type() == jet::dao::dbMemo || campo.Type() == jet::dao::dbText)
-    campo.setAllowZeroLength(riga.value("AllowZeroLength").toBoolean());
+  if (const auto precisione = cifre(riga, "Precisione")) campo.setPrecision(*precisione);
+  if (const auto scala = cifre(riga, "Scala")) campo.setScale(*scala);
+  if (conTesto(campo)) campo.setAllowZeroLength(riga.value("AllowZeroLength").toBoolean());
   if (const runtime::Variant valore = riga.value("DefaultValue"); !valore.isNull())
     campo.setDefaultValue(valore.toText());
   campo.setOrdinalPosition(riga.value("OrdinalPosition").toLong());
   return campo;
 }
 
+jet::dao::Field campoSostitutivo(jet::dao::TableDef& tabella, jet::dao::Recordset& riga,
+                                 const jet::dao::Field& vecchio) {
+  const jet::dao::Field campo = nuovoCampo(tabella, riga);
+  campo.setOrdinalPosition(vecchio.OrdinalPosition());
+  if (vecchio.Type() == jet::dao::dbDecimal) {
+    campo.setPrecision(vecchio.precision());
+    campo.setScale(vecchio.scale());
+  }
+  return campo;
+}
+
 void ricostruisciCampo(jet::dao::Database& db, jet::dao::TableDef& tabella, jet::dao::Recordset& riga) {
   const std::string nome = riga.value("Campo").toText();
-  const jet::dao::Field vecchio = tabella.Fields(nome), nuovo = nuovoCampo(tabella, riga);
+  const jet::dao::Field vecchio = tabella.Fields(nome), nuovo = campoSostitutivo(tabella, riga, vecchio);
   nuovo.setName("TEMP" + nome);
-  nuovo.setOrdinalPosition(vecchio.OrdinalPosition());
-  tabella.Fields().Append(nuovo);
-  copiaDati(db, tabella.Name(), vecchio.Name(), nuovo.Name());
+  accodaConDati(db, tabella, vecchio, nuovo);
   Relazioni relazioni;
   togliRelazioni(db, tabella.Name(), nome, relazioni);
   Indici indici;

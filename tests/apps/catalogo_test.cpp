@@ -187,6 +187,56 @@ TEST_F(Catalogo, AFailureLeavesNoFileAndTellsWhatIsMissing) {
   }
 }
 
+std::string designOf(const std::string& database) {
+  return support::runCommand("mdb-schema --not-null " + shellWord(database) + " access").output;
+}
+
+TEST_F(Catalogo, TheDigitsOfADecimalReachEveryTarget) {
+  reference_ = folder_.systemPath("AggNorvo.mdb");
+  const std::string target = folder_.systemPath("bersaglio.mdb");
+  make(model_,
+       "CREATE TABLE quote (a DECIMAL(10,2), b DECIMAL(10,2), c DECIMAL(12,3) NOT NULL, n LONG);\n"
+       "CREATE TABLE tassi (t DECIMAL(7,5));\nINSERT INTO tassi VALUES (0.00125);\n");
+  write("--create --norvo PROTOCOLLO --add tassi");
+  const std::string rows = exported("CampiTabella");
+  EXPECT_THAT(rows, HasSubstr("\"quote\",\"a\",20,17,33,0,0,,0,0,10,2\n"));
+  EXPECT_THAT(rows, HasSubstr("\"quote\",\"c\",20,17,33,1,0,,2,0,12,3\n"));
+  EXPECT_THAT(rows, HasSubstr("\"quote\",\"n\",4,4,33,0,0,,3,0,,\n"));
+  EXPECT_EQ(exported("ADD_tassi"), "0.00125\n");
+  make(target,
+       "CREATE TABLE KepGenerali (Nome TEXT(50), Valore TEXT(255));\nCREATE TABLE tassi (t DECIMAL(7,5));\n"
+       "CREATE TABLE quote (a DOUBLE, c DECIMAL(10,2));\nINSERT INTO quote VALUES (12.75, 12.75);\n");
+  for (int round = 0; round < 2; ++round) {
+    const auto updated = office::update("PROTOCOLLO", target, folder_.systemPath());
+    ASSERT_EQ(updated.status, 0) << updated.output << updated.errors;
+    EXPECT_EQ(office::exported(target, "quote"), "12.75,12.75,,\n");
+    EXPECT_EQ(office::exported(target, "tassi"), "0.00125\n");
+    const auto compared = office::compare(model_, target);
+    EXPECT_EQ(compared.status, 0) << compared.output;
+    EXPECT_EQ(office::complaints(target), "");
+    for (const char* field :
+         {"[a]\t\t\tNumeric (10, 2)", "[b]\t\t\tNumeric (10, 2)", "[c]\t\t\tNumeric (10, 2) NOT NULL"})
+      EXPECT_THAT(designOf(target), HasSubstr(field));
+  }
+}
+
+TEST_F(Catalogo, AValueThatWouldBeRoundedStopsTheUpdate) {
+  reference_ = folder_.systemPath("AggNorvo.mdb");
+  const std::string target = folder_.systemPath("bersaglio.mdb");
+  make(model_, "CREATE TABLE quote (a DECIMAL(10,1));\n");
+  make(target,
+       "CREATE TABLE KepGenerali (Nome TEXT(50), Valore TEXT(255));\nCREATE TABLE quote (a DOUBLE);\n"
+       "INSERT INTO quote VALUES (12.75);\n");
+  write("--create --norvo PROTOCOLLO");
+  for (const char* digits : {"Precisione = 10", "Precisione = Null, Scala = Null"}) {
+    change(std::string("UPDATE CampiTabella SET ") + digits);
+    const auto updated = office::update("PROTOCOLLO", target, folder_.systemPath());
+    EXPECT_EQ(updated.status, 1);
+    EXPECT_THAT(updated.output, HasSubstr("12,75 del campo a della tabella quote andrebbe arrotondato"));
+    EXPECT_EQ(office::exported(target, "quote"), "12.75\n");
+  }
+}
+
 TEST_F(Catalogo, ADatabaseUpdatedFromAModelOfARealEngineIsMadeAsTheModelIs) {
   if (office::jetData().empty()) GTEST_SKIP() << "AGGNORVO_JET_DATA non impostata";
   // Of two mdbtools doesn't see the indexes, and a query to a server loses the address that isn't part of its

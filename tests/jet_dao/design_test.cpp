@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "office.h"
 #include "platform/files.h"
 
@@ -116,6 +118,111 @@ TEST(Design, RenamedAndDroppedFieldsReachTheFile) {
   EXPECT_EQ(office::query(path, "SELECT id, Testo, n FROM Ogni WHERE id = 1"),
             "1|Niccolò D'Agostino|-12,345");
   EXPECT_EQ(office::exported(path, "Ogni").substr(0, 24), "id,b,i,l,v,s,d,q,Testo,n");
+}
+
+TEST(Design, ANewFieldIsWhatItsDraftSays) {
+  const struct {
+    int type, size, attributes, precision, scale, error;
+    const char* design;  // as another reader tells it
+  } cases[] = {
+      {dbDecimal, 0, 0, 10, 2, 0, "Numeric (10, 2)"},
+      {dbDecimal, 0, 0, 28, 28, 0, "Numeric (28, 28)"},
+      {dbDecimal, 0, 0, 29, 2, 3259, ""},
+      {dbDecimal, 0, 0, 0, 0, 3259, ""},
+      {dbDecimal, 0, 0, 3, 4, 3259, ""},
+      {dbDecimal, 0, 0, 3, -1, 3259, ""},
+      {dbLong, 0, 0, 3, 4, 0, "Long Integer"},
+      {dbText, 4, dbFixedField, 18, 0, 0, "Text (4)"},
+      {dbText, 4, dbVariableField, 18, 0, 0, "Text (4)"},
+      {dbBinary, 4, dbFixedField, 18, 0, 0, "Binary (4)"},
+      {dbMemo, 0, dbFixedField, 18, 0, 0, "Memo"},
+      {dbLong, 0, dbAutoIncrField, 18, 0, 3090, ""},
+  };
+  const support::TempFolder folder;
+  const std::string path = folder.path("campi.mdb"), compact = folder.path("compatto.mdb");
+  for (const bool asNewTable : {true, false}) {
+    for (const auto& item : cases) {
+      SCOPED_TRACE(std::to_string(item.type) + " " + std::to_string(item.attributes) + " " +
+                   std::to_string(item.precision));
+      for (const auto& file : {path, compact}) std::filesystem::remove(platform::toSystemPath(file));
+      office::make(
+          path, {"CREATE TABLE Vecchia (id COUNTER, t TEXT(9))", "INSERT INTO Vecchia (t) VALUES ('prima')"});
+      Workspace workspace;
+      const auto db = workspace.OpenDatabase(path, true);
+      const auto table = asNewTable ? db->CreateTableDef("Nuova") : db->TableDefs("Vecchia");
+      if (asNewTable) {
+        const auto id = table->CreateField("id", dbLong);
+        id.setAttributes(dbAutoIncrField);
+        table->Fields().Append(id);
+      }
+      const auto field = table->CreateField("f", item.type, item.size);
+      field.setAttributes(item.attributes);
+      field.setPrecision(item.precision);
+      field.setScale(item.scale);
+      const int error = errorOf([&] {
+        table->Fields().Append(field);
+        if (asNewTable) db->TableDefs().Append(table);
+      });
+      EXPECT_EQ(error, item.error);
+      if (error) continue;
+      const bool sized = item.type == dbText || item.type == dbBinary;
+      const int fixed =
+          item.type == dbLong || item.type == dbDecimal || (sized && item.attributes == dbFixedField);
+      EXPECT_EQ(field.Attributes() & dbFixedField, fixed);
+      EXPECT_EQ(field.precision(), item.type == dbDecimal ? item.precision : 0);
+      EXPECT_EQ(field.scale(), item.type == dbDecimal ? item.scale : 0);
+      const std::string name = table->Name();
+      if (item.type == dbText) db->Execute("INSERT INTO [" + name + "] (f) VALUES ('è')", dbFailOnError);
+      db->Close();
+      EXPECT_EQ(office::complaints(path), "");
+      DBEngine::CompactDatabase(path, compact);
+      EXPECT_EQ(office::complaints(compact), "");
+      for (const auto& file : {path, compact}) {
+        EXPECT_NE(support::runCommand("mdb-schema " + office::system(file) + " access")
+                      .output.find(std::string("[f]\t\t\t") + item.design),
+                  std::string::npos);
+        if (item.type == dbText)
+          EXPECT_EQ(office::query(file, "SELECT f FROM [" + name + "] WHERE f IS NOT NULL"),
+                    fixed ? "è   " : "è");
+      }
+    }
+  }
+}
+
+TEST(Design, APlaceMayBeBeforeTheFirst) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("posti.mdb");
+  office::make(path, {"CREATE TABLE T (a LONG, b LONG, c LONG)"});
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, true);
+  const auto table = db->TableDefs("T");
+  table->Fields("c").setOrdinalPosition(-1);
+  EXPECT_EQ(table->Fields("c").OrdinalPosition(), 0);
+  EXPECT_EQ(errorOf([&] { table->Fields("c").setOrdinalPosition(65536); }), 3259);
+  table->Fields("a").setOrdinalPosition(65535);
+  table->Fields().Append(table->CreateField("d", dbLong));
+  std::string order;
+  for (const auto& field : table->Fields()) order += field.Name();
+  EXPECT_EQ(order, "cbad");
+  db->Close();
+  EXPECT_EQ(office::complaints(path), "");
+}
+
+TEST(Design, ARelationThatIsMadeAnewLeavesNoGap) {
+  const support::TempFolder folder;
+  const std::string path = folder.path("relazioni.mdb");
+  office::make(path, {"CREATE TABLE A (a LONG CONSTRAINT pk PRIMARY KEY)", "CREATE TABLE B (a LONG, b LONG)",
+                      "ALTER TABLE B ADD CONSTRAINT prima FOREIGN KEY (a) REFERENCES A (a)",
+                      "ALTER TABLE B ADD CONSTRAINT dopo FOREIGN KEY (b) REFERENCES A (a)"});
+  Workspace workspace;
+  const auto db = workspace.OpenDatabase(path, true);
+  db->CreateQueryDef("domanda", "SELECT a FROM A");
+  db->Execute("ALTER TABLE B DROP CONSTRAINT prima");
+  db->Execute("ALTER TABLE B ADD CONSTRAINT ultima FOREIGN KEY (a) REFERENCES A (a)");
+  db->Close();
+  EXPECT_EQ(office::complaints(path), "");
+  EXPECT_EQ(office::query(path, "SELECT Name FROM MSysObjects WHERE Id < 0 ORDER BY Id"),
+            "ultima dopo domanda");
 }
 
 TEST(Design, DroppedTablesAndIndexesGiveTheirPagesBack) {

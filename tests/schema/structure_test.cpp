@@ -7,9 +7,12 @@
 
 #include "platform/files.h"
 #include "study.h"
+#include "support/errors.h"
 
 namespace {
 
+using study::digitColumns;
+using study::digits;
 using study::droppedField;
 using study::field;
 using study::index;
@@ -115,8 +118,86 @@ const Case Fields[] = {
      "Tabella t- campo a in modifica\n", "3421"},
     {"a value that is too long", {field("t", "a", {.type = "10", .size = 4})}, {"CREATE TABLE t (a MEMO)", "INSERT INTO t VALUES ('Rossi')"},
      "Tabella t- campo a in modifica\n", "3163"},
-    {"a required field with a row that has none", {field("t", "a", {.required = true})}, {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (NULL)"},
-     "Tabella t- campo a in modifica\n", "3314"},
+    {"values come over as they are into what requires one or refuses empty texts",
+     {field("t", "a", {.required = true}), field("t", "b", {.type = "10", .size = 9, .required = true}),
+      field("t", "c", {.type = "12"}), field("t", "d", {.type = "4"})},
+     {"CREATE TABLE t (a LONG, b TEXT(5), c TEXT(5), d TEXT(5))", "INSERT INTO t VALUES (NULL, '', '', NULL)",
+      "INSERT INTO t VALUES (1, NULL, 'x', '2')"},
+     "Tabella t- campo a in modifica\nTabella t- campo a fatto.\nTabella t- campo b in modifica\nTabella t- campo b fatto.\n"
+     "Tabella t- campo c in modifica\nTabella t- campo c fatto.\nTabella t- campo d in modifica\nTabella t- campo d fatto.\n",
+     "t(a 4 required, b 10(9) required, c 12, d 4) : Null,,,Null / 1,Null,x,2\n"},
+    {"a required field without values grows", {field("t", "b", {.type = "10", .size = 9, .required = true})},
+     {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (1)", "ALTER TABLE t ADD COLUMN b TEXT(5) NOT NULL"},
+     "Tabella t- campo b in modifica\nTabella t- campo b fatto.\n", "t(a 4, b 10(9) required) : 1,Null\n"},
+    {"an empty text doesn't become a number", {field("t", "a", {.type = "4"})}, {"CREATE TABLE t (a TEXT(5))", "INSERT INTO t VALUES ('')"},
+     "Tabella t- campo a in modifica\n", "3421"},
+    {"a default that rows refuse",
+     {field("t", "b", {.type = "10", .size = 1, .defaultValue = "'\"S\"'", .required = true, .update = true, .position = 1}),
+      field("t", "c", {.type = "8", .defaultValue = "'Now()'", .update = true, .position = 2}),
+      field("t", "d", {.type = "2", .defaultValue = "'300'", .update = true, .position = 3})},
+     {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (1)", "INSERT INTO t VALUES (2)"},
+     "Tabella t- campo b in creazione...fatto.\nTabella t- campo c in creazione...fatto.\nTabella t- campo d in creazione...fatto.\n",
+     "t(a 4, b 10(1) required default \"S\", c 8 default Now(), d 2 default 300) : 1,Null,Null,Null / 2,Null,Null,Null\n"},
+    {"a table whose name has a blank",
+     {field("due parole", "a", {.required = true}), field("due parole", "b", {.defaultValue = "'5'", .update = true, .position = 2})},
+     {"CREATE TABLE [due parole] (a LONG)", "INSERT INTO [due parole] VALUES (1)"},
+     "Tabella due parole- campo a in modifica\nTabella due parole- campo a fatto.\nTabella due parole- campo b in creazione...fatto.\n",
+     "due parole(a 4 required, b 4 default 5) : 1,5\n"},
+    {"a rebuilt Decimal keeps its digits, whatever the catalogue has",
+     Statements{field("t", "a", {.type = "20", .required = true}), field("t", "b", {.type = "20", .defaultValue = "'1'"})} +
+         digitColumns() + Statements{digits("t", "a", 12, 0)},
+     {"CREATE TABLE t (a DECIMAL(10, 2), b DECIMAL(28, 6))", "INSERT INTO t VALUES (12.75, -0.000001)", "INSERT INTO t VALUES (99999999.99, NULL)"},
+     "Tabella t- campo a in modifica\nTabella t- campo a fatto.\nTabella t- campo b in modifica\nTabella t- campo b fatto.\n",
+     "t(a 20(10.2) required, b 20(28.6) default 1) : 12,75,-0,000001 / 99999999,99,Null\n"},
+    {"a new Decimal and what becomes one have the catalogue's digits",
+     Statements{field("n", "a", {.type = "20"}), field("n", "b", {.type = "20"}), field("t", "x", {.type = "20", .position = 9})} +
+         Statements{field("t", "d", {.type = "20"}), field("t", "s", {.type = "20"}), field("t", "v", {.type = "20"}),
+                    field("t", "l", {.type = "20"}), field("t", "z", {.type = "20"})} +
+         digitColumns() +
+         Statements{digits("n", "a", 28, 28), digits("t", "x", 5, 1), digits("t", "d", 10, 2), digits("t", "s", 6, 1),
+                    digits("t", "v", 19, 4), digits("t", "z", 9, 3)},
+     {"CREATE TABLE t (d DOUBLE, s SINGLE, v CURRENCY, l LONG, z TEXT(9))", "INSERT INTO t VALUES (12.75, 0.1, -922337203685477.58, 7, '1,125')",
+      "INSERT INTO t (d) VALUES (-0.3)"},
+     "Tabella n in creazione\n- campo a in creazione...fatto.\n- campo b in creazione...fatto.\nTabella n inserita.\n"
+     "Tabella t- campo x in creazione...fatto.\n"
+     "Tabella t- campo d in modifica\nTabella t- campo d fatto.\nTabella t- campo s in modifica\nTabella t- campo s fatto.\n"
+     "Tabella t- campo v in modifica\nTabella t- campo v fatto.\nTabella t- campo l in modifica\nTabella t- campo l fatto.\n"
+     "Tabella t- campo z in modifica\nTabella t- campo z fatto.\n",
+     "t(d 20(10.2), s 20(6.1), v 20(19.4), l 20(18.0), z 20(9.3), x 20(5.1)) : 12,75,0,1,-922337203685477,58,7,1,125,Null / "
+     "-0,3,Null,Null,Null,Null,Null\nn(a 20(28.28), b 20(18.0))\n"},
+    {"a Decimal becomes another number that holds it",
+     {field("t", "a", {.type = "4"}), field("t", "b", {.type = "5"}), field("t", "c", {.type = "7"}), field("t", "d", {.type = "10", .size = 9})},
+     {"CREATE TABLE t (a DECIMAL(10, 2), b DECIMAL(10, 4), c DECIMAL(15, 15), d DECIMAL(6, 2))", "INSERT INTO t VALUES (12, 0.0001, 0.1, 12.75)"},
+     "Tabella t- campo a in modifica\nTabella t- campo a fatto.\nTabella t- campo b in modifica\nTabella t- campo b fatto.\n"
+     "Tabella t- campo c in modifica\nTabella t- campo c fatto.\nTabella t- campo d in modifica\nTabella t- campo d fatto.\n",
+     "t(a 4, b 5, c 7, d 10(9)) : 12,0,0001,0,1,12,75\n"},
+    {"a Double that a Decimal would round", {field("t", "a", {.type = "20"})}, {"CREATE TABLE t (a DOUBLE)", "INSERT INTO t VALUES (12)", "INSERT INTO t VALUES (12.75)"},
+     "Tabella t- campo a in modifica\n", "3421"},
+    {"a text that it would round", Statements{field("t", "a", {.type = "20"})} + digitColumns() + Statements{digits("t", "a", 9, 1)},
+     {"CREATE TABLE t (a TEXT(5))", "INSERT INTO t VALUES ('12,75')"}, "Tabella t- campo a in modifica\n", "3421"},
+    {"a time that it would round", {field("t", "a", {.type = "20"})}, {"CREATE TABLE t (a DATETIME)", "INSERT INTO t VALUES (#2010-12-31 12:00:00#)"},
+     "Tabella t- campo a in modifica\n", "3421"},
+    {"a Decimal that a whole number would round", {field("t", "a", {.type = "4"})}, {"CREATE TABLE t (a DECIMAL(10, 2))", "INSERT INTO t VALUES (12.75)"},
+     "Tabella t- campo a in modifica\n", "3421"},
+    {"a Decimal that a Double would round", {field("t", "a", {.type = "7"})}, {"CREATE TABLE t (a DECIMAL(20, 0))", "INSERT INTO t VALUES (12345678901234567890)"},
+     "Tabella t- campo a in modifica\n", "3421"},
+    {"a number with more digits than the Decimal", Statements{field("t", "a", {.type = "20"})} + digitColumns() + Statements{digits("t", "a", 3, 1)},
+     {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (100)"}, "Tabella t- campo a in modifica\n", "6"},
+    {"digits that no Decimal has", Statements{field("t", "b", {.type = "20"})} + digitColumns() + Statements{digits("t", "b", 3, 4)},
+     {"CREATE TABLE t (a LONG)"}, "Tabella t- campo b in creazione...\n", "3259"},
+    {"texts of fixed length",
+     {field("n", "a", {.type = "10", .size = 3, .attributes = 33}), field("n", "b", {.type = "10", .size = 3, .attributes = 34}),
+      field("t", "a", {.type = "10", .size = 4, .attributes = 33})}, {"CREATE TABLE t (a TEXT(2))", "INSERT INTO t VALUES ('è')"},
+     "Tabella n in creazione\n- campo a in creazione...fatto.\n- campo b in creazione...fatto.\nTabella n inserita.\n"
+     "Tabella t- campo a in modifica\nTabella t- campo a fatto.\n",
+     "t(a 10(4) fixed) : è   \nn(a 10(3) fixed, b 10(3))\n"},
+    {"places before the first one",
+     {field("n", "a"), field("n", "b", {.position = -1}), field("t", "b", {.position = -1}), field("t", "c", {.position = -7})},
+     {"CREATE TABLE t (a LONG)", "INSERT INTO t VALUES (1)"},
+     "Tabella n in creazione\n- campo a in creazione...fatto.\n- campo b in creazione...fatto.\nTabella n inserita.\n"
+     "Tabella t- campo b in creazione...fatto.\nTabella t- campo c in creazione...fatto.\n", "t(c 4, b 4, a 4) : Null,Null,1\nn(b 4, a 4)\n"},
+    {"two counters", {field("n", "a", {.attributes = 17}), field("n", "b", {.attributes = 17})}, {},
+     "Tabella n in creazione\n- campo a in creazione...fatto.\n- campo b in creazione...fatto.\n", "3090"},
     {"a type that the relation can't have", {field("soci", "id", {.type = "10", .size = 9})}, Fees + SocioRelation,
      "Tabella soci- campo id in modifica\n", "3368"},
     {"a unique index that the converted values break", {field("t", "a", {.type = "4"})},
@@ -249,6 +330,22 @@ TEST(Fields, ThatAreEqualAreFoundWithoutReadingARow) {
   EXPECT_THROW(jet::dao::Workspace().OpenDatabase(study.office.target)->OpenRecordset("SELECT b FROM t"),
                runtime::Error);
   EXPECT_EQ(study.plan(), "0\n");
+}
+
+TEST(Fields, KeepToTheirRulesInWhatIsWrittenLater) {
+  Study study({field("t", "a", {.required = true}), field("t", "b", {.type = "10", .size = 9})},
+              {"CREATE TABLE t (k LONG, a LONG, b TEXT(5))", "INSERT INTO t VALUES (1, NULL, '')"});
+  EXPECT_EQ(study.update().status, console::Done);
+  const auto db = jet::dao::DBEngine::OpenDatabase(study.office.target, true);
+  const auto error = [&](const char* sql) {
+    return support::errorOf([&] { db->Execute(sql, jet::dao::dbFailOnError); });
+  };
+  EXPECT_EQ(error("UPDATE t SET a = NULL"), 3314);
+  EXPECT_EQ(error("UPDATE t SET b = ''"), 3315);
+  EXPECT_EQ(error("INSERT INTO t VALUES (2, NULL, 'x')"), 3314);
+  EXPECT_EQ(error("INSERT INTO t VALUES (2, 1, '')"), 3315);
+  EXPECT_EQ(error("UPDATE t SET k = 2"), 0);
+  db->Close();
 }
 
 TEST(Fields, FollowTheReference) {

@@ -35,6 +35,9 @@ std::string flag(bool value) {
 std::string shown(const jet::dao::Field& field) {
   std::string text = field.Name() + " " + std::to_string(field.Type());
   if (field.Type() == jet::dao::dbText) text += "(" + std::to_string(field.Size()) + ")";
+  if (field.Type() == jet::dao::dbText && field.Attributes() & jet::dao::dbFixedField) text += " fixed";
+  if (field.Type() == jet::dao::dbDecimal)
+    text += "(" + std::to_string(field.precision()) + "." + std::to_string(field.scale()) + ")";
   if (field.Attributes() & jet::dao::dbAutoIncrField) text += " counter";
   if (field.Required()) text += " required";
   if (!field.DefaultValue().empty()) text += " default " + field.DefaultValue();
@@ -85,6 +88,16 @@ std::string field(const std::string& table, const std::string& name, const Field
          flag(row.required) + ", " + flag(row.zeroLength) + ", " +
          (row.defaultValue.empty() ? "NULL" : row.defaultValue) + ", " + std::to_string(row.position) + ", " +
          flag(row.update) + ")";
+}
+
+Statements digitColumns() {
+  return {"ALTER TABLE CampiTabella ADD COLUMN Precisione SHORT",
+          "ALTER TABLE CampiTabella ADD COLUMN Scala SHORT"};
+}
+
+std::string digits(const std::string& table, const std::string& name, int precision, int scale) {
+  return "UPDATE CampiTabella SET Precisione = " + std::to_string(precision) +
+         ", Scala = " + std::to_string(scale) + " WHERE Tabella = '" + table + "' AND Campo = '" + name + "'";
 }
 
 std::string droppedField(const std::string& table, const std::string& name) {
@@ -186,8 +199,8 @@ std::string Study::faults() const {
   const char* const data = std::getenv("AGGNORVO_JET_DATA");
   if (!data) return {};
   const auto check =
-      support::runCommand("python3 " + support::shellWord(std::string(data) + "/jet/jetcheck.py") + " " +
-                          support::shellWord(platform::toSystemPath(office.target)));
+      support::runCommand("python3 " + support::shellWord(std::string(data) + "/jet/jetcheck.py") +
+                          " --strict " + support::shellWord(platform::toSystemPath(office.target)));
   return check.status == 0 ? "" : check.output + check.errors;
 }
 

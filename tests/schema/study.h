@@ -21,6 +21,10 @@ struct Field {
   bool zeroLength = false;
 };
 std::string field(const std::string& table, const std::string& name, const Field& row = {});
+/// The columns of the catalogue that not every one has, made behind all rows.
+Statements digitColumns();
+/// What stands there for a field.
+std::string digits(const std::string& table, const std::string& name, int precision, int scale);
 std::string droppedField(const std::string& table, const std::string& name);
 /// `flags`: letters P (primary), U (unique), I (ignores Nulls). `fields`: names, with '-' in front where
 /// descending.

@@ -1,5 +1,6 @@
 #include "apps/catalogo/catalogue.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -41,13 +42,17 @@ std::string titleOf(const Row& row, const Kind& kind) {
 
 Row readRow(Recordset& rows, const Table& table) {
   Row row;
-  for (const auto& column : table.columns) row.push_back(rows.value(column.name));
+  for (const auto& column : table.columns) {
+    const bool absent = column.optional && !rows.Fields().contains(column.name);
+    row.push_back(absent ? runtime::Variant(runtime::Null{}) : rows.value(column.name));
+  }
   return row;
 }
 
 void writeRow(Recordset& rows, const Table& table, const Row& row) {
   rows.AddNew();
-  for (std::size_t i = 0; i < row.size(); ++i) rows.Fields(table.columns[i].name).setValue(row[i]);
+  for (std::size_t i = 0; i < row.size(); ++i)
+    if (!table.columns[i].optional || !row[i].isNull()) rows.Fields(table.columns[i].name).setValue(row[i]);
   rows.Update();
 }
 
@@ -81,13 +86,14 @@ class Rows {
     const auto updating = fieldsToUpdate();
     deleteOwn(kind_.table);
     if (kind_.parts) deleteOwn(*kind_.parts);
+    makeOptionalColumns(things);
     const auto rows = open(kind_.table);
     const auto parts = kind_.parts ? open(*kind_.parts) : nullptr;
     std::size_t written = 0;
     for (const auto& thing : things) {
       if (stated(thing)) continue;
       auto row = thing.row;
-      if (updating.contains(keyOf(row, kind_.table))) row.back() = true;
+      if (updating.contains(keyOf(row, kind_.table))) row[UpdateDefaultValue] = true;
       writeRow(*rows, kind_.table, row);
       for (const auto& part : thing.parts) writeRow(*parts, *kind_.parts, part);
       ++written;
@@ -126,9 +132,17 @@ class Rows {
     std::set<std::string> keys;
     if (&kind_.table != &CampiTabella) return keys;
     walk(CampiTabella, [&](const Row& row) {
-      if (isOwn(row) && row.back().toBoolean()) keys.insert(keyOf(row, CampiTabella));
+      if (isOwn(row) && row[UpdateDefaultValue].toBoolean()) keys.insert(keyOf(row, CampiTabella));
     });
     return keys;
+  }
+
+  void makeOptionalColumns(const std::vector<Thing>& things) {
+    for (std::size_t i = 0; i < kind_.table.columns.size(); ++i) {
+      const Column& column = kind_.table.columns[i];
+      const auto told = [&](const Thing& thing) { return !thing.row[i].isNull(); };
+      if (column.optional && std::ranges::any_of(things, told)) makeColumn(reference_, kind_.table, column);
+    }
   }
 
   void deleteOwn(const Table& table) {

@@ -12,6 +12,9 @@ void copyDesign(Database& reference, TableDef& table, const std::string& name) {
   const auto copy = reference.CreateTableDef(name);
   for (const auto& field : table.Fields()) {
     const auto column = copy->CreateField(field.Name(), field.Type(), field.Size());
+    column.setAttributes(field.Attributes() & ~dbAutoIncrField);
+    column.setPrecision(field.precision());
+    column.setScale(field.scale());
     if (field.Type() == dbText || field.Type() == dbMemo) column.setAllowZeroLength(field.AllowZeroLength());
     copy->Fields().Append(column);
   }

@@ -15,6 +15,11 @@ Variant defaultOf(const Field& field) {
   return value.empty() ? Variant(runtime::Null{}) : Variant(value);
 }
 
+/// Of a Decimal; Null for other types.
+Variant digitsOf(const Field& field, int digits) {
+  return field.Type() == dbDecimal ? Variant(digits) : Variant(runtime::Null{});
+}
+
 }  // namespace
 
 bool isData(TableDef& table) {
@@ -26,10 +31,10 @@ std::vector<Thing> fieldsOf(Database& model, const std::string& norvo) {
   for (const auto& table : model.TableDefs()) {
     if (!isData(*table)) continue;
     for (const auto& field : table->Fields())
-      fields.push_back(
-          {{norvo, table->Name(), field.Name(), field.Type(), field.Size(), field.Attributes(),
-            field.Required(), field.AllowZeroLength(), defaultOf(field), field.OrdinalPosition(), false},
-           {}});
+      fields.push_back({{norvo, table->Name(), field.Name(), field.Type(), field.Size(), field.Attributes(),
+                         field.Required(), field.AllowZeroLength(), defaultOf(field), field.OrdinalPosition(),
+                         false, digitsOf(field, field.precision()), digitsOf(field, field.scale())},
+                        {}});
   }
   return fields;
 }

@@ -23,6 +23,8 @@ constexpr Column campiTabellaColumns[] = {
     {"DefaultValue", dbText, 255},
     {"OrdinalPosition", dbInteger, 0, false},
     {"UpdateDefaultValue", dbBoolean, 0, false},
+    {"Precisione", dbInteger, 0, true, true},  // of a Decimal
+    {"Scala", dbInteger, 0, true, true},
 };
 constexpr Column campiDaEliminareColumns[] = {
     norvo, {"Tabella", dbText, NameSize}, {"Campo", dbText, NameSize}};
@@ -59,7 +61,8 @@ void make(Database& reference, const Table& table) {
   if (reference.TableDefs().contains(table.name)) return;
   const auto definition = reference.CreateTableDef(table.name);
   for (const auto& column : table.columns)
-    definition->Fields().Append(definition->CreateField(column.name, column.type, column.size));
+    if (!column.optional)
+      definition->Fields().Append(definition->CreateField(column.name, column.type, column.size));
   reference.TableDefs().Append(definition);
 }
 
@@ -72,6 +75,12 @@ const Table Indici = {"Indici", indiciColumns, 2};
 const Table CampiIndice = {"CampiIndice", campiIndiceColumns, 2};
 const Table Relazioni = {"Relazioni", relazioniColumns, 1};
 const Table CampiRelazione = {"CampiRelazione", campiRelazioneColumns, 1};
+
+void makeColumn(Database& reference, const Table& table, const Column& column) {
+  const auto definition = reference.TableDefs(table.name);
+  if (!definition->Fields().contains(column.name))
+    definition->Fields().Append(definition->CreateField(column.name, column.type, column.size));
+}
 
 void makeCatalogueTables(Database& reference) {
   for (const Table* table :

@@ -89,9 +89,6 @@ void DesignRunner::run(const sql::CreateTable& wanted) {
   design.name = wanted.table;
   file::PropertyBlock properties;
   for (const auto& column : wanted.columns) {
-    const bool counted = std::ranges::any_of(design.columns, &file::Column::autoNumber);
-    if (column.autoNumber && counted)
-      fail(3090, "La tabella " + wanted.table + " può avere un solo contatore");
     image::addColumn(design, columnOf(column));
     for (auto& item : rulesOf(column)) properties.set(column.name, std::move(item));
   }

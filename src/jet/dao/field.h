@@ -85,9 +85,12 @@ class Field {
   std::string SourceTable() const { return text(FieldItem::SourceTable); }
   std::string SourceField() const { return text(FieldItem::SourceField); }
 
-  /// Digits of a dbDecimal, in all and behind the point; 0 for other types.
+  /// Digits of a dbDecimal, in all and behind the point; 0 for other types. A new one has 18 and 0; Append
+  /// gives error 3259 beyond 28 and where more stand behind the point than in all.
   int precision() const { return number(FieldItem::Precision); }
+  void setPrecision(int digits) const { set(FieldItem::Precision, digits); }
   int scale() const { return number(FieldItem::Scale); }
+  void setScale(int digits) const { set(FieldItem::Scale, digits); }
 
   /// Value in the current record. Error 3021 without one, 3219 in a TableDef.
   runtime::Variant Value() const { return owner_->fieldValue(index_); }

@@ -53,8 +53,7 @@ void TableFields::addColumn(TableField& field) const {
   field.writeProperties(properties);
   for (const auto& group : properties.groups())
     for (const auto& item : group.items) image.setProperty(page, group.owner, item);
-  if (const auto position = field.ordinalPosition())
-    image.moveColumn(page, field.name(), static_cast<std::uint16_t>(*position));
+  if (const auto position = field.ordinalPosition()) image.moveColumn(page, field.name(), *position);
   whole.keep();
   field.attach(page, number);
 }

@@ -12,7 +12,7 @@ namespace {
 using file::ColumnType;
 
 constexpr char Source[] = "DAO.Field";
-constexpr std::uint8_t DefaultPrecision = 18;  // of a Decimal, which has no decimals unless SQL says so
+constexpr int MostDigits = 28;  // of a Decimal
 
 [[noreturn]] void invalidOperation() {
   throw runtime::Error(3219, Source, "Operazione non valida per un campo di tabella");
@@ -116,6 +116,10 @@ runtime::Variant TableField::draftItem(FieldItem item) const {
       return draft_.validationText;
     case FieldItem::OrdinalPosition:
       return draft_.ordinalPosition.value_or(0);
+    case FieldItem::Precision:
+      return draft_.type == dbDecimal ? draft_.precision : 0;
+    case FieldItem::Scale:
+      return draft_.type == dbDecimal ? draft_.scale : 0;
     default:
       invalidOperation();
   }
@@ -160,6 +164,12 @@ void TableField::setDraftItem(FieldItem item, const runtime::Variant& value) {
     case FieldItem::OrdinalPosition:
       draft_.ordinalPosition = value.toLong();
       return;
+    case FieldItem::Precision:
+      draft_.precision = value.toLong();
+      return;
+    case FieldItem::Scale:
+      draft_.scale = value.toLong();
+      return;
     default:
       invalidOperation();
   }
@@ -169,8 +179,7 @@ void TableField::setStoredItem(FieldItem item, const runtime::Variant& value) {
   auto& image = session_->image();
   const std::string name = storedColumn().name;
   if (item == FieldItem::Name) return image.renameColumn(stored_->page, name, value.toText());
-  if (item == FieldItem::OrdinalPosition)
-    return image.moveColumn(stored_->page, name, static_cast<std::uint16_t>(value.toInteger()));
+  if (item == FieldItem::OrdinalPosition) return image.moveColumn(stored_->page, name, value.toLong());
   const auto* kept = keptItem(item);
   if (!kept) invalidOperation();
   if (kept->type != ColumnType::Boolean && value.toText().empty())
@@ -185,8 +194,15 @@ file::Column TableField::column() const {
   const bool sized = type == ColumnType::Text || type == ColumnType::Binary;
   if (sized && (size < 1 || size > 510 || (type == ColumnType::Text && size > 255)))
     throw runtime::Error(3259, Source, "Dimensione non valida per il campo " + draft_.name);
-  auto column = image::newColumn(draft_.name, type, static_cast<std::uint16_t>(sized ? size : 0));
-  if (type == ColumnType::Numeric) column.precision = DefaultPrecision;
+  auto column = image::newColumn(draft_.name, type, static_cast<std::uint16_t>(sized ? size : 0),
+                                 draft_.attributes & dbFixedField);
+  if (type == ColumnType::Numeric) {
+    if (draft_.precision < 1 || draft_.precision > MostDigits || draft_.scale < 0 ||
+        draft_.scale > draft_.precision)
+      throw runtime::Error(3259, Source, "Numero di cifre non valido per il campo " + draft_.name);
+    column.precision = static_cast<std::uint8_t>(draft_.precision);
+    column.scale = static_cast<std::uint8_t>(draft_.scale);
+  }
   if (draft_.attributes & dbAutoIncrField) {
     if (type != ColumnType::Long)
       throw runtime::Error(3259, Source, "Il contatore " + draft_.name + " deve essere di tipo Long");

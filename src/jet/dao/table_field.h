@@ -38,6 +38,7 @@ class TableField : public FieldOwner, public std::enable_shared_from_this<TableF
   struct Draft {
     std::string name, defaultValue, validationRule, validationText;
     int type = 0, size = 0, attributes = 0;
+    int precision = 18, scale = 0;  // of a Decimal
     std::optional<int> ordinalPosition;
     bool required = false, allowZeroLength = false;
   };

@@ -14,6 +14,7 @@ using file::Column;
 using file::ColumnType;
 
 constexpr std::uint32_t TextSizeLimit = 255, BinarySizeLimit = 510;
+constexpr std::int32_t LastPosition = 0xFFFF;
 
 [[noreturn]] void fail(int number, std::string description) {
   throw runtime::Error(number, "DAO.TableDef", std::move(description));
@@ -23,11 +24,6 @@ std::size_t positionOf(const file::TableDefinition& design, std::string_view nam
   const auto position = design.find(name);
   if (!position) fail(3265, "Campo inesistente: " + std::string(name));
   return *position;
-}
-
-void requireNoAutoNumber(const file::TableDefinition& design) {
-  if (std::ranges::any_of(design.columns, &Column::autoNumber))
-    fail(3090, "La tabella " + design.name + " può avere un solo contatore");
 }
 
 /// Properties of `from` that `to` lacks become its own; `from` is gone then.
@@ -59,7 +55,6 @@ std::vector<std::size_t> moveIndexes(file::TableDefinition& design, const Column
 std::uint16_t Image::addColumn(std::uint32_t page, Column column) {
   auto& changed = changeable(page);
   auto design = definition(changed);
-  if (column.autoNumber()) requireNoAutoNumber(design);
   image::addColumn(design, std::move(column));
   const Column added = design.columns.back();
   const bool firstVariable = !added.fixed() && added.type != ColumnType::Boolean && added.slot == 0;
@@ -157,10 +152,19 @@ void Image::renameColumn(std::uint32_t page, std::string_view name, const std::s
   whole.keep();
 }
 
-void Image::moveColumn(std::uint32_t page, std::string_view name, std::uint16_t position) {
+void Image::moveColumn(std::uint32_t page, std::string_view name, std::int32_t position) {
   auto& changed = changeable(page);
   auto design = definition(changed);
-  design.columns[positionOf(design, name)].position = position;
+  const auto moved = positionOf(design, name);
+  if (position > LastPosition) fail(3259, "Posizione non valida per il campo " + design.columns[moved].name);
+  if (position < 0) {
+    // There is no place before the first one: the others make room.
+    const auto order = design.displayOrder();
+    for (std::size_t i = 0; i < order.size(); ++i)
+      design.columns[order[i]].position = static_cast<std::uint16_t>(i + 1);
+    position = 0;
+  }
+  design.columns[moved].position = static_cast<std::uint16_t>(position);
   Transaction whole(*this);
   setDefinition(changed, std::move(design));
   whole.keep();

@@ -15,6 +15,7 @@ using file::LogicalIndex;
 using file::RealIndex;
 
 constexpr std::size_t MaxColumns = 255, MaxIndexes = 32, MaxIndexColumns = 10, MaxNameLength = 64;
+constexpr int LastPosition = 0xFFFF;
 constexpr std::uint16_t DefaultTextSize = 255, DefaultBinarySize = 510;
 
 [[noreturn]] void fail(int number, std::string description) {
@@ -42,25 +43,27 @@ std::vector<LogicalIndex>::iterator indexNamed(file::TableDefinition& table, std
 
 }  // namespace
 
-Column newColumn(std::string name, ColumnType type, std::uint16_t size) {
+Column newColumn(std::string name, ColumnType type, std::uint16_t size, bool fixed) {
   Column column;
   column.name = std::move(name);
   column.type = type;
   column.length = definitionLength(type, size);
-  column.flags = static_cast<std::uint8_t>(Column::Updatable | (isVariable(type) ? 0 : Column::Fixed));
-  if (type == ColumnType::Text) column.extraFlags = Column::Compressed;
+  const bool inPlace = !isVariable(type) || (fixed && !file::isLongValue(type));
+  column.flags = static_cast<std::uint8_t>(Column::Updatable | (inPlace ? Column::Fixed : 0));
+  if (type == ColumnType::Text && !inPlace) column.extraFlags = Column::Compressed;
   return column;
 }
 
 void addColumn(file::TableDefinition& table, Column column) {
   checkName(column.name);
   if (table.find(column.name)) fail(3191, "Campo definito più di una volta: " + column.name);
+  if (column.autoNumber()) requireNoAutoNumber(table);
   if (table.maxColumns >= MaxColumns) fail(3190, "Troppi campi nella tabella " + table.name);
   column.number = table.maxColumns++;
   column.position = column.number;
   for (const auto& other : table.columns)
-    column.position =
-        std::max<std::uint16_t>(column.position, static_cast<std::uint16_t>(other.position + 1));
+    column.position = std::max<std::uint16_t>(
+        column.position, static_cast<std::uint16_t>(std::min(other.position + 1, LastPosition)));
   column.slot = table.variableColumns;
   if (!column.fixed())
     ++table.variableColumns;
@@ -145,6 +148,11 @@ void requireRoomForIndex(const file::TableDefinition& table) {
 void checkIndexable(const Column& column) {
   if (column.type == ColumnType::Ole || column.type == ColumnType::Raw)
     fail(3290, "Il campo " + column.name + " non può stare in un indice");
+}
+
+void requireNoAutoNumber(const file::TableDefinition& table) {
+  if (std::ranges::any_of(table.columns, &Column::autoNumber))
+    fail(3090, "La tabella " + table.name + " può avere un solo contatore");
 }
 
 std::string indexNameOf(const file::TableDefinition& table, std::size_t real) {

@@ -8,11 +8,12 @@
 /// Building a table's definition column by column, index by index.
 namespace jet::image {
 
-/// A column of `type` as a new table gets it. `size`: characters of a Text, bytes of a Binary.
-file::Column newColumn(std::string name, file::ColumnType type, std::uint16_t size = 0);
+/// A column of `type` as a new table gets it. `size`: characters of a Text, bytes of a Binary. `fixed`: each
+/// value of a Text or Binary takes that much; the other types have it as they are.
+file::Column newColumn(std::string name, file::ColumnType type, std::uint16_t size = 0, bool fixed = false);
 
 /// Appends a column; its number, slot, offset and position follow from the table.
-/// Error 3191 if the table has the name, 3190 beyond 255 columns.
+/// Error 3191 if the table has the name, 3190 beyond 255 columns, 3090 for a second auto-number.
 void addColumn(file::TableDefinition& table, file::Column column);
 
 struct IndexDesign {
@@ -34,6 +35,8 @@ void renameIndex(file::TableDefinition& table, std::string_view name, const std:
 void removeLogical(file::TableDefinition& table, std::size_t position);
 /// Error 3626 beyond 32 indexes.
 void requireRoomForIndex(const file::TableDefinition& table);
+/// Error 3090 if the table has an auto-number.
+void requireNoAutoNumber(const file::TableDefinition& table);
 /// Error 3290 for a type that indexes can't have.
 void checkIndexable(const file::Column& column);
 

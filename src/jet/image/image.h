@@ -136,8 +136,9 @@ class Image {
   /// Lets a Long column give out numbers, beginning behind the largest it holds. Error 3090 for a second one
   /// in the table, 3259 for another type.
   void makeAutoNumber(std::uint32_t page, std::string_view name);
-  /// The place in the order of `*`. Equal positions follow the order in which the columns were made.
-  void moveColumn(std::uint32_t page, std::string_view name, std::uint16_t position);
+  /// The place in the order of `*`. Equal positions follow the order in which the columns were made; a
+  /// negative one is before all others. Error 3259 beyond 65535.
+  void moveColumn(std::uint32_t page, std::string_view name, std::int32_t position);
   /// Error 3280 while an index uses it, 3303 while a relation does.
   void dropColumn(std::uint32_t page, std::string_view name);
 
@@ -159,8 +160,8 @@ class Image {
   /// The table, link or query of this name, or what lies in another container.
   std::optional<file::CatalogueObject> findObject(std::string_view name,
                                                   std::uint32_t container = file::TablesContainer);
-  /// Adds an object without a page of its own (a query) in the container of tables and gives its id.
-  /// Error 3012 if the name is taken.
+  /// Adds an object without a page of its own (a query) in the container of tables and gives its id, the
+  /// lowest that is free. Error 3012 if the name is taken.
   std::uint32_t createObject(const std::string& name, file::ObjectType type, std::uint32_t flags);
   /// Sets name and flags of an object of the container of tables, and the time of its last change. Error 3012
   /// if another object has the name.

@@ -51,12 +51,13 @@ std::uint32_t Image::createObject(const std::string& name, file::ObjectType type
   if (findObject(name, container)) throw runtime::Error(3012, Source, "Oggetto già presente: " + name);
   changeSystemTable(file::CatalogueTable);
   changeSystemTable(file::PermissionsTable);
-  // Objects without a page count upwards from the lowest negative number.
-  auto query = connection_.prepare("SELECT max(c0) FROM t2 WHERE c0 < 0");
-  query.step();
-  const auto last = query.null(0) ? std::int64_t{INT32_MIN} - 1 : query.integer(0);
+  // Objects without a page count upwards from the lowest negative number. One that a dropped object has left
+  // is taken first: a relation that is made anew leaves no gap.
+  auto query = connection_.prepare("SELECT c0 FROM t2 WHERE c0 < 0 ORDER BY c0");
+  std::int64_t next = INT32_MIN;
+  while (query.step() && query.integer(0) <= next) next = query.integer(0) + 1;
   query.reset();
-  const auto id = static_cast<std::uint32_t>(static_cast<std::int32_t>(last + 1));
+  const auto id = static_cast<std::uint32_t>(static_cast<std::int32_t>(next));
   insertObject(connection_, {id, container, name, type, flags});
   return id;
 }

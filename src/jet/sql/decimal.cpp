@@ -39,13 +39,14 @@ Wide rescaled(const Decimal& number, int scale) {
   return number.magnitude * powerOfTen(zeros);
 }
 
-Decimal fromDouble(double value) {
-  constexpr int doubleDigits = 15;
+constexpr int DoubleDigits = 15, SingleDigits = 7;  // that tell something
+
+Decimal fromDouble(double value, int digitsTold) {
   const double magnitude = std::abs(value);
   if (!(magnitude < 1e28)) throw runtime::languageError(runtime::Overflow);
   const int wholeDigits = magnitude >= 1 ? static_cast<int>(std::log10(magnitude)) + 1 : 1;
   char digits[64];
-  std::snprintf(digits, sizeof digits, "%.*f", std::max(0, doubleDigits - wholeDigits), value);
+  std::snprintf(digits, sizeof digits, "%.*f", std::max(0, digitsTold - wholeDigits), value);
   return parseDecimal(digits);
 }
 
@@ -62,9 +63,10 @@ Decimal toDecimal(const runtime::Variant& value) {
     const auto plain = runtime::plainNumber(value.toText());
     if (!plain) throw runtime::languageError(runtime::TypeMismatch);
     const bool exponent = plain->find_first_of("eE") != std::string::npos;
-    return exponent ? fromDouble(runtime::plainToDouble(*plain)) : parseDecimal(*plain);
+    return exponent ? fromDouble(runtime::plainToDouble(*plain), DoubleDigits) : parseDecimal(*plain);
   }
-  return fromDouble(value.toDouble());
+  return fromDouble(value.toDouble(),
+                    value.kind() == runtime::Variant::Kind::Single ? SingleDigits : DoubleDigits);
 }
 
 Decimal parseDecimal(std::string_view digits) {
