@@ -6,6 +6,7 @@
 
 #include "child.h"
 #include "platform/paths.h"
+#include "platform/program.h"
 #include "report.h"
 #include "runtime/error.h"
 #include "steps.h"
@@ -119,6 +120,7 @@ int runStep(const Settings& settings) {
 }  // namespace bench
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   bench::Settings settings;
   CLI::App app("Times and memory on a large office's database, as ratios.", "bench_office");
   app.add_option("FOLDER", settings.folder, "Where the file is made, or found from an earlier run")

@@ -11,6 +11,7 @@
 #include "office_file.h"
 #include "platform/disk.h"
 #include "platform/paths.h"
+#include "platform/program.h"
 #include "report.h"
 #include "schema/fasi.h"
 #include "schema_files.h"
@@ -149,6 +150,7 @@ void run(const std::string& systemFolder, long rows) {
 }  // namespace bench
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   std::string folder;
   long rows = 1'000'000;
   CLI::App app("Times of the reconciliation of a database with its reference.", "bench_schema");

@@ -13,6 +13,7 @@
 #include "jet/file/usage_map.h"
 #include "office_file.h"
 #include "platform/paths.h"
+#include "platform/program.h"
 #include "report.h"
 #include "statements.h"
 
@@ -164,6 +165,7 @@ void run(const std::string& folder, long rows, const std::string& only) {
 }  // namespace bench
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   std::string folder;
   std::string only;
   long rows = 1'000'000;

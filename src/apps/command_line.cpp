@@ -29,6 +29,13 @@ std::string sentenceFor(const CLI::App& app, const CLI::ParseError& error) {
   return (found == sentences.end() ? "uso errato" : found->second) + " (" + error.what() + ")";
 }
 
+/// What it answered has to reach someone.
+int told(const CLI::App& app) {
+  if (std::cout.flush()) return 0;
+  std::cerr << app.get_name() << ": lo standard output non si può scrivere\n";
+  return 1;
+}
+
 }  // namespace
 
 void speakItalian(CLI::App& app) {
@@ -49,15 +56,25 @@ void speakItalian(CLI::App& app) {
 int answer(const CLI::App& app, const CLI::ParseError& error) {
   if (error.get_name() == "CallForHelp") {
     std::cout << app.help();
-    return 0;
+    return told(app);
   }
   if (error.get_name() == "CallForVersion") {
     std::cout << error.what() << "\n";
-    return 0;
+    return told(app);
   }
   std::cerr << app.get_name() << ": " << sentenceFor(app, error) << "\n"
             << "Le istruzioni: " << app.get_name() << " --help\n";
   return wrongUsage;
+}
+
+std::optional<int> parse(CLI::App& app, int argc, char** argv) {
+  refuseSwallowedOptions(app);
+  try {
+    app.parse(argc, argv);
+    return std::nullopt;
+  } catch (const CLI::ParseError& error) {
+    return answer(app, error);
+  }
 }
 
 }  // namespace apps

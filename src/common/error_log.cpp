@@ -34,7 +34,13 @@ void GestisciErrore(const runtime::Error& errore, const std::string& procedura, 
   const std::string voce = "Procedura: " + procedura + ACapo + "Data: " + runtime::format(ora, "Short Date") +
                            ACapo + "Ora: " + runtime::format(ora, "Long Time") + ACapo + righe + ACapo +
                            ACapo;
-  platform::appendToFile(DirProgramma + "\\error.log", platform::toCodePage1252(voce));
+  try {
+    platform::appendToFile(DirProgramma + "\\error.log", platform::toCodePage1252(voce));
+  } catch (runtime::Error& guasto) {
+    guasto.addPlace(procedura + ": " + (messaggio.empty() ? "" : messaggio + ": ") + "errore " +
+                    std::to_string(errore.number()) + ": " + errore.description());
+    throw;
+  }
 
   auto& desktop = controls::desktop();
   desktop.msgBox(procedura + ACapo + (messaggio.empty() ? "" : messaggio + ACapo) + righe,

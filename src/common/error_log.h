@@ -18,8 +18,8 @@ inline std::string PercorsoLog;
 
 /// Adds the error to error.log in the folder of the program and shows it, `messaggio` on a line of its own
 /// unless empty. `procedura` is the name that the trapping procedure gives itself. A fatal one ends the
-/// program (controls::ProgramEnded). An error numbered 0 does nothing. Errors: those of writing the file, and
-/// then nothing is shown.
+/// program (controls::ProgramEnded). An error numbered 0 does nothing. Errors: those of writing the file,
+/// with what it should have taken behind their own description, and then nothing is shown.
 void GestisciErrore(const runtime::Error& errore, const std::string& procedura, bool fatale,
                     const std::string& messaggio);
 

@@ -7,10 +7,17 @@ namespace common {
 
 bool EsisteFile(const std::string& percorso) {
   try {
-    platform::openFile(percorso, platform::OpenMode::Read);
-    return true;
+    return platform::openFile(percorso, platform::OpenMode::Read).tryLock(platform::LockMode::Shared);
   } catch (const runtime::Error&) {
     return false;
+  }
+}
+
+bool FileOccupato(const std::string& percorso) {
+  try {
+    return !platform::openFile(percorso, platform::OpenMode::Read).tryLock(platform::LockMode::Shared);
+  } catch (const platform::DiskError& error) {
+    return error.fault() == platform::DiskFault::Sharing;
   }
 }
 

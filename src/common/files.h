@@ -4,7 +4,8 @@
 
 namespace common {
 
-/// True if the file can be opened for input; any failure is false.
+/// True if the file can be opened for input: not if another opener holds it exclusively. Any failure is
+/// false.
 bool EsisteFile(const std::string& percorso);
 
 /// A path as an operator or a setting writes it, in the form that the suite keeps: one with the slashes of

@@ -1,14 +1,35 @@
 #include "common/lines.h"
 
 #include "platform/code_page.h"
+#include "runtime/letters.h"
 
 namespace common {
+namespace {
+
+constexpr std::string_view segnoUtf8 = "\xEF\xBB\xBF";
+
+/// UTF-8 as a file claims to hold it: a byte that belongs to no character becomes U+FFFD.
+std::string daUtf8(std::string_view byte) {
+  std::string testo;
+  for (;;) {
+    const std::size_t buoni = runtime::utf8Prefix(byte);
+    testo += byte.substr(0, buoni);
+    if (buoni == byte.size()) return testo;
+    testo += "\uFFFD";
+    byte.remove_prefix(buoni + 1);
+  }
+}
+
+}  // namespace
 
 std::vector<std::string> Righe(std::string_view contenuto) {
+  const bool conSegno = contenuto.starts_with(segnoUtf8);
+  if (conSegno) contenuto.remove_prefix(segnoUtf8.size());
+  const auto decifra = conSegno ? daUtf8 : platform::fromCodePage1252;
   std::vector<std::string> righe;
   while (!contenuto.empty()) {
     const std::size_t fine = contenuto.find_first_of("\r\n");
-    if (fine != 0) righe.push_back(platform::fromCodePage1252(contenuto.substr(0, fine)));
+    if (fine != 0) righe.push_back(decifra(contenuto.substr(0, fine)));
     contenuto.remove_prefix(fine == contenuto.npos ? contenuto.size() : fine + 1);
   }
   return righe;

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-/// Text files of lines "key=value", as the suite keeps them in code page 1252.
+/// Text files of lines "key=value", in UTF-8 with its mark or, as the suite keeps them, in code page 1252.
 namespace common {
 
 /// The lines of a file's content that aren't empty, in UTF-8. CR LF, CR alone and LF alone end a line; the

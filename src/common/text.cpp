@@ -67,10 +67,11 @@ std::int32_t ContaOccorrenze(std::string_view testo, std::string_view cercato) {
 runtime::Variant InStrEx(std::int32_t occorrenza, std::int32_t inizio, const std::string& testo,
                          const std::string& cercato, std::int32_t confronto) {
   try {
-    const std::u32string dove = confrontabile(testo, confronto);
+    // More than there is room for are not there, whatever the other arguments.
+    if (occorrenza > static_cast<std::int64_t>(runtime::length(testo)) - inizio + 1) return std::int32_t{0};
     if (inizio < 1) throw runtime::languageError(runtime::InvalidCall);
-    if (occorrenza > static_cast<std::int64_t>(dove.size()) - inizio + 1) return std::int32_t{0};
-    const auto trovate = posizioni(dove, confrontabile(cercato, confronto), inizio);
+    const auto trovate =
+        posizioni(confrontabile(testo, confronto), confrontabile(cercato, confronto), inizio);
     if (occorrenza == -1) return trovate.empty() ? 0 : trovate.back();
     const auto indice = static_cast<std::size_t>(occorrenza) - 1;
     return occorrenza > 0 && indice < trovate.size() ? trovate[indice] : 0;

@@ -35,7 +35,8 @@ std::int32_t ContaOccorrenze(std::string_view testo, std::string_view cercato);
 
 /// A Long: the position, in characters from 1, of occurrence number `occorrenza` (-1: the last) of `cercato`
 /// from character `inizio` on; 0 if there are fewer, or more are asked for than `testo` has room for. Any
-/// other number gives 0. Occurrences may overlap. An error goes to GestisciErrore, and the result is 0.
+/// other number gives 0. Occurrences may overlap. An error (5: a start below 1, an unknown comparison) goes
+/// to GestisciErrore, and the result is 0.
 runtime::Variant InStrEx(std::int32_t occorrenza, std::int32_t inizio, const std::string& testo,
                          const std::string& cercato, std::int32_t confronto);
 

@@ -23,9 +23,10 @@ class BatchWindow {
         form({program_.settings(), program_.folder()}) {
     common::NomeApplicazione.clear();
     form.load();
-    if (!form.DbRiferimento)
-      err << "Il database di riferimento non può essere aperto: "
-          << platform::toSystemPath(form.PercorsoRiferimento) << std::endl;
+    // A missing one has its box.
+    if (form.ErroreAvvio)
+      err << "Database di riferimento non utilizzabile: " << platform::toSystemPath(form.PercorsoRiferimento)
+          << ": " << inUnaRiga(*form.ErroreAvvio) << std::endl;
   }
   ~BatchWindow() { form.unload(); }
 
@@ -72,12 +73,37 @@ std::string choose(frmAggMain& form, const BatchOptions& options) {
   return form.lstDatabase.listIndex() < 1 ? form.lstDatabase.list(0) : std::string();
 }
 
-/// Why the run did not begin, where no box has said it.
-void explainRefusal(const Corsa& run, std::ostream& err) {
+const char* sentenceOf(Esito end) {
+  switch (end) {
+    case Esito::NonDatabase:
+      return "Aggiornamento rifiutato";
+    case Esito::Ripristinata:
+      return "Il numero dei record è cambiato, si ripristina il backup";
+    case Esito::NonRimossa:
+    case Esito::NonCompattata:
+      return "Aggiornato, ma non compattato";
+    case Esito::Completata:
+      return "Errore tralasciato";
+    default:
+      return "Aggiornamento annullato";
+  }
+}
+
+/// Says in one line why a run didn't begin or didn't end well, where no box has said it.
+void explain(const Corsa& run, std::ostream& err) {
   if (run.esito == Esito::NonScelta)
-    err << "Database inesistente o non leggibile: " << platform::toSystemPath(run.database) << std::endl;
+    err << "Database inesistente o non leggibile: "
+        << platform::toSystemPath(run.database) << std::endl;
   if (run.esito == Esito::SenzaNome)
     err << "Nome dell'applicazione non indicato: aggiornamento non eseguito." << std::endl;
+  if (run.causa) err << sentenceOf(run.esito) << ": " << inUnaRiga(*run.causa) << std::endl;
+}
+
+/// What was written to `out` has to have arrived; else this says so and fails.
+bool arrived(std::ostream& out, std::ostream& err) {
+  if (out.flush()) return true;
+  err << "Lo standard output non si può scrivere." << std::endl;
+  return false;
 }
 
 bool isAsItWas(const Corsa& run) {
@@ -99,24 +125,22 @@ int update(frmAggMain& form, std::ostream& out, std::ostream& err) {
   }
   const std::string& summary = form.txtRiepilogo.text();
   if (!summary.empty() && summary.back() != '\n') out << std::endl;
-  explainRefusal(form.UltimaCorsa, err);
+  explain(form.UltimaCorsa, err);
+  arrived(out, err);  // the run stands, and its summary has a file of its own
   return exitStatus(form.UltimaCorsa);
 }
 
 int showPlan(frmAggMain& form, std::ostream& out, std::ostream& err) {
   schema::Piano plan;
-  try {
-    form.PrevediAggiornamento(plan);
-  } catch (const runtime::Error& error) {
-    err << "Errore: " << error.number() << '\n' << error.description() << std::endl;
-    return FailedUnchanged;
-  }
+  form.PrevediAggiornamento(plan);
   for (const std::string& change : plan.modifiche) out << change << '\n';
-  out.flush();
+  const bool shown = arrived(out, err);
   for (const std::string& line : plan.errori) err << line << std::endl;
-  explainRefusal(form.UltimaCorsa, err);
+  explain(form.UltimaCorsa, err);
   const int status = exitStatus(form.UltimaCorsa);
-  return status == Done && !plan.modifiche.empty() ? WouldChange : status;
+  if (status != Done) return status;
+  if (!shown) return FailedUnchanged;
+  return plan.modifiche.empty() ? Done : WouldChange;
 }
 
 }  // namespace
@@ -144,8 +168,9 @@ int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err)
   if (!form.DbRiferimento) return Refused;
   for (std::size_t row = 0; row < form.ColNomi.size(); ++row)
     out << form.ColNomi[row] << '\t' << platform::toSystemPath(form.ColPercorsi[row]) << '\n';
-  out.flush();
-  return Done;
+  for (const auto& [name, path] : form.NonTrovati)
+    err << name << ": il database registrato non c'è: " << platform::toSystemPath(path) << std::endl;
+  return arrived(out, err) ? Done : FailedUnchanged;
 }
 
 }  // namespace console

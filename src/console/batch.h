@@ -33,13 +33,15 @@ struct BatchOptions : ProgramOptions {
 int exitStatus(const Corsa& run);
 
 /// Updates the database of `app`, or `database`, or the application that the patch was built for. The summary
-/// goes to `out` as it grows, with LF line ends; boxes, questions and refusals to `err`. Returns an
-/// ExitStatus. A plan writes one line a change to `out` and nothing else anywhere: WouldChange, or Done if
-/// nothing would change.
+/// goes to `out` as it grows, with LF line ends; boxes, questions, refusals and, in one line, the cause of a
+/// failure to `err`. Returns an ExitStatus. A plan writes one line a change to `out` and nothing to any file:
+/// WouldChange, or Done if nothing would change; a run that would fail, or take the backup back, is a
+/// failure.
 int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);
 
-/// Writes the applications that the window would list, one a line: name, TAB, path as the system writes it.
-/// Returns Done, or Refused without a reference database.
+/// Writes the applications that the window would list, one a line: name, TAB, path as the system writes it;
+/// to `err` those whose registered database isn't there. Returns Done, Refused without a reference database,
+/// FailedUnchanged where `out` can't be written.
 int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace console

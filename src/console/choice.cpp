@@ -78,6 +78,7 @@ void frmAggMain::chkAltroDatabase_Click() {
 }
 
 void frmAggMain::cmdSelezionaDB_Click() {
+  if (busy()) return;  // the dialog would hold the run inside its transaction
   cmdDlg.setFilter("Database Access (*.mdb)|*.mdb");
   cmdDlg.setFlags(controls::CommonDialog::FileMustExist | controls::CommonDialog::HideReadOnly);
   cmdDlg.setDialogTitle("Seleziona database");

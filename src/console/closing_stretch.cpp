@@ -3,9 +3,7 @@
 #include "console/frmAggMain.h"
 #include "console/pending_error.h"
 #include "controls/desktop.h"
-#include "platform/clock.h"
 #include "platform/files.h"
-#include "runtime/format.h"
 
 namespace console {
 namespace {
@@ -25,6 +23,7 @@ void frmAggMain::compattaEControlla(Corsa& corsa) {
   });
   if (errori.pending()) {
     corsa.esito = Esito::NonRimossa;
+    corsa.causa = errori.error();
     scriviErrore(errori.number(), errori.description());
     avvisaInterrotto();
     concludi();
@@ -36,6 +35,7 @@ void frmAggMain::compattaEControlla(Corsa& corsa) {
   controls::desktop().doEvents();
   if (errori.pending()) {
     corsa.esito = Esito::NonCompattata;
+    corsa.causa = errori.error();
     scriviErrore(errori.number(), errori.description());
   } else {
     errori.attempt([&] { DbDestinazione = Ws->OpenDatabase(corsa.compattato, true); });
@@ -52,6 +52,7 @@ void frmAggMain::compattaEControlla(Corsa& corsa) {
     ScriviRiepilogo("Compattazione eseguita.", true);
   }
   corsa.erroreInChiusura = errori.pending();
+  if (errori.pending()) corsa.causa = errori.error();
   controls::desktop().doEvents();
   controls::desktop().doEvents();
   ScriviRiepilogo("", true);
@@ -72,11 +73,9 @@ bool frmAggMain::tabelleComplete(const Corsa& corsa) {
   return true;
 }
 
-void frmAggMain::ripristina(const Corsa& corsa, PendingError& errori) {
+void frmAggMain::ripristina(Corsa& corsa, PendingError& errori) {
   avvisaInterrotto();
-  const std::string ora = runtime::format(platform::clock().now(), "yyyymmddhhnnss");
-  const std::string rovinato = EstraiCartella(corsa.database) + "ErrUnioncol" + ora + ".mdb";
-  errori.attempt([&] { platform::copyFile(corsa.database, rovinato); });
+  errori.attempt([&] { copiaConOra(corsa.database, "ErrUnioncol", oraPerNomi()); });
   ScriviRiepilogo("Ripristino database di backup " + corsa.backup + "... ", true);
   errori.attempt([&] { platform::copyFile(corsa.backup, corsa.database); });
   // An error of before, such as a damaged copy that could not be kept, counts here too.
@@ -86,6 +85,7 @@ void frmAggMain::ripristina(const Corsa& corsa, PendingError& errori) {
   errori.attempt([&] { platform::copyFile(corsa.backup, corsa.database); });
   errori.attempt([this] { chiudiDestinazione(); });
   errori.attempt([&] { platform::removeFile(corsa.compattato); });
+  if (errori.pending()) corsa.causa->addPlace(inUnaRiga(*errori.error()));
 }
 
 }  // namespace console

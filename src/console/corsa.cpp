@@ -3,14 +3,26 @@
 #include <algorithm>
 
 #include "console/frmAggMain.h"
+#include "controls/batch_desktop.h"
+#include "platform/clock.h"
+#include "runtime/format.h"
 
 namespace console {
 
-Corsa::Corsa(const std::string& percorso, const std::string& ora) : database(percorso) {
-  const std::string cartella = frmAggMain::EstraiCartella(percorso);
-  backup = cartella + "Backup" + ora + ".mdb";
-  compattato = cartella + "New" + frmAggMain::EstraiNomeFile(percorso);
+std::string inUnaRiga(const runtime::Error& errore) {
+  const std::string numero =
+      errore.number() == 0 ? std::string() : "errore " + std::to_string(errore.number()) + ": ";
+  return controls::oneLine(numero + errore.description());
 }
+
+std::string oraPerNomi() {
+  return runtime::format(platform::clock().now(), "yyyymmddhhnnss");
+}
+
+Corsa::Corsa(const std::string& percorso)
+    : database(percorso),
+      inizio(oraPerNomi()),
+      compattato(frmAggMain::EstraiCartella(percorso) + "New" + frmAggMain::EstraiNomeFile(percorso)) {}
 
 bool diDisegno(int numero) {
   // The engine numbers what it can't make of a statement from 3061 to 3146.

@@ -2,14 +2,19 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
+
+#include "runtime/error.h"
 
 namespace console {
 
 /// How a run of the update ended.
 enum class Esito {
-  NonScelta,      // no database chosen, or its file isn't there: nothing was done
+  NonScelta,      // no database chosen, its file isn't there or is held exclusively: nothing was done
   Vietata,        // the marker file forbids it: nothing was done
+  Riferimento,    // the database chosen is the reference itself: nothing was done
+  NonDatabase,    // the file is no database, or a damaged one: nothing was done
   SenzaNome,      // no application was named: nothing was done
   ApertoAltrove,  // the database is open elsewhere and the operator gave up: nothing was done
   Fallita,        // an error, answered by the rollback
@@ -29,14 +34,21 @@ inline constexpr std::array<const char*, 6> TabelleControllo = {"ragioniere",   
 /// disk.
 bool diDisegno(int numero);
 
+/// "errore 3022: ...", or the description alone of an error without a number.
+std::string inUnaRiga(const runtime::Error& errore);
+
+/// The present time as the names of copies carry it: "yyyymmddhhnnss".
+std::string oraPerNomi();
+
 /// One run of the update: the paths and values that belong to it alone, and how it ended.
 struct Corsa {
   Corsa() = default;
-  /// Forms the paths beside the target at `percorso`; `ora` is the start as "yyyymmddhhnnss".
-  Corsa(const std::string& percorso, const std::string& ora);
+  /// Of the target at `percorso`, beginning now.
+  explicit Corsa(const std::string& percorso);
 
   std::string database;         // the target
-  std::string backup;           // its copy of before the run
+  std::string inizio;           // the time of the start
+  std::string backup;           // the target's copy of before the run; empty until it is made
   std::string compattato;       // its compacted copy
   bool usaTransazione = false;  // set when the target is open, unless its parameter says otherwise
   std::array<std::int32_t, TabelleControllo.size()> conteggi{};  // -1: could not be counted
@@ -45,6 +57,7 @@ struct Corsa {
   bool databaseAperto = false;    // the target was opened for writing
   bool erroreTrattenuto = false;  // a step with a trap of its own met an error that is no matter of design
   bool erroreInChiusura = false;  // an error was passed over after the commit
+  std::optional<runtime::Error> causa;  // what kept it from ending well
 };
 
 }  // namespace console

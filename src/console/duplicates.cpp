@@ -53,7 +53,7 @@ void frmAggMain::EliminaComuniDuplicati(bool& esito) {
     gruppi->Close();
     esito = true;
   } catch (const runtime::Error& errore) {
-    trattieni(errore.number());
+    trattieni(errore);
     ScriviRiepilogo("- errore " + std::to_string(errore.number()) + "-", true);
     ScriviRiepilogo(std::string(errore.description()), true);
   }

@@ -83,6 +83,12 @@ void frmAggMain::Path(const std::string& cartella) {
 }
 
 void frmAggMain::cmdEsci_Click() {
+  uscitaRichiesta_ = busy();
+  if (!uscitaRichiesta_) congedo();
+  unload();
+}
+
+void frmAggMain::congedo() {
   try {
     if (AggiornamentoEseguito) {
       programma_.mostraPatch(PercorsoProgramma);
@@ -94,7 +100,6 @@ void frmAggMain::cmdEsci_Click() {
   } catch (const runtime::Error&) {
     // The way out stays open.
   }
-  unload();
 }
 
 void frmAggMain::mnuFileEsci_Click() {

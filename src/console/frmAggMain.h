@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "console/corsa.h"
@@ -84,7 +86,12 @@ class frmAggMain : public controls::Form {
   bool AggiornamentoEseguito = false;  // a run has reached its normal end; never cleared
   bool PathImpostato = false;
   std::string NomeProgrammaPatch;  // key "Norvo-Prg" of PatchList.txt
-  Corsa UltimaCorsa;               // for the programs: the operator reads the summary
+
+  // For the programs; the operator reads the summary.
+  Corsa UltimaCorsa;
+  std::optional<runtime::Error> ErroreAvvio;  // what ended the loading early
+  /// Applications whose database is registered but isn't there: name and path.
+  std::vector<std::pair<std::string, std::string>> NonTrovati;
 
   // Life of the window.
   void Form_Initialize();  // called by the constructor
@@ -105,7 +112,8 @@ class frmAggMain : public controls::Form {
   void txtAltroDB_OLEDragDrop(const controls::DropData& dati);
   void cmdAggiorna_Click();
   void mnuFileAggiorna_Click();
-  /// Closes the window; after an update that ended normally, the window of the file patch comes first.
+  /// Closes the window; after an update that ended normally, the window of the file patch comes first. During
+  /// a run all this waits for its end.
   void cmdEsci_Click();
   void mnuFileEsci_Click();
   void Timer1_Timer();
@@ -116,7 +124,7 @@ class frmAggMain : public controls::Form {
   /// half-updated file.
   void EseguiAggiornamento();
   /// Tells what the phases over the target's structure and contents would change, and writes nothing
-  /// anywhere; UltimaCorsa tells whether it got that far. Throws the error that would end the run there.
+  /// anywhere; UltimaCorsa tells how the run would end, and why.
   void PrevediAggiornamento(schema::Piano& piano);
   void LeggiDatabaseScelto();
   void ChiediApplicazione(std::string& nome);
@@ -156,27 +164,36 @@ class frmAggMain : public controls::Form {
   void abilitaAggiorna(bool abilita);
   void scegliDatabase(const std::string& percorso);
 
+  void congedo();  // what the operator is told or shown on leaving
   void esegui(Corsa& corsa);
-  Corsa nuovaCorsa();         // with SenzaNome where nothing forbids to go on
+  Corsa nuovaCorsa();  // with SenzaNome where nothing forbids to go on
+  bool sceltoRiferimento() const;
+  void rifiuta(const Corsa& corsa);  // in the summary
+  void intesta(const Corsa& corsa);
   bool applicazioneScelta();  // asks for it where the database was picked by hand
   bool aggiornamentoVietato() const;
-  void copiaDiSicurezza(const Corsa& corsa);
+  void copiaDiSicurezza(Corsa& corsa);
+  /// Copies `percorso` beside itself under `nome`, `ora` ("yyyymmddhhnnss") and ".mdb", and returns that
+  /// path. While another file has the name it waits for the next second.
+  std::string copiaConOra(const std::string& percorso, const std::string& nome, std::string ora);
   bool transazioneRichiesta();
   void rinominaCampi();
   void contaTabelle(Corsa& corsa);
   schema::Ambiente ambienteDellaCorsa();
   void aggiungiQuery(const schema::Ambiente& ambiente);
   void aggiornaTabelle(const schema::Ambiente& ambiente);
-  void trattieni(int numero);  // an error that was passed over
+  void trattieni(const runtime::Error& errore);  // one that was passed over
   void chiudiDestinazione();
   void annullaAggiornamento(Corsa& corsa, const runtime::Error& errore);
+  void prevediFasi(schema::Piano& piano);
   void compattaEControlla(Corsa& corsa);
   bool tabelleComplete(const Corsa& corsa);
-  void ripristina(const Corsa& corsa, PendingError& errori);
+  void ripristina(Corsa& corsa, PendingError& errori);
   void concludi();
   void scriviErrore(int numero, const std::string& descrizione);
 
   Programma programma_;
+  bool uscitaRichiesta_ = false;  // during a run
 };
 
 }  // namespace console

@@ -50,8 +50,9 @@ void frmAggMain::RinominaCampiLunghi(const std::string& tabella, bool& esito) {
       }
     }
     esito = true;
-  } catch (const runtime::Error&) {
-    // Only the failure counts: the run stops at it without a number.
+  } catch (const runtime::Error& errore) {
+    // The summary shows only that it failed: the run stops at it without a number.
+    UltimaCorsa.causa = errore;
   }
 }
 

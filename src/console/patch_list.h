@@ -6,7 +6,7 @@
 namespace console {
 
 /// The application that the patch was built for: the last value of key "Norvo-Prg" in the content of
-/// PatchList.txt, in code page 1252; empty if there is none.
+/// PatchList.txt; empty if there is none.
 std::string nomeProgramma(std::string_view contenuto);
 
 }  // namespace console

@@ -21,6 +21,7 @@ class PendingError {
     }
   }
 
+  const std::optional<runtime::Error>& error() const { return last_; }
   bool pending() const { return last_.has_value(); }
   /// Of the pending error; 0 and empty if there is none.
   int number() const { return last_ ? last_->number() : 0; }

@@ -16,6 +16,10 @@ struct ProgramOptions {
   std::optional<std::string> settings;    // file of the per-user store
 };
 
+/// What the options, or the settings, name and isn't there, in words; empty if all is. A store that can't be
+/// read would pass for an empty one, and a program would work on other folders than it was told.
+std::string missingOf(const ProgramOptions& options);
+
 /// The folder and the settings that the options name, in force for the procedures of the suite
 /// (common/globale.h) as long as this lives. The setting ("AggNorvo", "Computer", "File") names another file
 /// of the computer (platform/computer.h).

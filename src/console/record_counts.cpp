@@ -27,10 +27,11 @@ void frmAggMain::ControllaRecords(const jet::dao::DatabasePtr& db, const std::st
   ContaRecords(db, tabella, trovati);
   uguale = trovati == attesi;
   if (uguale) return;
+  const std::string differenza =
+      "Tabella " + common::SenzaSpazi(tabella) + ": mancano " + runtime::str(attesi - trovati) + " records!";
+  UltimaCorsa.causa = runtime::Error(0, "", differenza);
   ScriviRiepilogo("", true);
-  ScriviRiepilogo(
-      "Tabella " + common::SenzaSpazi(tabella) + ": mancano " + runtime::str(attesi - trovati) + " records!",
-      true);
+  ScriviRiepilogo(std::string(differenza), true);
   ScriviRiepilogo("", true);
 }
 

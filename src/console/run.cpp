@@ -1,4 +1,5 @@
 // One update run, from the click to the commit.
+#include <optional>
 #include <utility>
 
 #include "common/files.h"
@@ -10,21 +11,40 @@
 #include "parameters/kep_generali.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "runtime/format.h"
 #include "schema/fasi.h"
 
 namespace console {
+namespace {
+
+/// The error by which the engine tells that a file is none of its databases; nothing if it is one, or if that
+/// can't be seen now.
+std::optional<runtime::Error> nonDatabase(const std::string& percorso) {
+  constexpr int formatoNonRiconosciuto = 3343;
+  try {
+    jet::dao::Workspace().OpenDatabase(percorso, false, true);
+  } catch (const runtime::Error& errore) {
+    if (errore.number() == formatoNonRiconosciuto) return errore;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
 
 void frmAggMain::EseguiAggiornamento() {
   if (busy()) return;
   UltimaCorsa = Corsa();
-  whileBusy([this] { esegui(UltimaCorsa); });
+  uscitaRichiesta_ = false;
+  whileBusy([this] {
+    esegui(UltimaCorsa);
+    if (uscitaRichiesta_) congedo();
+  });
 }
 
 void frmAggMain::esegui(Corsa& corsa) {
   txtRiepilogo.setText("");
   corsa = nuovaCorsa();
   if (corsa.esito == Esito::Vietata) controls::desktop().endProgram();
+  if (corsa.esito == Esito::NonDatabase) rifiuta(corsa);
   if (corsa.esito != Esito::SenzaNome) return;
   try {
     if (!applicazioneScelta()) return;
@@ -65,10 +85,40 @@ void frmAggMain::esegui(Corsa& corsa) {
 
 Corsa frmAggMain::nuovaCorsa() {
   LeggiDatabaseScelto();
-  Corsa corsa(PercorsoDatabase, runtime::format(platform::clock().now(), "yyyymmddhhnnss"));
-  if (!PercorsoDatabase.empty() && common::EsisteFile(PercorsoDatabase))
-    corsa.esito = !PathImpostato && aggiornamentoVietato() ? Esito::Vietata : Esito::SenzaNome;
+  Corsa corsa(PercorsoDatabase);
+  // A database that another program holds is there: the operator is asked about it later.
+  if (PercorsoDatabase.empty() ||
+      !(common::EsisteFile(PercorsoDatabase) || common::FileOccupato(PercorsoDatabase)))
+    return corsa;
+  corsa.esito = Esito::SenzaNome;
+  if (!PathImpostato && aggiornamentoVietato()) {
+    corsa.esito = Esito::Vietata;
+  } else if (sceltoRiferimento()) {
+    corsa.esito = Esito::Riferimento;
+  } else if ((corsa.causa = nonDatabase(PercorsoDatabase))) {
+    corsa.esito = Esito::NonDatabase;
+  }
   return corsa;
+}
+
+bool frmAggMain::sceltoRiferimento() const {
+  try {
+    const platform::File scelto = platform::openFile(PercorsoDatabase, platform::OpenMode::Read);
+    if (!scelto.isStillAt(PercorsoRiferimento)) return false;
+  } catch (const runtime::Error&) {
+    return false;
+  }
+  // This program has it open itself: to wait for it to be closed would never end.
+  controls::desktop().msgBox("Il database scelto è quello di riferimento e non può essere aggiornato.",
+                             controls::vbCritical);
+  return true;
+}
+
+void frmAggMain::rifiuta(const Corsa& corsa) {
+  intesta(corsa);
+  scriviErrore(corsa.causa->number(), corsa.causa->description());
+  ScriviRiepilogo("\r\nAggiornamento annullato!", true);
+  ScriviRiepilogo("", true);
 }
 
 bool frmAggMain::applicazioneScelta() {
@@ -84,7 +134,8 @@ bool frmAggMain::applicazioneScelta() {
 bool frmAggMain::aggiornamentoVietato() const {
   const std::size_t posto = common::Maiuscolo(PercorsoDatabase).find("\\DB");
   if (posto == std::string::npos) return false;
-  if (!common::EsisteFile(PercorsoDatabase.substr(0, posto + 1) + "NoAggNorvo.txt")) return false;
+  const std::string marca = PercorsoDatabase.substr(0, posto + 1) + "NoAggNorvo.txt";
+  if (!common::EsisteFile(marca) && !common::FileOccupato(marca)) return false;
   controls::desktop().msgBox(
       "Attenzione, per questioni di sicurezza non è consentita l'esecuzione della patch AggNorvo.\r\n"
       "Procedere con la funzione 'Controllo Aggiornamenti'",
@@ -92,19 +143,40 @@ bool frmAggMain::aggiornamentoVietato() const {
   return true;
 }
 
-void frmAggMain::copiaDiSicurezza(const Corsa& corsa) {
-  controls::desktop().setMousePointer(controls::MousePointer::Hourglass);
+void frmAggMain::intesta(const Corsa& corsa) {
   ScriviRiepilogo("Aggiornamento in data " + runtime::Variant(platform::clock().now()).toText(), false);
   ScriviRiepilogo("Database:" + corsa.database, true);
+}
+
+void frmAggMain::copiaDiSicurezza(Corsa& corsa) {
+  controls::desktop().setMousePointer(controls::MousePointer::Hourglass);
+  intesta(corsa);
   ScriviRiepilogo("Copia di sicurezza in corso...", true);
-  platform::copyFile(corsa.database, corsa.backup);
+  corsa.backup = copiaConOra(corsa.database, "Backup", corsa.inizio);
   ScriviRiepilogo("fatto.", false);
+}
+
+std::string frmAggMain::copiaConOra(const std::string& percorso, const std::string& nome, std::string ora) {
+  for (;;) {
+    const std::string copia = EstraiCartella(percorso) + nome + ora + ".mdb";
+    try {
+      platform::copyToNewFile(percorso, copia);
+      return copia;
+    } catch (const platform::DiskError& errore) {
+      // Another run in this folder has begun in the same second.
+      if (errore.fault() != platform::DiskFault::Exists) throw;
+    }
+    for (const std::string presa = ora; ora == presa; ora = oraPerNomi()) {
+      controls::desktop().doEvents();
+      platform::clock().rest(20);
+    }
+  }
 }
 
 bool frmAggMain::transazioneRichiesta() {
   const runtime::Variant esiste = parameters::EsisteInKepGenerali(*DbDestinazione, "UsaTransazione");
   if (esiste.kind() != runtime::Variant::Kind::Boolean) {
-    trattieni(esiste.toLong());
+    trattieni({esiste.toLong(), "", "Parametro UsaTransazione non leggibile"});
     return true;
   }
   if (!esiste.toBoolean()) return true;
@@ -134,8 +206,10 @@ void frmAggMain::contaTabelle(Corsa& corsa) {
   }
 }
 
-void frmAggMain::trattieni(int numero) {
-  if (!diDisegno(numero)) UltimaCorsa.erroreTrattenuto = true;
+void frmAggMain::trattieni(const runtime::Error& errore) {
+  if (diDisegno(errore.number())) return;
+  UltimaCorsa.erroreTrattenuto = true;
+  if (!UltimaCorsa.causa) UltimaCorsa.causa = errore;
 }
 
 schema::Ambiente frmAggMain::ambienteDellaCorsa() {
@@ -143,7 +217,7 @@ schema::Ambiente frmAggMain::ambienteDellaCorsa() {
           [this](const std::string& testo, schema::Voce voce) {
             ScriviRiepilogo(std::string(testo), voce != schema::Voce::Seguito);
           },
-          [this](int numero) { trattieni(numero); }};
+          [this](const runtime::Error& errore) { trattieni(errore); }};
 }
 
 void frmAggMain::aggiungiQuery(const schema::Ambiente& ambiente) {
@@ -169,6 +243,8 @@ void frmAggMain::chiudiDestinazione() {
 
 void frmAggMain::annullaAggiornamento(Corsa& corsa, const runtime::Error& errore) {
   corsa.esito = Esito::Fallita;
+  // Where a trap of its own has taken the error, it has kept the cause.
+  if (errore.number() != 0 || !corsa.causa) corsa.causa = errore;
   PendingError ritorno;
   if (corsa.usaTransazione) ritorno.attempt([this] { Ws->Rollback(); });
   scriviErrore(errore.number(), errore.description());
@@ -177,7 +253,10 @@ void frmAggMain::annullaAggiornamento(Corsa& corsa, const runtime::Error& errore
   ScriviRiepilogo("\r\nAggiornamento annullato!", true);
   ScriviRiepilogo("", true);
   ritorno.attempt([this] { chiudiDestinazione(); });
-  if (ritorno.pending()) scriviErrore(ritorno.number(), ritorno.description());
+  if (ritorno.pending()) {
+    scriviErrore(ritorno.number(), ritorno.description());
+    corsa.causa->addPlace(inUnaRiga(*ritorno.error()));
+  }
   concludi();
 }
 

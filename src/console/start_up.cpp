@@ -44,7 +44,8 @@ void frmAggMain::Form_Load() {
     RsNorvi->Close();
     RsNorvi = nullptr;
     setMousePointer(controls::MousePointer::Default);
-  } catch (const runtime::Error&) {
+  } catch (const runtime::Error& errore) {
+    ErroreAvvio = errore;
     // The window stays up with what it had reached, and nothing of the reference database stays open.
     PendingError errori;
     if (RsNorvi) errori.attempt([this] { RsNorvi->Close(); });
@@ -59,7 +60,11 @@ void frmAggMain::elencaApplicazioni() {
     const std::string norvo = RsNorvi->value("norvo").toText();
     const std::string percorso =
         common::PercorsoInterno(programma_.impostazioni.get(norvo, "DBSECTION", "dbpath"));
-    if (percorso.empty() || Check_Percorso(percorso).empty()) continue;
+    if (percorso.empty()) continue;
+    if (Check_Percorso(percorso).empty()) {
+      NonTrovati.emplace_back(norvo, percorso);
+      continue;
+    }
     const std::string nome = common::Maiuscolo(norvo);
     lstDatabase.addItem(nome + (ModoDebug ? " (" + percorso + ")" : " "));
     if (nome == common::Maiuscolo(NomeProgrammaPatch)) lstDatabase.setListIndex(lstDatabase.listCount() - 1);

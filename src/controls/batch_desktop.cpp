@@ -26,7 +26,8 @@ std::string_view kindOf(int style) {
   }
 }
 
-/// One line for the log of a box: line ends become " / ".
+}  // namespace
+
 std::string oneLine(const std::string& text) {
   std::string line;
   for (const char letter : text) {
@@ -38,8 +39,6 @@ std::string oneLine(const std::string& text) {
   }
   return line;
 }
-
-}  // namespace
 
 BatchDesktop::BatchDesktop(std::ostream& out, Answer answer, std::optional<std::string> application)
     : out_(out), answer_(answer), application_(std::move(application)) {}

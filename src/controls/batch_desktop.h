@@ -60,6 +60,9 @@ class BatchDesktop : public Desktop {
   bool ended_ = false;
 };
 
+/// A text as one line, for a log: line ends become " / ".
+std::string oneLine(const std::string& text);
+
 /// Copies what the box grows by from now on to `out`, which outlives it, with the line ends of a stream.
 void streamText(TextBox& box, std::ostream& out);
 

@@ -57,6 +57,7 @@ bool Form::unload() {
   if (!loaded_) return true;
   if (busy()) {
     unloadWaits_ = true;
+    unloadDelayed.raise();
     return false;
   }
   bool refused = false;

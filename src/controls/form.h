@@ -69,6 +69,8 @@ class Form : public CaptionedControl {
   /// Set the argument to refuse.
   Event<bool&> queryUnload;
   Event<> unloading;
+  /// An unload() waits for the end of the work.
+  Event<> unloadDelayed;
 
  private:
   static std::int32_t newHandle(Form& form);

@@ -5,6 +5,7 @@
 #include "common/text.h"
 #include "runtime/error.h"
 #include "runtime/inspection.h"
+#include "runtime/numbers.h"
 
 namespace parameters {
 namespace {
@@ -20,10 +21,10 @@ std::string testoDi(const runtime::Variant& valore) {
 }
 
 /// A number as the layouts write it: 0 for a text that is none.
-float numero(std::string testo) {
+double numero(std::string testo) {
   if (testo.find(',') == testo.npos) std::replace(testo.begin(), testo.end(), '.', ',');
   const runtime::Variant valore(testo);
-  return runtime::isNumeric(valore) ? static_cast<float>(valore.toDouble()) : 0.0F;
+  return runtime::isNumeric(valore) ? static_cast<double>(runtime::toSingle(valore.toDouble())) : 0;
 }
 
 }  // namespace
@@ -85,14 +86,14 @@ bool RigaKepGenerali::ScriviByNome(const std::string& nomeRiga, const runtime::V
 float RigaKepGenerali::TrasformaInTwips(const std::string& testo) {
   struct Unita {
     std::string_view segno;
-    float twips;
+    double twips;
   };
-  static constexpr Unita unita[] = {{"cm", 567.0F}, {"\"", 1440.0F}};
+  static constexpr Unita unita[] = {{"cm", 567}, {"\"", 1440}};
   for (const auto& [segno, twips] : unita)
     if (testo.ends_with(segno))
-      return numero(common::SenzaSpazi(std::string_view(testo).substr(0, testo.size() - segno.size()))) *
-             twips;
-  return numero(common::SenzaSpazi(testo));
+      return runtime::toSingle(
+          twips * numero(common::SenzaSpazi(std::string_view(testo).substr(0, testo.size() - segno.size()))));
+  return runtime::toSingle(numero(common::SenzaSpazi(testo)));
 }
 
 }  // namespace parameters

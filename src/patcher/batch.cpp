@@ -10,20 +10,21 @@
 namespace patcher {
 namespace {
 
-/// False, with the reason in `err`, if the list can't be read.
-bool load(frmPatch& form, const std::string& folder, std::ostream& err) {
+/// What keeps the run from beginning, with the reason in `err`; PatchDone if nothing does.
+PatchStatus load(frmPatch& form, const std::string& folder, std::ostream& err) {
   try {
     form.Path(folder);
     form.load();
-    return true;
+    return PatchDone;
   } catch (const controls::ProgramEnded&) {
     // The boxes have told it.
   } catch (const runtime::Error& failure) {
     err << failure.description() << std::endl;
   }
+  if (form.ElencoLetto) return PatchErrors;
   err << "Elenco della patch non leggibile: " << platform::toSystemPath(folder + "\\PatchList.txt")
       << std::endl;
-  return false;
+  return PatchUnreadable;
 }
 
 }  // namespace
@@ -32,7 +33,8 @@ int runPatch(const std::string& folder, std::ostream& out, std::ostream& err) {
   controls::BatchDesktop desktop(err);
   const controls::DesktopScope scope(desktop);
   frmPatch form;
-  if (!load(form, folder, err)) return PatchUnreadable;
+  form.SenzaOperatore = true;
+  if (const PatchStatus status = load(form, folder, err); status != PatchDone) return status;
   if (desktop.boxesShown() > 0) return PatchErrors;
   controls::streamText(form.txt, out);
   try {

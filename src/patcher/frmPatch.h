@@ -32,6 +32,7 @@ class frmPatch : public controls::Form {
   controls::Label lblTop{"lblTop", ""};
 
   // The list, and what its symbolic directories stand for: each ends in a backslash, or is empty.
+  bool ElencoLetto = false;  // to its end
   std::int32_t NumeroRighe = 0;
   std::array<Riga, MaxRighe + 1> RigaPatch;  // used from 1
   std::string DirNorvoDB;
@@ -44,6 +45,7 @@ class frmPatch : public controls::Form {
 
   // The run.
   bool ArrestoRichiesto = false;  // seen between two rows
+  bool SenzaOperatore = false;    // nobody is there to end a wait
   std::int32_t FileAggiornati = 0;
   std::int32_t FileNonAggiornati = 0;
   std::int32_t FileSostituiti = 0;
@@ -70,10 +72,10 @@ class frmPatch : public controls::Form {
   /// Adds to the report.
   void ScriviTesto(const std::string& testo);
   /// CopiaFile, over again for 15 seconds until it succeeds, with events in between. A wait that midnight
-  /// falls into lasts until it does.
+  /// falls into lasts until it does, unless there is no operator.
   void CopiaConAttesa(const std::string& sorgente, const std::string& destinazione, bool& riuscito);
-  /// Copies a file with its date over another. The running program is renamed first, to its name with date
-  /// and time behind it, since it can't be overwritten. Any error is false.
+  /// Copies a file with its date over another. The running program, through whatever links, is renamed
+  /// first, to its name with date and time behind it, since it can't be overwritten. Any error is false.
   void CopiaFile(const std::string& sorgente, const std::string& destinazione, bool& riuscito);
 
  private:

@@ -26,6 +26,7 @@ std::optional<std::string> cartellaDelProgramma(const std::string& nomeExe) {
 
 void frmPatch::GetKeys() {
   try {
+    ElencoLetto = false;
     NumeroRighe = 0;
     for (const std::string& testo : common::Righe(platform::readWholeFile(path_ + "\\PatchList.txt"))) {
       std::optional<Riga> riga = leggiRiga(testo);
@@ -33,6 +34,7 @@ void frmPatch::GetKeys() {
       if (NumeroRighe == MaxRighe) throw runtime::languageError(runtime::SubscriptOutOfRange);
       RigaPatch[static_cast<std::size_t>(++NumeroRighe)] = std::move(*riga);
     }
+    ElencoLetto = true;
   } catch (const runtime::Error& errore) {
     common::GestisciErrore(errore, "GetKeys", true, "PatchList.txt non è compilato correttamente");
   }

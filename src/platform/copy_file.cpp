@@ -19,6 +19,7 @@ File holdTarget(const std::string& path) {
   if (inspectFile(path)) {
     target = openFile(path, OpenMode::Update);
     lockOrRefuse(target, LockMode::Exclusive);
+    if (!target.isStillAt(path)) throw DiskError(DiskFault::Sharing, path);
   }
   return target;
 }
@@ -32,18 +33,31 @@ void copyContent(const File& source, File& target) {
   }
 }
 
-}  // namespace
-
-void copyFile(const std::string& from, const std::string& to) {
+void copy(const std::string& from, const std::string& to, Replacement::Name name) {
+  const bool isNew = name == Replacement::Name::New;
+  if (isNew && inspectFile(to)) throw DiskError(DiskFault::Exists, to);
   File source = openFile(from, OpenMode::Read);
   lockOrRefuse(source, LockMode::Shared);
   const std::optional<FileInfo> info = inspectFile(from);
   if (!info || !source.isStillAt(from)) throw DiskError(DiskFault::Sharing, from);
-  const File oldTarget = holdTarget(to);
-  Replacement copy(to, from);
+  const FileState before = source.state();
+  const File oldTarget = isNew ? File() : holdTarget(to);
+  Replacement copy(to, from, name);
   copyContent(source, copy.file());
+  // A program that knows nothing of our lock may have written: the copy would be a mixture.
+  if (source.state() != before) throw DiskError(DiskFault::Sharing, from);
   copy.file().setModified(info->modifiedUnixNanoseconds);
   copy.publish();
+}
+
+}  // namespace
+
+void copyFile(const std::string& from, const std::string& to) {
+  copy(from, to, Replacement::Name::NewOrTaken);
+}
+
+void copyToNewFile(const std::string& from, const std::string& to) {
+  copy(from, to, Replacement::Name::New);
 }
 
 }  // namespace platform

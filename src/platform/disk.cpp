@@ -23,6 +23,7 @@ constexpr FaultText faultTexts[] = {
     {runtime::FileAlreadyExists, "File già esistente"},
     {runtime::PathFileAccess, "È una cartella, non un file"},
     {runtime::DeviceIoError, "Errore di lettura o scrittura"},
+    {runtime::PathFileAccess, "Proprietario, permessi o attributi non si possono conservare"},
 };
 
 const FaultText& faultText(DiskFault fault) {
@@ -44,7 +45,8 @@ void announce(DiskOperation operation, const std::string& path, const std::strin
 
 DiskError::DiskError(DiskFault fault, const std::string& path)
     : runtime::Error(faultText(fault).number, "AggNorvo", std::string(faultText(fault).text) + ": " + path),
-      fault_(fault) {}
+      fault_(fault),
+      path_(path) {}
 
 DiskObserver* observeDisk(DiskObserver* observer) {
   callsSoFar = 0;
@@ -69,6 +71,13 @@ File openFile(const std::string& path, OpenMode mode) {
   File file;
   file.handle_.reset(new File::Handle{path, system::open(path, mode), {}});
   if (mode == OpenMode::Create) file.handle_->held = LockMode::Exclusive;
+  return file;
+}
+
+File createFile(const std::string& path, NewFile kind, const std::string& model) {
+  announce(DiskOperation::Create, path);
+  File file;
+  file.handle_.reset(new File::Handle{path, system::create(path, kind, model), LockMode::Exclusive});
   return file;
 }
 
@@ -121,20 +130,17 @@ bool File::isStillAt(const std::string& path) const {
   return system::isAt(handle_->native, path);
 }
 
+FileState File::state() const {
+  announce(DiskOperation::Inspect, handle_->path);
+  return system::state(handle_->native, handle_->path);
+}
+
 const std::string& File::path() const {
   return handle_->path;
 }
 
 void File::close() {
   handle_.reset();
-}
-
-void File::takePermissionsOf(const std::string& model) {
-  system::takePermissions(handle_->native, model);
-}
-
-void File::grantLike(const std::string& model) {
-  system::grantLike(handle_->native, model);
 }
 
 void File::beforeReplacement() {
@@ -149,6 +155,11 @@ void File::afterReplacement(const std::string& path) {
 void replaceFile(const std::string& from, const std::string& to) {
   announce(DiskOperation::Replace, from, to);
   system::replace(from, to);
+}
+
+void renameFile(const std::string& from, const std::string& to) {
+  announce(DiskOperation::Replace, from, to);
+  system::rename(from, to);
 }
 
 void removeFile(const std::string& path) {

@@ -15,17 +15,19 @@
 /// the backslash and UTF-8; the door maps them to the system's own form.
 namespace platform {
 
-enum class DiskFault { NotFound, PathNotFound, AccessDenied, Sharing, NoSpace, Exists, IsFolder, Io };
+enum class DiskFault { NotFound, PathNotFound, AccessDenied, Sharing, NoSpace, Exists, IsFolder, Io, Rights };
 
 /// A failed disk call. number() is the language's: 53 not found, 76 path not found, 75 access denied or
-/// folder, 70 sharing, 61 no space, 58 exists, 57 I/O.
+/// folder, 70 sharing, 61 no space, 58 exists, 57 I/O, 75 owner, rights or attributes that can't be kept.
 class DiskError : public runtime::Error {
  public:
   DiskError(DiskFault fault, const std::string& path);
   DiskFault fault() const { return fault_; }
+  const std::string& path() const { return path_; }
 
  private:
   DiskFault fault_;
+  std::string path_;
 };
 
 enum class DiskOperation {
@@ -72,11 +74,28 @@ enum class OpenMode {
 };
 enum class LockMode { Shared, Exclusive };
 
+/// Whom a file that is made anew lets in.
+enum class NewFile {
+  Usual,      // whom the user's new files let in
+  Like,       // of these, nobody whom the model keeps out; it can be run where the model can
+  InPlaceOf,  // exactly whom the model does: its owner, group, rights, access list and extended attributes
+};
+
 struct FileInfo {
   std::uint64_t size = 0;
   bool folder = false;
   double modified = 0;                       // days since 1899-12-30, local time, whole seconds
   std::int64_t modifiedUnixNanoseconds = 0;  // the same instant as the system keeps it
+};
+
+/// What tells whether a file is still as it was: which one it is, its size and when it was changed.
+struct FileState {
+  std::uint64_t volume = 0, number = 0;
+  std::uint64_t size = 0;
+  std::int64_t modified = 0;  // Unix nanoseconds
+  std::int64_t changed = 0;   // the same of its entry, which nobody can set back; 0 where there is none
+  std::uint64_t names = 0;    // more than one: hard links
+  bool operator==(const FileState&) const = default;
 };
 
 /// An open file. Closing (by destruction) releases its lock; so does the end of the process.
@@ -103,6 +122,7 @@ class File {
   void setModified(std::int64_t unixNanoseconds);
   /// True while `path` still names this very file (it may have been replaced meanwhile).
   bool isStillAt(const std::string& path) const;
+  FileState state() const;
   explicit operator bool() const { return handle_ != nullptr; }
   const std::string& path() const;
   /// Lets go of the file now.
@@ -110,9 +130,8 @@ class File {
 
  private:
   friend File openFile(const std::string& path, OpenMode mode);
+  friend File createFile(const std::string& path, NewFile kind, const std::string& model);
   friend class Replacement;
-  void takePermissionsOf(const std::string& model);
-  void grantLike(const std::string& model);
   void beforeReplacement();
   void afterReplacement(const std::string& path);
   struct Handle;
@@ -121,8 +140,14 @@ class File {
 
 /// Opens a regular file; a folder is IsFolder in every mode, a device or a pipe is AccessDenied.
 File openFile(const std::string& path, OpenMode mode);
+/// Makes a file for reading and writing, locked Exclusive, under a name that must be free: Exists if anything
+/// has it, a symbolic link too. InPlaceOf: where the model's rights can't all be had there is no new file and
+/// the fault is Rights, with the model's path.
+File createFile(const std::string& path, NewFile kind = NewFile::Usual, const std::string& model = {});
 /// Gives the file at `from` the name `to` in one step, taking the place of a file that is there.
 void replaceFile(const std::string& from, const std::string& to);
+/// The same with a name that must be free: Exists. Numbered as Replace.
+void renameFile(const std::string& from, const std::string& to);
 void removeFile(const std::string& path);
 /// Returns once the names in the folder lie on the medium.
 void flushFolder(const std::string& folder);

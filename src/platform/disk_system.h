@@ -16,6 +16,8 @@ using NativeFile = std::intptr_t;
 
 /// With OpenMode::Create the file is locked Exclusive before it is emptied.
 NativeFile open(const std::string& path, OpenMode mode);
+/// As createFile(). Nobody gets in before the rights are what they must be.
+NativeFile create(const std::string& path, NewFile kind, const std::string& model);
 void close(NativeFile file) noexcept;
 std::size_t read(NativeFile file, const std::string& path, std::uint64_t offset, std::span<std::byte> out);
 void write(NativeFile file, const std::string& path, std::uint64_t offset, std::span<const std::byte> data);
@@ -25,14 +27,11 @@ void flush(NativeFile file, const std::string& path);
 /// False if another opener stands in the way; a lock held before may then be lost.
 bool lock(NativeFile file, const std::string& path, LockMode mode);
 bool isAt(NativeFile file, const std::string& path);
+FileState state(NativeFile file, const std::string& path);
 void setModified(NativeFile file, const std::string& path, std::int64_t unixNanoseconds);
-/// Gives `file` the permissions of the file at `model`, as far as the system lets it.
-void takePermissions(NativeFile file, const std::string& model) noexcept;
-/// Lets a file that is new grant what the one at `model` grants, the right to run it too, within the user's
-/// own defaults for new files; its owner always reads and writes it.
-void grantLike(NativeFile file, const std::string& model) noexcept;
 
 void replace(const std::string& from, const std::string& to);
+void rename(const std::string& from, const std::string& to);
 /// A system that can't rename a file which is open closes it before replace() and opens it after it, with the
 /// lock that it had; a Sharing error if another has taken that. Others do nothing.
 void closeForReplacement(NativeFile& file) noexcept;

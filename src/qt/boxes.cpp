@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <map>
 
 #include "controls/common_dialog.h"
@@ -52,8 +54,18 @@ controls::MessageAnswer escapeOf(int style) {
 
 }  // namespace
 
+QWidget* ownerWindow() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const QWidgetList all = QApplication::topLevelWidgets();
+  const auto main = std::ranges::find_if(all, [](const QWidget* window) {
+    return window->isVisible() && qobject_cast<const QMainWindow*>(window);
+  });
+  return main == all.end() ? nullptr : *main;
+}
+
 controls::MessageAnswer askBox(const QString& text, int style, const QString& title) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(ownerWindow());
   box.setWindowTitle(title);
   box.setTextFormat(Qt::PlainText);
   box.setText(QString(text).remove(u'\r'));
@@ -71,7 +83,7 @@ controls::MessageAnswer askBox(const QString& text, int style, const QString& ti
 }
 
 QString askText(const QString& prompt, const QString& title, const QString& text) {
-  QInputDialog dialog(QApplication::activeWindow());
+  QInputDialog dialog(ownerWindow());
   dialog.setWindowTitle(title);
   dialog.setLabelText(prompt);
   dialog.setTextValue(text);
@@ -92,7 +104,7 @@ QStringList nameFilters(const QString& filter) {
 }
 
 bool askFile(controls::CommonDialog& dialog) {
-  QFileDialog window(QApplication::activeWindow(), toQt(dialog.dialogTitle()));
+  QFileDialog window(ownerWindow(), toQt(dialog.dialogTitle()));
   const bool mustExist = dialog.flags() & controls::CommonDialog::FileMustExist;
   window.setAcceptMode(QFileDialog::AcceptOpen);
   window.setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QWidget;
+
 #include "controls/message_box.h"
 
 namespace controls {
@@ -9,6 +11,10 @@ class CommonDialog;
 }
 
 namespace qt {
+
+/// The window that a box or a modal window belongs before: the active one or, while another program is in
+/// front, a visible one; nullptr without any.
+QWidget* ownerWindow();
 
 /// The boxes of the desktop. Each waits for the operator.
 controls::MessageAnswer askBox(const QString& text, int style, const QString& title);

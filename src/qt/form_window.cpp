@@ -28,6 +28,8 @@ FormWindow::FormWindow(controls::Form& form) : form_(form) {
     if (auto* timer = dynamic_cast<controls::Timer*>(control)) new TimerView(*timer, this);
   refresh();
   subscription_ = form.changed.subscribe([this] { refresh(); });
+  delayed_ = form.unloadDelayed.subscribe(
+      [this] { statusBar()->showMessage("La finestra si chiuderà al termine dell'operazione in corso."); });
 }
 
 QWidget* FormWindow::viewOf(controls::Control& control, QWidget* parent) {
@@ -110,7 +112,6 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-  if (form_.busy()) statusBar()->showMessage("La finestra si chiuderà al termine dell'operazione in corso.");
   event->setAccepted(!form_.loaded());
   if (form_.loaded()) guarded([this] { form_.unload(); });
 }

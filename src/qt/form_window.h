@@ -47,6 +47,7 @@ class FormWindow : public QMainWindow {
   QPushButton* cancelButton_ = nullptr;
   bool synchronizing_ = false;
   controls::Subscription subscription_;
+  controls::Subscription delayed_;
 };
 
 /// A window for forms that want no layout of their own: labels and boxes one above the other in the order of

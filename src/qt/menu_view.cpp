@@ -13,7 +13,8 @@ controls::Subscription followItem(controls::MenuItem& item, QAction& action) {
   // The suite's entry "&Esci" stays where the suite put it, whatever a desktop thinks of such names.
   action.setMenuRole(QAction::NoRole);
   auto update = [&item, &action] {
-    action.setText(toQt(item.caption()));
+    // Some styles show the text of a line.
+    if (!item.separator()) action.setText(toQt(item.caption()));
     action.setVisible(item.visible());
     action.setEnabled(item.enabled());
   };

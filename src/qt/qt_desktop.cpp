@@ -103,7 +103,15 @@ void QtDesktop::loadForm(controls::Form& form) {
 void QtDesktop::showForm(controls::Form& form, bool modal) {
   FormWindow* window = windowOf(form);
   if (!window || ended_) return;
-  if (modal) window->setWindowModality(Qt::ApplicationModal);
+  if (modal) {
+    window->setWindowModality(Qt::ApplicationModal);
+    // Before the window that it was opened from, in the taskbar too. A parent would delete it with itself.
+    QWidget* owner = ownerWindow();
+    if (owner && owner != window) {
+      window->winId();  // makes the handle
+      window->windowHandle()->setTransientParent(owner->windowHandle());
+    }
+  }
   window->show();
   window->activateWindow();
   if (!modal) return;

@@ -233,6 +233,11 @@ double plainToDouble(const std::string& plain) {
   return value;
 }
 
+float toSingle(double value) {
+  if (std::abs(value) > static_cast<double>(std::numeric_limits<float>::max())) throw languageError(Overflow);
+  return static_cast<float>(value);
+}
+
 std::int64_t plainToInteger(const std::string& plain, int decimals) {
   if (plain.find('e') != std::string::npos)
     return roundHalfEven(plainToDouble(plain) * std::pow(10.0, decimals));

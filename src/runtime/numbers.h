@@ -29,6 +29,9 @@ std::optional<std::string> plainNumber(std::string_view text);
 /// Value of a plain number. Error 6 if it is too large.
 double plainToDouble(const std::string& plain);
 
+/// In single precision. Error 6 beyond its range.
+float toSingle(double value);
+
 /// A plain number times 10^decimals, its halves rounded to even; exact where there is no exponent. Error 6
 /// outside 64 bits.
 std::int64_t plainToInteger(const std::string& plain, int decimals);

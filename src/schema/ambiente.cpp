@@ -23,7 +23,8 @@ bool compreso(const auto& nomi, const std::string& nome) {
 
 runtime::Variant parametro(const Ambiente& ambiente, const std::string& nome) {
   runtime::Variant valore = parameters::LeggiKepGenerali(*ambiente.destinazione, nome);
-  if (valore.kind() == runtime::Variant::Kind::Long) ambiente.trattieni(valore.toLong());
+  if (valore.kind() == runtime::Variant::Kind::Long)
+    ambiente.trattieni({valore.toLong(), "", "Parametro " + nome + " non leggibile"});
   return valore;
 }
 

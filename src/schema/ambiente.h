@@ -4,6 +4,7 @@
 #include <string>
 
 #include "jet/dao/database.h"
+#include "runtime/error.h"
 #include "runtime/variant.h"
 
 namespace schema {
@@ -22,7 +23,7 @@ struct Ambiente {
   jet::dao::DatabasePtr destinazione;
   std::string percorsoRiferimento;  // with backslashes
   std::function<void(const std::string& testo, Voce voce)> scrivi;
-  std::function<void(int numero)> trattieni;  // an error that a phase has passed over
+  std::function<void(const runtime::Error& errore)> trattieni;  // one that a phase has passed over
 };
 
 /// The target's parameter as stored; Empty if there is none, the Long of an error, which is held back.

@@ -63,11 +63,15 @@ void aggiornaContenuto(const Ambiente& ambiente, const Maniera& maniera, const s
 }
 
 void aggiornaContenuti(const Ambiente& ambiente, const Maniera& maniera) {
+  std::string tabella;
   try {
-    for (const std::string& nome : tabelleConPrefisso(*ambiente.riferimento, maniera.prefisso))
+    for (const std::string& nome : tabelleConPrefisso(*ambiente.riferimento, maniera.prefisso)) {
+      tabella = nome;
       aggiornaContenuto(ambiente, maniera, nome);
-  } catch (const runtime::Error& errore) {
-    ambiente.trattieni(errore.number());
+    }
+  } catch (runtime::Error& errore) {
+    errore.addPlace("tabella " + tabella);
+    ambiente.trattieni(errore);
   }
 }
 

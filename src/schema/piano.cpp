@@ -58,8 +58,7 @@ std::vector<std::string> nomiQuery(jet::dao::Database& db) {
 
 }  // namespace
 
-Piano prevedi(const Ambiente& ambiente) {
-  Piano piano;
+void prevedi(const Ambiente& ambiente, Piano& piano) {
   jet::dao::Database &riferimento = *ambiente.riferimento, &destinazione = *ambiente.destinazione;
   Ambiente prova = ambiente;
   bool contaModifiche = true;
@@ -82,7 +81,6 @@ Piano prevedi(const Ambiente& ambiente) {
   confronta(
       tabelleConPrefisso(riferimento, PrefissoIns), "- tabella ", righe, [&] { AggiungiTabelleINS(prova); },
       piano);
-  return piano;
 }
 
 }  // namespace schema

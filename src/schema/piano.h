@@ -15,7 +15,8 @@ struct Piano {
 
 /// Lets all phases loose on the target and tells what changed; `ambiente.scrivi` isn't called. The changes
 /// stay in `ambiente.destinazione`, which the caller doesn't save. A query counts if its text changes, a
-/// table of contents if its rows do, whatever their order. Throws where the run would end.
-Piano prevedi(const Ambiente& ambiente);
+/// table of contents if its rows do, whatever their order. Throws where the run would end: the last change
+/// told is then the one that fails.
+void prevedi(const Ambiente& ambiente, Piano& piano);
 
 }  // namespace schema

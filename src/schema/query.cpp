@@ -26,11 +26,12 @@ void AggiungiQuery(const Ambiente& ambiente) {
       else
         db.CreateQueryDef(nome, testo);
     }
-  } catch (const runtime::Error& errore) {
-    ambiente.trattieni(errore.number());
+  } catch (runtime::Error& errore) {
     ambiente.scrivi("- errore " + std::to_string(errore.number()) + " durante la creazione query " + nome,
                     Voce::Errore);
     ambiente.scrivi(errore.description(), Voce::Errore);
+    errore.addPlace("query " + nome);
+    ambiente.trattieni(errore);
   }
 }
 

@@ -6,7 +6,6 @@
 #include "support/case_file.h"
 #include "support/command.h"
 #include "support/temp_folder.h"
-#include "support/usage.h"
 
 namespace {
 
@@ -201,10 +200,6 @@ TEST_F(Jetsql, StoredQueriesAreShownAndRewritten) {
   EXPECT_EQ(statement(".query Svuota").output, "DELETE *\nFROM T\nWHERE Id = 9;\n");
   EXPECT_THAT(statement(".query Nessuna").errors, HasSubstr("errore 3265"));
   EXPECT_EQ(statement(".query T SELECT 1").status, 1);
-}
-
-TEST_F(Jetsql, WrongUsageIsToldApart) {
-  support::expectUsage(JETSQL, REPOSITORY "/tests/apps/cases/usage.cases");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <fstream>
 #include <string>
 
 #include "support/command.h"
@@ -15,9 +16,11 @@ using support::shellWord;
 /// Updates a database in batch against the reference in `programFolder`.
 inline support::CommandResult update(const std::string& norvo, const std::string& database,
                                      const std::string& programFolder) {
+  const std::string settings = programFolder + "/impostazioni.ini";
+  std::ofstream(settings, std::ios::app);  // empty is enough
   return support::runCommand(AGGNORVO " --batch --answer yes --app " + norvo + " --database " +
                              shellWord(database) + " --program-dir " + shellWord(programFolder) +
-                             " --settings " + shellWord(programFolder + "/impostazioni.ini"));
+                             " --settings " + shellWord(settings));
 }
 
 /// Status 0 if the database is made as the model is.

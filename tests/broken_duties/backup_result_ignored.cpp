@@ -3,9 +3,9 @@
 #include "platform/files.h"
 
 void copy(const std::string&, const std::string&) asm(
-    "__real__ZN8platform8copyFileERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEES7_");
+    "__real__ZN8platform13copyToNewFileERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEES7_");
 void copyUnheard(const std::string&, const std::string&) asm(
-    "__wrap__ZN8platform8copyFileERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEES7_");
+    "__wrap__ZN8platform13copyToNewFileERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEES7_");
 
 void copyUnheard(const std::string& from, const std::string& to) try {
   copy(from, to);

@@ -62,7 +62,14 @@ TEST_F(ErrorLog, IsLeftAloneWithoutAnError) {
 
 TEST_F(ErrorLog, RaisesItsOwnErrorWhereItCantBeWritten) {
   common::DirProgramma = folder.path("manca");
-  EXPECT_THROW(common::GestisciErrore(error, "Start", false, ""), runtime::Error);
+  try {
+    common::GestisciErrore(error, "Start", false, "x");
+    ADD_FAILURE();
+  } catch (const runtime::Error& fault) {
+    EXPECT_EQ(fault.number(), runtime::PathNotFound);
+    EXPECT_TRUE(fault.description().ends_with(" - Start: x: errore 76: " + error.description()))
+        << fault.description();
+  }
   EXPECT_TRUE(desktop.boxes.empty());
 }
 

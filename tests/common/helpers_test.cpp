@@ -91,6 +91,12 @@ TEST(Text, IsComparedWithoutRegardToCaseAlone) {
 TEST(Files, AreThereWhenTheyCanBeRead) {
   support::TempFolder folder;
   platform::writeWholeFile(folder.path("a"), "");
+  platform::File other = platform::openFile(folder.path("a"), platform::OpenMode::Read);
+  ASSERT_TRUE(other.tryLock(platform::LockMode::Shared));
+  EXPECT_TRUE(common::EsisteFile(folder.path("a")));
+  ASSERT_TRUE(other.tryLock(platform::LockMode::Exclusive));
+  EXPECT_FALSE(common::EsisteFile(folder.path("a"))) << "held exclusively";
+  other.close();
   EXPECT_TRUE(common::EsisteFile(folder.path("a")));
   for (const std::string& path : {folder.path("b"), folder.path(), folder.path("b\\c"), std::string()})
     EXPECT_FALSE(common::EsisteFile(path)) << path;

@@ -155,6 +155,8 @@ std::string endOf(const support::Case& end) {
   for (std::size_t box = 0; box < std::min(boxes.size(), window.desktop.boxes.size()); ++box)
     EXPECT_THAT(window.desktop.boxes[box].text, HasSubstr(boxes[box]));
   const Esito esito = window.form.UltimaCorsa.esito;
+  EXPECT_EQ(window.form.UltimaCorsa.causa.has_value(),
+            console::exitStatus(window.form.UltimaCorsa) != console::Done);
   const std::string kept = office.file("ErrUnioncol20261116171600.mdb");
   EXPECT_EQ(platform::fileExists(kept), esito == Esito::Ripristinata);
   EXPECT_EQ(platform::fileExists(office.backup), fault.fields[2] != "Backup");

@@ -174,7 +174,7 @@ TEST(Exit, AfterAGoodUpdateGoesThroughThePatchEvenIfALaterOneFailed) {
       const std::string good = platform::readWholeFile(office.target);
       platform::writeWholeFile(office.target, "non è un database");
       window.update();
-      EXPECT_EQ(window.form.UltimaCorsa.esito, console::Esito::Fallita);
+      EXPECT_EQ(window.form.UltimaCorsa.esito, console::Esito::NonDatabase);
       platform::writeWholeFile(office.target, good);
     }
     const auto boxes = window.desktop.boxes.size();
@@ -186,6 +186,38 @@ TEST(Exit, AfterAGoodUpdateGoesThroughThePatchEvenIfALaterOneFailed) {
     EXPECT_THAT(window.patches, ElementsAre(office.program));
     EXPECT_FALSE(window.form.loaded());
     EXPECT_EQ(window.desktop.boxes.size(), boxes);
+  }
+}
+
+TEST(Exit, DuringARunWaitsForItsEndAndThenSaysWhatCameOfIt) {
+  for (const bool good : {true, false}) {
+    Office office;
+    if (!good) {
+      auto statements = office::oldInstallation();
+      statements.push_back("DROP TABLE ragioniere");
+      office.makeTarget(statements);
+    }
+    Window window(office);
+    bool left = false, delayed = false;
+    window.form.unloadDelayed.connect([&] { delayed = true; });
+    window.desktop.setEventsHook([&] {
+      if (left || !window.form.busy() || !window.form.DbDestinazione) return;
+      left = true;
+      window.form.cmdEsci.press();
+      window.form.cmdSelezionaDB.setVisible(true);
+      window.form.cmdSelezionaDB.press();
+      EXPECT_TRUE(window.desktop.boxes.empty()) << "nothing holds the run inside its transaction";
+      EXPECT_EQ(window.form.cmdDlg.dialogTitle(), "");
+      EXPECT_TRUE(window.patches.empty());
+    });
+    window.duringPatch = [&] { EXPECT_EQ(window.form.UltimaCorsa.esito, console::Esito::Completata); };
+    window.update();
+    EXPECT_TRUE(left && delayed);
+    EXPECT_EQ(window.patches.size(), good ? 1u : 0u);
+    ASSERT_EQ(window.desktop.boxes.size(), good ? 0u : 1u);
+    for (const auto& box : window.desktop.boxes)
+      EXPECT_THAT(box.text, testing::HasSubstr("nessun aggiornamento"));
+    EXPECT_FALSE(window.form.loaded());
   }
 }
 

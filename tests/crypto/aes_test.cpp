@@ -1,29 +1,26 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "bytes.h"
 #include "crypto/EncUtils.h"
 #include "runtime/text.h"
+#include "support/case_file.h"
 #include "support/errors.h"
 
 namespace crypto {
 namespace {
 
-plain::Bytes ascii(std::string_view text) {
-  return {text.begin(), text.end()};
-}
-
-/// A message of ASCII letters as it should be enciphered, by the definition.
-std::string enciphered(const plain::Bytes& message, plain::Bytes password) {
+/// Blocks that are enciphered one by one under the first 32 bytes of a password, by the cipher itself.
+std::string enciphered(runtime::Bytes blocks, runtime::Bytes password) {
   password.resize(32);
-  plain::Bytes all((4 + message.size() + 31) / 32 * 32);
-  all[0] = static_cast<std::uint8_t>(message.size());
-  all[1] = static_cast<std::uint8_t>(message.size() / 256);
-  std::copy(message.begin(), message.end(), all.begin() + 4);
+  EncUtils utils;
+  EncUtils::gentables();
+  utils.gkey(8, 8, password);
   std::string digits;
-  for (auto at = all.begin(); at != all.end(); at += 32)
-    digits += toHex(plain::encrypted({at, at + 32}, password));
+  for (auto at = blocks.begin(); at < blocks.end(); at += 32) {
+    runtime::Bytes block(at, at + 32);
+    utils.encrypt(block);
+    digits += toHex(block);
+  }
   return digits;
 }
 
@@ -31,61 +28,39 @@ TEST(AesText, IsTheLengthTheLowEightBitsAndZerosInBlocks) {
   EncUtils utils;
   const struct {
     std::string text, password;
-    plain::Bytes message, key;
-    std::size_t digits;
+    std::string message, key;  // hexadecimal digits
+    std::size_t blocks;
   } cases[] = {
-      {"", "", {}, {}, 64},
-      {"testo", "parola", ascii("testo"), ascii("parola"), 64},
-      {std::string(28, 'x'), "p", plain::Bytes(28, 'x'), ascii("p"), 64},
-      {std::string(29, 'x'), "p", plain::Bytes(29, 'x'), ascii("p"), 128},
-      {std::string(300, 'x'), std::string(40, 'p'), plain::Bytes(300, 'x'), plain::Bytes(32, 'p'), 640},
-      {"è€Š", "€", {0xE8, 0xAC, 0x60}, {0xAC}, 64},
+      {"", "", "00000000", "", 1},
+      {"testo", "parola", "05000000746573746f", "7061726f6c61", 1},
+      {std::string(28, '0'), "p", "1c000000" + toHex(runtime::Bytes(28, std::byte{'0'})), "70", 1},
+      {std::string(29, '0'), "p", "1d000000" + toHex(runtime::Bytes(29, std::byte{'0'})), "70", 2},
+      {std::string(300, '0'), std::string(40, 'p'), "2c010000" + toHex(runtime::Bytes(300, std::byte{'0'})),
+       toHex(runtime::Bytes(32, std::byte{'p'})), 10},
+      {"è€Š", "€", "03000000e8ac60", "ac", 1},
   };
   for (const auto& test : cases) {
-    const std::string digits = utils.AESEncyptString(test.text, test.password);
-    EXPECT_EQ(digits, enciphered(test.message, test.key)) << test.text;
-    EXPECT_EQ(digits.size(), test.digits) << test.text;
+    runtime::Bytes blocks = fromHex(test.message);
+    blocks.resize(32 * test.blocks);
+    EXPECT_EQ(utils.AESEncyptString(test.text, test.password), enciphered(blocks, fromHex(test.key)))
+        << test.text;
   }
-  const std::string blocks = utils.AESEncyptString(std::string(92, 'x'), "p");
-  EXPECT_EQ(blocks.substr(64, 64), blocks.substr(128)) << "blocks stand alone";
 }
 
-TEST(AesText, ComesBackThroughTheCodePage) {
+TEST(AesText, ComesBackThroughTheCodePageOrIsEmpty) {
   EncUtils utils;
-  const struct {
-    std::string text, back;
-  } cases[] = {{"", ""},       {"Forlì, perché", "Forlì, perché"},
-               {"€", "¬"},     {"\u0080\u0092", "€’"},
-               {"ÿ_x", "ÿ_x"}, {std::string(1000, 'q'), std::string(1000, 'q')},
-               {"Š", "`"}};
-  for (const auto& test : cases) {
-    const std::string digits = utils.AESEncyptString(test.text, "chiave");
-    EXPECT_EQ(utils.AESDecyptString(digits, "chiave"), test.back);
-    EXPECT_EQ(utils.AESDecyptString(runtime::upperCase(digits), "chiave"), test.back);
-  }
-  EXPECT_EQ(
-      utils.AESDecyptString(utils.AESEncyptString("x", std::string(32, 'p') + "1"), std::string(32, 'p')),
-      "x");
-  EXPECT_EQ(utils.AESDecyptString(utils.AESEncyptString("x", "€"), "¬"), "x");
-}
-
-TEST(AesText, IsEmptyWhereNothingCanBeDeciphered) {
-  EncUtils utils;
-  const std::string digits = utils.AESEncyptString("testo", "giusta");
-  const struct {
-    std::string digits, password, expected;
-  } cases[] = {
-      {digits, "sbagliata", ""},
-      {digits.substr(0, 62), "giusta", ""},
-      {digits + "00", "giusta", ""},
-      {"", "giusta", ""},
-      {digits + "f", "giusta", "testo"},
-      {"zz" + digits.substr(2), "giusta", "error 13"},
-      {"è0" + digits.substr(2), "giusta", "error 13"},
-  };
-  for (const auto& test : cases)
-    EXPECT_EQ(support::shown([&] { return utils.AESDecyptString(test.digits, test.password); }),
-              test.expected);
+  support::CaseFile(CASES "/aes.cases").expectResults([&](const support::Case& each) {
+    const auto fields = support::fieldsOf(each.statement);
+    std::string digits = utils.AESEncyptString(fields.at(0), fields.at(1));
+    if (each.one("cut") != "") digits.resize(std::stoul(each.one("cut")));
+    digits = each.one("before") + digits.substr(std::stoul(each.one("from", "0"))) + each.one("behind");
+    const auto back = [&] { return utils.AESDecyptString(digits, each.one("key", fields[1].c_str())); };
+    const std::string text = support::shown(back);
+    digits = runtime::upperCase(digits);
+    EXPECT_EQ(support::shown(back), text);
+    return text;
+  });
+  EXPECT_EQ(utils.AESDecyptString("", "x"), "");
   EXPECT_EQ(EncUtils::StringToPairArray("1fÀ05"), (std::vector<std::string>{"&h1f", "&hÀ0"}));
 }
 
@@ -102,16 +77,15 @@ TEST(AesArrays, GiveNothingForNothing) {
 
 TEST(AesArrays, BelieveTheLengthWithinOnlyIfItFits) {
   const struct {
-    plain::Bytes length;
+    const char* length;
     int bytes;
-  } cases[] = {{{28, 0, 0, 0}, 28}, {{29, 0, 0, 0}, -1},   {{0, 0, 0, 0}, 0},
-               {{0, 1, 0, 0}, -1},  {{1, 0, 0, 0x80}, -1}, {{255, 255, 255, 255}, -1}};
+  } cases[] = {{"1c000000", 28}, {"1d000000", -1}, {"00000000", 0},
+               {"00010000", -1}, {"01000080", -1}, {"ffffffff", -1}};
   for (const auto& test : cases) {
-    plain::Bytes block(32, 7);
-    std::copy(test.length.begin(), test.length.end(), block.begin());
-    const ByteArray message =
-        EncUtils().AESDecrypt(bytes(plain::encrypted(block, plain::Bytes(32))), runtime::Bytes());
-    EXPECT_EQ(message ? static_cast<int>(message->size()) : -1, test.bytes) << toHex(test.length);
+    runtime::Bytes block = fromHex(test.length);
+    block.resize(32, std::byte{7});
+    const ByteArray message = EncUtils().AESDecrypt(fromHex(enciphered(block, {})), runtime::Bytes());
+    EXPECT_EQ(message ? static_cast<int>(message->size()) : -1, test.bytes) << test.length;
     for (const std::byte byte : message.value_or(runtime::Bytes())) EXPECT_EQ(byte, std::byte{7});
   }
 }

@@ -22,8 +22,10 @@ TEST(Digests, AreThePublishedOnes) {
 
 /// The bytes of the code page that RC4 gives, from `from` on.
 std::string stream(EncUtils& utils, const std::string& text, const std::string& key, std::size_t from = 0) {
-  const std::string bytes = platform::toCodePage1252(utils.RC4(text, key)).substr(from);
-  return toHex({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
+  runtime::Bytes bytes;
+  for (const char byte : platform::toCodePage1252(utils.RC4(text, key)).substr(from))
+    bytes.push_back(static_cast<std::byte>(byte));
+  return toHex(bytes);
 }
 
 TEST(Rc4, GivesThePublishedStreams) {

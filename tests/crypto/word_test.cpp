@@ -22,36 +22,28 @@ std::uint32_t bits(const Fields& fields) {
 TEST(Words, CalculateWithThirtyTwoBits) {
   const auto word = [](const std::string& digits) { return E::HexToWord(digits); };
   const auto number = [](double value) { return runtime::Variant(value).toText(); };
+  // clang-format off
   const std::map<std::string, std::function<std::string(const Fields&)>> functions = {
-      {"AndW", [&](const Fields& f) { return E::WordToHex(E::AndW(word(f[1]), word(f[2]))); }},
-      {"OrW", [&](const Fields& f) { return E::WordToHex(E::OrW(word(f[1]), word(f[2]))); }},
-      {"XorW", [&](const Fields& f) { return E::WordToHex(E::XorW(word(f[1]), word(f[2]))); }},
-      {"NotW", [&](const Fields& f) { return E::WordToHex(E::NotW(word(f[1]))); }},
-      {"AddW", [&](const Fields& f) { return E::WordToHex(E::AddW(word(f[1]), word(f[2]))); }},
-      {"CircShiftLeftW",
-       [&](const Fields& f) { return E::WordToHex(E::CircShiftLeftW(word(f[1]), std::stoi(f[2]))); }},
-      {"HexToWord", [&](const Fields& f) { return E::WordToHex(word(f[1])); }},
-      {"DoubleToWord", [&](const Fields& f) { return E::WordToHex(E::DoubleToWord(std::stod(f[1]))); }},
-      {"WordToDouble", [&](const Fields& f) { return number(E::WordToDouble(word(f[1]))); }},
+      {"AndW", [&](auto& f) { return E::WordToHex(E::AndW(word(f[1]), word(f[2]))); }},
+      {"OrW", [&](auto& f) { return E::WordToHex(E::OrW(word(f[1]), word(f[2]))); }},
+      {"XorW", [&](auto& f) { return E::WordToHex(E::XorW(word(f[1]), word(f[2]))); }},
+      {"NotW", [&](auto& f) { return E::WordToHex(E::NotW(word(f[1]))); }},
+      {"AddW", [&](auto& f) { return E::WordToHex(E::AddW(word(f[1]), word(f[2]))); }},
+      {"CircShiftLeftW", [&](auto& f) { return E::WordToHex(E::CircShiftLeftW(word(f[1]), std::stoi(f[2]))); }},
+      {"HexToWord", [&](auto& f) { return E::WordToHex(word(f[1])); }},
+      {"DoubleToWord", [&](auto& f) { return E::WordToHex(E::DoubleToWord(std::stod(f[1]))); }},
+      {"WordToDouble", [&](auto& f) { return number(E::WordToDouble(word(f[1]))); }},
       // The rounds up to 79 are those of the digests.
-      {"f",
-       [&](const Fields& f) {
-         return E::WordToHex(E::f(std::stoi(f[1]), word(f[2]), word(f[3]), word(f[4])));
-       }},
-      {"shift word left",
-       [](const Fields& f) { return std::to_string(shiftLeft(bits(f), std::stoi(f[2]))); }},
-      {"shift word right",
-       [](const Fields& f) { return std::to_string(shiftRight(bits(f), std::stoi(f[2]))); }},
-      {"shift byte left",
-       [](const Fields& f) {
-         return std::to_string(shiftLeft(static_cast<std::uint8_t>(bits(f)), std::stoi(f[2])));
-       }},
-      {"shift byte right",
-       [](const Fields& f) {
-         return std::to_string(shiftRight(static_cast<std::uint8_t>(bits(f)), std::stoi(f[2])));
-       }},
-      {"DMod", [&](const Fields& f) { return number(E::DMod(std::stod(f[1]), std::stod(f[2]))); }},
+      {"f", [&](auto& f) { return E::WordToHex(E::f(std::stoi(f[1]), word(f[2]), word(f[3]), word(f[4]))); }},
+      {"shift word left", [](auto& f) { return std::to_string(shiftLeft(bits(f), std::stoi(f[2]))); }},
+      {"shift word right", [](auto& f) { return std::to_string(shiftRight(bits(f), std::stoi(f[2]))); }},
+      {"shift byte left", [](auto& f) {
+         return std::to_string(shiftLeft(static_cast<std::uint8_t>(bits(f)), std::stoi(f[2]))); }},
+      {"shift byte right", [](auto& f) {
+         return std::to_string(shiftRight(static_cast<std::uint8_t>(bits(f)), std::stoi(f[2]))); }},
+      {"DMod", [&](auto& f) { return number(E::DMod(std::stod(f[1]), std::stod(f[2]))); }},
   };
+  // clang-format on
   support::CaseFile(CASES "/words.cases").expectResults([&](const support::Case& each) {
     const Fields fields = support::fieldsOf(each.statement);
     return support::shown([&] { return functions.at(fields[0])(fields); });

@@ -4,10 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <sstream>
 
-#include "patch.h"
+#include "computer.h"
+#include "support/case_file.h"
 #include "support/command.h"
 
 namespace {
@@ -15,101 +15,60 @@ namespace {
 using patch::Computer;
 using support::runCommand;
 using support::shellWord;
-using testing::HasSubstr;
-using testing::StartsWith;
 
-support::CommandResult patchWith(const Computer& computer, const std::string& program,
-                                 const std::string& folder) {
-  return runCommand(shellWord(program) + " --patch " + shellWord(computer.folder.systemPath(folder)) +
-                    " --settings " + shellWord(computer.folder.systemPath("impostazioni.ini")) +
-                    " --program-dir " + shellWord(computer.folder.systemPath("programma")));
+support::CommandResult patchWith(const Computer& computer, const std::string& program) {
+  return runCommand(shellWord(program) + " --patch " + shellWord(computer.system("patch")) + " --settings " +
+                    shellWord(computer.system("impostazioni.ini")) + " --program-dir " +
+                    shellWord(computer.system("programma")));
 }
 
-TEST(Batch, ReportsOnTheOutputAndTellsByItsStatusWhetherAllWentWell) {
-  const struct {
-    const char* name;
-    std::string list;
-    int status;
-    std::string output;  // %: the folder of the database
-    const char* errors;
-  } cases[] = {
-      {"good", "Norvo-PRG=albo\r\nNorvoDB-SOST=a\r\nTop-LBL=x", 0,
-       "Sostituisco 'a'\n in '%'...fatto.\n\nFile Sostituiti 1\nAggiornamento terminato, puoi uscire.\n", ""},
-      {"empty", "", 0, "Aggiornamento terminato, puoi uscire.\n", ""},
-      {"too many rows",
-       [] {
-         std::string rows;
-         for (int i = 0; i <= 300; ++i) rows += "Windows-SOST=a\n";
-         return rows;
-       }(),
-       2, "", "PatchList.txt non è compilato correttamente"},
-  };
-  for (const auto& test : cases) {
-    SCOPED_TRACE(test.name);
+TEST(Batch, TellsWhatItDoesAndWhetherAllWentWell) {
+  support::CaseFile(CASES "/batch.cases").expectResults([](const support::Case& each) {
     Computer computer;
-    computer.list(test.list);
+    const std::string row = support::fieldsOf(each.statement)[0] + "\n";
+    std::string list = row;
+    for (int times = std::stoi(each.one("times", "1")); times > 1; --times) list += row;
+    if (row != "none\n") computer.list(list);
     computer.write("patch\\a", "nuovo");
-    const auto result = patchWith(computer, AGGNORVO, "patch");
-    EXPECT_EQ(result.status, test.status);
-    std::string output = test.output;
-    if (const auto place = output.find('%'); place != std::string::npos)
-      output.replace(place, 1, computer.path("norvo\\db\\"));
-    EXPECT_EQ(result.output, output);
-    EXPECT_THAT(result.errors, *test.errors ? HasSubstr(test.errors) : testing::Matcher<std::string>(""));
-  }
-}
-
-TEST(Batch, FailsWhereAFileCanNotBeCopiedOrTheDirectoriesCanNotBeFound) {
-  Computer computer;
-  computer.list("Norvo-PRG=albo\nNorvoDB-SOST=manca\n");
-  std::ostringstream out, err;
-  EXPECT_EQ(patcher::runPatch(computer.path("patch"), out, err), patcher::PatchErrors);
-  EXPECT_THAT(out.str(), HasSubstr("...ERRORE!!!\n\nERRORI 1\n\nAggiornamento"));
-  EXPECT_EQ(err.str(), "");
-
-  computer.writeComputerFile(
-      "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\albo.exe]\n");
-  out.str("");
-  EXPECT_EQ(patcher::runPatch(computer.path("patch"), out, err), patcher::PatchErrors);
-  EXPECT_EQ(out.str(), "") << "nothing is copied to directories that were not found";
-  EXPECT_THAT(err.str(),
-              HasSubstr("[avviso] AggNorvo: GetPaths / Errore nel setting dei percorsi / Errore N° 1001"));
-}
-
-TEST(Batch, TellsOfAListThatIsNotThereEvenWhereNothingCanBeLogged) {
-  for (const bool logged : {true, false}) {
-    Computer computer;
-    if (!logged) std::filesystem::remove(computer.folder.systemPath("programma"));
-    const auto result = patchWith(computer, AGGNORVO, "manca");
-    EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.output, "");
-    EXPECT_THAT(result.errors, HasSubstr("Elenco della patch non leggibile: " +
-                                         computer.folder.systemPath("manca/PatchList.txt")));
-    EXPECT_EQ(computer.has("programma\\error.log"), logged);
-  }
+    computer.writeComputerFile(each.one("computer"));
+    for (const std::string& name : each.all("no folder")) std::filesystem::remove_all(computer.system(name));
+    for (const std::string& name : each.all("folder"))
+      std::filesystem::create_directory(computer.system(name));
+    std::ostringstream out, err;
+    const int status = patcher::runPatch(computer.path("patch"), out, err);
+    std::string told = std::to_string(status);
+    for (const char letter : " | " + out.str() + (err.str().empty() ? "" : " | " + err.str()))
+      told += letter == '\n' ? "\r\n" : std::string(1, letter);
+    return computer.shown(told +
+                          (platform::fileExists(computer.path("programma\\error.log")) ? " | logged" : ""));
+  });
 }
 
 TEST(RunningProgram, ReplacesItselfAndRunsOn) {
   Computer computer;
-  const std::string program = computer.folder.systemPath("norvo\\bin\\aggnorvo");
+  const std::string program = computer.system("norvo\\bin\\aggnorvo");
   std::filesystem::copy_file(AGGNORVO, program);
   computer.write("patch\\aggnorvo", "#!/bin/sh\necho versione nuova\n");
-  std::filesystem::permissions(computer.folder.systemPath("patch\\aggnorvo"), std::filesystem::perms(0755));
+  std::filesystem::permissions(computer.system("patch\\aggnorvo"), std::filesystem::perms(0755));
   computer.write("patch\\dopo", "x");
+  // The database lies beside the program, and the settings name it through a link.
+  std::filesystem::create_directory_symlink(computer.system("norvo/bin"), computer.system("legame"));
   computer.write("impostazioni.ini",
-                 "[altro\\DBSECTION]\ndbpath = " + computer.path("norvo\\bin\\altro.mdb") + "\n");
+                 "[altro\\DBSECTION]\ndbpath = " + computer.path("legame\\altro.mdb") + "\n");
+  const auto without = patchWith(computer, program);
+  EXPECT_EQ(without.status, 2);
+  EXPECT_EQ(without.output, "");
+  EXPECT_THAT(without.errors, testing::HasSubstr("Elenco della patch non leggibile: "));
   computer.list("Norvo-PRG=altro\nNorvoDB-SOST=aggnorvo\nNorvoDB-SOST=dopo");
-  const auto result = patchWith(computer, program, "patch");
+  const auto result = patchWith(computer, program);
   EXPECT_EQ(result.status, 0) << result.errors;
-  EXPECT_THAT(result.output, HasSubstr("File Sostituiti 2\n"));
-  EXPECT_TRUE(computer.has("norvo\\bin\\dopo")) << "the row after its own replacement is carried out";
+  EXPECT_THAT(result.output, testing::HasSubstr("File Sostituiti 2\n"));
   EXPECT_EQ(runCommand(shellWord(program)).output, "versione nuova\n");
   std::string old;
-  for (const std::string& name : computer.names("norvo\\bin"))
-    if (name.starts_with("aggnorvo.")) old = name;
-  EXPECT_THAT(old, testing::MatchesRegex("aggnorvo\\.[0-9]+_[0-9]+"));
-  EXPECT_THAT(runCommand(shellWord(computer.folder.systemPath("norvo\\bin\\" + old)) + " --version").output,
-              StartsWith("aggnorvo 1."));
+  for (const auto& entry : std::filesystem::directory_iterator(computer.system("norvo/bin")))
+    if (entry.path().filename().string().starts_with("aggnorvo.")) old = entry.path().string();
+  EXPECT_THAT(old, testing::MatchesRegex(".*/aggnorvo\\.[0-9]+_[0-9]+"));
+  EXPECT_THAT(runCommand(shellWord(old) + " --version").output, testing::StartsWith("aggnorvo 1."));
 }
 
 }  // namespace

@@ -39,6 +39,8 @@ TEST(Disk, EveryFailureHasItsFaultNumberAndPath) {
   writeWholeFile(file, "x");
   ASSERT_EQ(::mkdir(folder.systemPath("sub").c_str(), 0777), 0);
   ASSERT_EQ(::mkfifo(folder.systemPath("pipe").c_str(), 0666), 0);
+  ASSERT_EQ(::symlink("none.mdb", folder.systemPath("link").c_str()), 0);
+  const std::string link = folder.path("link");
   const std::string farAway = folder.path("no\\where.mdb"), through = file + "\\b.mdb";
   const struct {
     const char* what;
@@ -59,6 +61,10 @@ TEST(Disk, EveryFailureHasItsFaultNumberAndPath) {
       {"replace folder", [&] { replaceFile(file, inside); }, DiskFault::IsFolder, 75, inside},
       {"replace with none", [&] { replaceFile(none, file); }, DiskFault::NotFound, 53, none},
       {"replace into no folder", [&] { replaceFile(file, farAway); }, DiskFault::PathNotFound, 76, farAway},
+      {"create over a file", [&] { createFile(file); }, DiskFault::Exists, 58, file},
+      {"create over a link to nothing", [&] { createFile(link); }, DiskFault::Exists, 58, link},
+      {"rename over a file", [&] { renameFile(folder.path("pipe"), file); }, DiskFault::Exists, 58, file},
+      {"rename none", [&] { renameFile(none, folder.path("new")); }, DiskFault::NotFound, 53, none},
       {"remove none", [&] { removeFile(none); }, DiskFault::NotFound, 53, none},
       {"remove folder", [&] { removeFile(inside); }, DiskFault::IsFolder, 75, inside},
       {"pipe", [&] { openFile(folder.path("pipe"), OpenMode::Read); }, DiskFault::AccessDenied, 75,

@@ -5,7 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <fstream>
+#include <functional>
+
 #include "support/child_process.h"
+#include "support/command.h"
 #include "support/disk_faults.h"
 #include "support/errors.h"
 #include "support/temp_folder.h"
@@ -32,7 +36,13 @@ class CopyFile : public testing::Test {
   void putOldTarget() { writeWholeFile(target_, old_); }
   void expectOldTargetAndNothingElse() {
     EXPECT_EQ(readWholeFile(target_), old_);
-    EXPECT_FALSE(fileExists(target_ + ".tmp"));
+    expectNothingElse();
+  }
+  /// No file but these two and what a test has put there.
+  void expectNothingElse(std::vector<std::string> others = {}) {
+    others.insert(others.end(), {"archivio.mdb", "nuovo.mdb"});
+    std::ranges::sort(others);
+    EXPECT_EQ(folder_.names(), others);
   }
   int errorOfCopy() {
     return support::errorOf([&] { copyFile(source_, target_); });
@@ -53,7 +63,7 @@ TEST_F(CopyFile, TakesContentAndDateAndKeepsTheTargetsPermissions) {
   struct stat info;
   ASSERT_EQ(::stat(folder_.systemPath("archivio.mdb").c_str(), &info), 0);
   EXPECT_EQ(info.st_mode & 0777u, 0664u);
-  EXPECT_FALSE(fileExists(target_ + ".tmp"));
+  expectNothingElse();
   File free = openFile(target_, OpenMode::Update);
   EXPECT_TRUE(free.tryLock(LockMode::Exclusive));
 }
@@ -99,7 +109,8 @@ TEST_F(CopyFile, AnyFaultAtAnyCallLeavesTheOldFileOrTheNewOne) {
         EXPECT_EQ(content == fresh_, afterRename) << "call " << n;
         EXPECT_EQ(content == old_, !afterRename) << "call " << n;
         if (duration == Faulty::Once) {
-          EXPECT_FALSE(fileExists(target_ + ".tmp")) << "call " << n;
+          SCOPED_TRACE(n);
+          expectNothingElse();
         }
         ASSERT_EQ(readWholeFile(source_), fresh_);
       }
@@ -148,11 +159,6 @@ TEST_F(CopyFile, AFileThatIsHeldElsewhereIsRefused) {
     EXPECT_EQ(errorOfCopy(), 0);
   }
   putOldTarget();
-  {
-    Replacement other(target_);  // another program saves the target right now
-    EXPECT_EQ(errorOfCopy(), 70);
-    EXPECT_TRUE(fileExists(target_ + ".tmp"));
-  }
   expectOldTargetAndNothingElse();
 }
 
@@ -175,7 +181,87 @@ TEST_F(CopyFile, OntoItselfOrWithoutSourceOrFolderIsRefused) {
     EXPECT_EQ(support::errorOf([&] { copyFile(test.from, test.to); }), test.error)
         << test.from << " " << test.to;
   EXPECT_EQ(readWholeFile(source_), fresh_);
+  EXPECT_EQ(readWholeFile(target_), old_);
+  expectNothingElse({"rinvio.mdb", "uguale.mdb"});
+}
+
+TEST_F(CopyFile, AFileThatComesToItsPlaceMeanwhileStays) {
+  const std::string free = folder_.path("libero.mdb");
+  support::AtFirst other(DiskOperation::Write, [&] { writeWholeFile(free, "d'altri"); });
+  {
+    ObservedDisk scope(other);
+    EXPECT_EQ(support::errorOf([&] { copyFile(source_, free); }), 58);
+  }
+  EXPECT_EQ(readWholeFile(free), "d'altri");
+  expectNothingElse({"libero.mdb"});
+}
+
+TEST_F(CopyFile, ASourceThatIsChangedInPlaceMeanwhileGivesNoMixture) {
+  // By a program that knows nothing of our lock, and puts the date back.
+  support::AtFirst other(DiskOperation::Write, [&] {
+    std::fstream(folder_.systemPath("nuovo.mdb"), std::ios::in | std::ios::out) << "altro";
+    setModified(source_, date_);
+  });
+  {
+    ObservedDisk scope(other);
+    EXPECT_EQ(errorOfCopy(), 70);
+  }
   expectOldTargetAndNothingElse();
+}
+
+/// What others have beside the file, and to what its name may lead.
+TEST_F(CopyFile, LeavesItsNeighboursAlone) {
+  const std::string neighbour = target_ + ".tmp", own = folder_.path("mio.txt");
+  const std::string system = folder_.systemPath("archivio.mdb.tmp"),
+                    systemOwn = folder_.systemPath("mio.txt");
+  const struct {
+    const char* name;
+    std::function<void()> put;
+  } cases[] = {
+      {"a file", [&] { writeWholeFile(neighbour, "prezioso"); }},
+      {"a symbolic link", [&] { ASSERT_EQ(::symlink("mio.txt", system.c_str()), 0); }},
+      {"a link to nothing", [&] { ASSERT_EQ(::symlink("manca.txt", system.c_str()), 0); }},
+      {"a hard link", [&] { ASSERT_EQ(::link(systemOwn.c_str(), system.c_str()), 0); }},
+      {"a folder", [&] { ASSERT_EQ(::mkdir(system.c_str(), 0777), 0); }},
+  };
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.name);
+    putOldTarget();
+    writeWholeFile(own, "prezioso");
+    test.put();
+    const auto kind = std::filesystem::symlink_status(system).type();
+    const std::string content = support::contentOf(system);
+    EXPECT_EQ(errorOfCopy(), 0);
+    EXPECT_EQ(readWholeFile(target_), fresh_);
+    EXPECT_EQ(std::filesystem::symlink_status(system).type(), kind);
+    EXPECT_EQ(support::contentOf(system), content);
+    EXPECT_EQ(readWholeFile(own), "prezioso");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder_.systemPath("archivio.mdb")));
+    expectNothingElse({"archivio.mdb.tmp", "mio.txt"});
+    std::filesystem::remove(system);
+  }
+}
+
+TEST_F(CopyFile, AnErrorOfTheTemporaryFileNamesIt) {
+  support::RecordCalls record;
+  {
+    ObservedDisk scope(record);
+    copyFile(source_, target_);
+  }
+  for (const auto& call : record.calls) {
+    if (call.operation != DiskOperation::Write && call.operation != DiskOperation::Create) continue;
+    putOldTarget();
+    support::FailNth observer(call.number, DiskFault::NoSpace);
+    ObservedDisk scope(observer);
+    try {
+      copyFile(source_, target_);
+      ADD_FAILURE();
+    } catch (const DiskError& error) {
+      EXPECT_NE(error.path(), target_);
+      EXPECT_TRUE(error.description().ends_with(": " + error.path())) << error.description();
+      EXPECT_EQ(folderOf(error.path()), folder_.path());
+    }
+  }
 }
 
 TEST_F(CopyFile, ThroughASymbolicLinkReplacesTheFileThatItNames) {
@@ -215,7 +301,7 @@ TEST(Replacement, FlushesTheFileBeforeTheRenameAndTheFolderAfterIt) {
   std::vector<DiskOperation> order;
   for (const auto& call : record.calls) order.push_back(call.operation);
   using enum DiskOperation;
-  EXPECT_EQ(order, (std::vector{Inspect, Create, Write, Flush, Replace, FlushFolder}));
+  EXPECT_EQ(order, (std::vector{Inspect, Inspect, Create, Write, Flush, Replace, FlushFolder}));
   EXPECT_EQ(record.calls.back().path, folder.path());
 }
 

@@ -90,6 +90,9 @@ TEST_F(Binding, MenuEntriesFollowTheirControls) {
   EXPECT_FALSE(entry->isEnabled());
   form.mnuFile.setVisible(false);
   EXPECT_FALSE(window->findChild<QAction*>("mnuFile")->isVisible());
+  auto* line = window->findChild<QAction*>("mnuFileSep1");
+  EXPECT_TRUE(line->isSeparator());
+  EXPECT_EQ(qt::fromQt(line->text()), "") << "some styles would show it";
 }
 
 TEST_F(Binding, DroppedFilesArriveAsPathsOfTheProduct) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTimer>
 #include <QWindow>
 
@@ -149,6 +150,8 @@ TEST_F(WindowTest, AFrameClosedDuringARunClosesAfterIt) {
     form.whileBusy([&] {
       QTimer::singleShot(0, window, &QWidget::close);
       for (int i = 0; i < 5; ++i) desktop.doEvents();
+      EXPECT_EQ(qt::fromQt(window->statusBar()->currentMessage()),
+                "La finestra si chiuderà al termine dell'operazione in corso.");
       form.append("ancora");
       aliveAtEnd = watched && watched->isVisible() && form.loaded();
     });
@@ -184,6 +187,7 @@ TEST_F(WindowTest, AModalFormIsWaitedForAndLaidOutWithoutALayoutOfItsOwn) {
     auto* modal = QApplication::activeModalWidget();
     ASSERT_TRUE(modal);
     shown = modal->findChild<QLabel*>("lblTop")->text();
+    EXPECT_EQ(modal->windowHandle()->transientParent(), window->windowHandle());
     modal->findChild<QPushButton*>("cmdEsci")->click();
   });
   patch.show(true);

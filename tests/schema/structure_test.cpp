@@ -282,7 +282,7 @@ void check(const Case& test) {
   const std::string plan = study.plan(test.application);
   const std::string expected = announced(test.summary);
   if (fails) {
-    EXPECT_THAT(plan, StartsWith("1\nErrore: " + test.file + "\n"));
+    EXPECT_THAT(plan, StartsWith("1\n" + expected + "Aggiornamento annullato: errore " + test.file + ": "));
   } else {
     EXPECT_EQ(plan, (expected.empty() ? "0\n" : "3\n") + expected);
   }

@@ -2,8 +2,10 @@
 
 #include <csignal>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/disk.h"
@@ -69,6 +71,21 @@ class FailNth : public platform::DiskObserver {
   platform::DiskFault fault_;
   Faulty duration_;
   std::optional<RecordedCall> hit_;
+};
+
+/// Does something behind the work's back, before the first call of a kind is carried out.
+class AtFirst : public platform::DiskObserver {
+ public:
+  AtFirst(platform::DiskOperation operation, std::function<void()> work)
+      : operation_(operation), work_(std::move(work)) {}
+  void before(const platform::DiskCall& call) override {
+    if (call.operation != operation_) return;
+    if (const auto work = std::exchange(work_, nullptr)) work();
+  }
+
+ private:
+  platform::DiskOperation operation_;
+  std::function<void()> work_;
 };
 
 /// Ends the process, as a power cut or a kill would, before call `nth` is carried out.

@@ -5,7 +5,7 @@
 
 namespace support {
 
-/// 16/11/2026 17:16:00, and a timer that moves only while somebody waits.
+/// 16/11/2026 17:16:00, and a timer; both move only while somebody waits.
 class FixedClock : public platform::Clock {
  public:
   FixedClock() : before_(platform::setClock(this)) {}
@@ -13,9 +13,13 @@ class FixedClock : public platform::Clock {
   FixedClock(const FixedClock&) = delete;
   FixedClock& operator=(const FixedClock&) = delete;
 
-  runtime::Date now() override { return runtime::dateFromParts(2026, 11, 16, 17, 16, 0); }
+  runtime::Date now() override {
+    const int second = waited_ / 1000;
+    return runtime::dateFromParts(2026, 11, 16, 17, 16 + second / 60, second % 60);
+  }
   float timer() override { return seconds; }
   void rest(int milliseconds) override {
+    waited_ += milliseconds;
     seconds += static_cast<float>(milliseconds) / 1000;
     if (seconds >= 86400) seconds -= 86400;
   }
@@ -24,6 +28,7 @@ class FixedClock : public platform::Clock {
 
  private:
   platform::Clock* before_;
+  int waited_ = 0;  // milliseconds
 };
 
 }  // namespace support

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "platform/paths.h"
 
@@ -32,6 +34,14 @@ class TempFolder {
   /// As the system takes it.
   std::string systemPath() const { return system_; }
   std::string systemPath(const std::string& name) const { return platform::toSystemPath(path(name)); }
+  /// What lies in it, in order.
+  std::vector<std::string> names() const {
+    std::vector<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(system_))
+      found.push_back(entry.path().filename().string());
+    std::sort(found.begin(), found.end());
+    return found;
+  }
 
  private:
   std::string system_;

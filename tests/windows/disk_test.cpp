@@ -116,8 +116,7 @@ TEST_F(WindowsDisk, CopiesAreReplacedWholeWithTheirDateAndLeaveNothingBehind) {
     copyFile(fresh_, path_);
     EXPECT_EQ(readWholeFile(path_), content);
     EXPECT_EQ(inspectFile(path_)->modifiedUnixNanoseconds, 1'234'567'890'000'000'000);
-    EXPECT_FALSE(inspectFile(path_ + ".tmp"));
-    EXPECT_FALSE(inspectFile(path_ + ".precedente"));
+    EXPECT_EQ(folder_.names().size(), 2u);
   }
 }
 
@@ -134,10 +133,23 @@ TEST_F(WindowsDisk, APublishedReplacementStaysOpenUnderItsNameWithItsLock) {
   EXPECT_FALSE(other.tryLock(LockMode::Exclusive));
 }
 
+TEST_F(WindowsDisk, NeighboursOfAReplacedFileStay) {
+  writeWholeFile(path_, "vecchio");
+  writeWholeFile(fresh_, "nuovo");
+  for (const char* neighbour : {".tmp", ".precedente"}) writeWholeFile(path_ + neighbour, neighbour);
+  copyFile(fresh_, path_);
+  EXPECT_EQ(readWholeFile(path_), "nuovo");
+  for (const char* neighbour : {".tmp", ".precedente"})
+    EXPECT_EQ(readWholeFile(path_ + neighbour), neighbour);
+  EXPECT_EQ(folder_.names().size(), 4u);
+  EXPECT_EQ(errorOf([&] { createFile(path_); }), 58);
+  EXPECT_EQ(errorOf([&] { renameFile(fresh_, path_); }), 58);
+}
+
 TEST_F(WindowsDisk, AnUnpublishedReplacementIsRemoved) {
   writeWholeFile(path_, "vecchio");
   { Replacement replacement(path_); }
-  EXPECT_FALSE(inspectFile(path_ + ".tmp"));
+  EXPECT_EQ(folder_.names().size(), 1u);
   EXPECT_EQ(readWholeFile(path_), "vecchio");
 }
 

@@ -43,9 +43,17 @@ int openWindow(int argc, char** argv) {
   }
 }
 
+/// All of them write; what nobody would read is not begun.
+int runCommand(aggnorvo::Command& command, const console::ProgramOptions& program) {
+  if (platform::hasStandardOutput()) return command.run(program);
+  std::cerr << "aggnorvo: lo standard output è chiuso\n";
+  return console::Refused;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   CLI::App app(description, "aggnorvo");
   apps::speakItalian(app);
@@ -54,12 +62,12 @@ int main(int argc, char** argv) {
   aggnorvo::addProgramOptions(app, program);
   const auto commands = aggnorvo::commands();
   const auto choices = addCommands(app, commands);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return apps::answer(app, error);
+  if (const auto status = apps::parse(app, argc, argv)) return *status;
+  if (const std::string missing = console::missingOf(program); !missing.empty()) {
+    std::cerr << "aggnorvo: " << missing << "\n";
+    return console::Refused;
   }
   for (std::size_t command = 0; command < commands.size(); ++command)
-    if (choices[command]->count() > 0) return commands[command]->run(program);
+    if (choices[command]->count() > 0) return runCommand(*commands[command], program);
   return openWindow(argc, argv);
 }

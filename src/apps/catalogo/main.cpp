@@ -42,15 +42,12 @@ void declare(CLI::App& app, catalogo::Request& request) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   CLI::App app(description, "aggnorvo-catalogo");
   apps::speakItalian(app);
   catalogo::Request request;
   declare(app, request);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return apps::answer(app, error);
-  }
+  if (const auto status = apps::parse(app, argc, argv)) return *status;
   return catalogo::run(request, std::cout, std::cerr);
 }

@@ -42,9 +42,10 @@ int run(const Request& request, std::ostream& summary, std::ostream& errors) {
     made = request.create;
     workspace.BeginTrans();
     const std::string text = write(*reference, *model, request);
+    if (!(summary << text << std::flush))
+      throw runtime::Error(runtime::DeviceIoError, "aggnorvo-catalogo", "Il riepilogo non si può scrivere");
     reference->Close();
     workspace.CommitTrans();
-    summary << text;
     return 0;
   } catch (const runtime::Error& error) {
     errors << "aggnorvo-catalogo: errore " << error.number() << ": " << error.description() << "\n";

@@ -3,6 +3,8 @@
 #include <istream>
 #include <string>
 
+#include "runtime/error.h"
+
 namespace jetsql {
 
 /// Where a script's lines come from.
@@ -22,7 +24,10 @@ class StreamLines : public Lines {
  public:
   explicit StreamLines(std::istream& stream) : stream_(stream) {}
   Reading read(std::string& line, bool) override {
-    return std::getline(stream_, line) ? Reading::Line : Reading::End;
+    if (std::getline(stream_, line)) return Reading::Line;
+    // Half a script must not pass for a whole one.
+    if (stream_.bad()) throw runtime::Error(runtime::DeviceIoError, "jetsql", "Lo script non si può leggere");
+    return Reading::End;
   }
 
  private:

@@ -40,17 +40,14 @@ void declare(CLI::App& app, jetsql::Request& request) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::holdStandardStreams();
   platform::keepRunningOnWriteSignals();
   std::ios::sync_with_stdio(false);
   CLI::App app(description, "jetsql");
   apps::speakItalian(app);
   jetsql::Request request;
   declare(app, request);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return apps::answer(app, error);
-  }
+  if (const auto status = apps::parse(app, argc, argv)) return *status;
   if (!request.statements.empty() || !jetsql::atTerminal())
     return jetsql::runSession(request, std::cin, std::cout, std::cerr);
   const auto lines =

@@ -20,16 +20,18 @@ std::unique_ptr<file::PageFile> openPages(const std::string& path, bool exclusiv
                                           readOnly);
 }
 
-/// Runs `work` on a file that comes into being at `path` whole or not at all.
+/// Runs `work` on a file that comes into being at `path` whole or not at all, for those who may use the one
+/// at `model`.
 template <typename Work>
-platform::File makeFile(const std::string& path, Work work) {
+platform::File makeFile(const std::string& path, Work work, const std::string& model = {}) {
   try {
-    if (platform::inspectFile(path)) throw runtime::Error(3204, Source, "Il database esiste già: " + path);
-    platform::Replacement replacement(path);
+    if (platform::inspectFile(path))
+      throw file::jetError(file::DatabaseExists, "Il database esiste già: " + path);
+    platform::Replacement replacement(path, model);
     work(replacement.file());
     return replacement.publish(platform::LockMode::Exclusive);
   } catch (const platform::DiskError& error) {
-    throw file::fromDisk(error, path);
+    throw file::fromDisk(error);
   }
 }
 
@@ -103,6 +105,11 @@ DatabasePtr Workspace::OpenDatabase(const std::string& path, bool exclusive, boo
   return state_->add(openPages(path, exclusive, readOnly));
 }
 
+DatabasePtr Workspace::OpenForTrial(const std::string& path) {
+  file::PageFile read(path, file::Sharing::Shared, true);
+  return state_->add(std::make_unique<file::PageFile>(std::move(read.file()), file::Sharing::Shared, false));
+}
+
 DatabasePtr Workspace::CreateDatabase(const std::string& path) {
   auto made = makeFile(path, [](platform::File& out) { file::writeEmptyDatabase(out); });
   return state_->add(std::make_unique<file::PageFile>(std::move(made), file::Sharing::Exclusive, false));
@@ -161,7 +168,11 @@ DatabasePtr DBEngine::OpenDatabase(const std::string& path, bool exclusive, bool
 
 void DBEngine::CompactDatabase(const std::string& source, const std::string& destination) {
   const file::PageFile old(source, file::Sharing::Exclusive, true);
-  makeFile(destination, [&](platform::File& out) { file::writeCompacted(old, out); });
+  const auto compact = [&](platform::File& out) {
+    file::writeCompacted(old, out);
+    old.requireUnchanged();
+  };
+  makeFile(destination, compact, source);
 }
 
 }  // namespace jet::dao

@@ -18,6 +18,9 @@ class Workspace {
 
   /// Errors as jet::file::PageFile; `exclusive` keeps every other opener out, also in other processes.
   DatabasePtr OpenDatabase(const std::string& path, bool exclusive = false, bool readOnly = false);
+  /// A database to try changes on, that is never to be saved: its file is opened for reading alone, so that
+  /// one that can't be written will do.
+  DatabasePtr OpenForTrial(const std::string& path);
   /// A new, empty Jet 4 database, open exclusively. Error 3204 if the file is there.
   DatabasePtr CreateDatabase(const std::string& path);
 

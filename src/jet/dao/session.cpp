@@ -32,18 +32,21 @@ void Session::save() {
   try {
     image_->rebase(std::make_unique<file::PageFile>(publish(), sharing_, readOnly_));
   } catch (const platform::DiskError& error) {
-    throw file::fromDisk(error, path_);
+    throw file::fromDisk(error);
   }
 }
 
 platform::File Session::publish() {
   const bool shared = sharing_ == file::Sharing::Shared;
-  auto& old = image_->source().file();
-  if (shared && !old.tryLock(platform::LockMode::Exclusive)) throw file::heldElsewhere(path_);
-  if (!old.isStillAt(path_))
-    throw runtime::Error(3197, Source, "Il database è stato modificato da un altro utente: " + path_);
+  file::PageFile& old = image_->source();
+  if (shared && !old.file().tryLock(platform::LockMode::Exclusive)) throw file::heldElsewhere(path_);
+  old.requireReplaceable();
   platform::Replacement replacement(path_);
   image_->write(replacement.file());
+  // A program that knows nothing of our lock may have written while the pages were carried over; once more
+  // when the slow part is done.
+  replacement.file().flush();
+  old.requireReplaceable();
   auto written = replacement.publish(platform::LockMode::Exclusive);
   if (shared && !written.tryLock(platform::LockMode::Shared)) throw file::heldElsewhere(path_);
   return written;

@@ -22,7 +22,8 @@ class Session {
 
   /// Writes the file anew if anything changed and goes on over it. On error the old file is as it was, or,
   /// where only the flush of its folder failed, the new one is there already. Error 3356 while another opener
-  /// shares the file, 3197 if it was replaced meanwhile.
+  /// shares the file, 3197 if it was changed or replaced meanwhile, 3051 if its rights can't be kept or it
+  /// has hard links.
   void save();
   /// Lets go of the file; what is not saved is lost.
   void release();

@@ -9,6 +9,7 @@
 #include "jet/image/row_codec.h"
 #include "jet/sql/decimal.h"
 #include "runtime/error.h"
+#include "runtime/numbers.h"
 
 namespace jet::dao {
 
@@ -119,7 +120,7 @@ void bindTyped(image::Statement& statement, int parameter, const Variant& value,
     case Type::Currency:
       return statement.bind(parameter, value.toCurrency().tenThousandths);
     case Type::Single:
-      sqlite3_bind_double(statement.handle(), parameter, static_cast<float>(value.toDouble()));
+      sqlite3_bind_double(statement.handle(), parameter, runtime::toSingle(value.toDouble()));
       return;
     case Type::Double:
       sqlite3_bind_double(statement.handle(), parameter, value.toDouble());

@@ -17,7 +17,10 @@ constexpr Mapping Mappings[] = {
     {platform::DiskFault::IsFolder, CannotOpen, "È una cartella e non un file"},
     {platform::DiskFault::Sharing, OpenedElsewhere, "Il file è in uso"},
     {platform::DiskFault::NoSpace, NotEnoughSpace, "Spazio su disco insufficiente"},
+    {platform::DiskFault::Exists, DatabaseExists, "Il database esiste già:"},
     {platform::DiskFault::Io, DiskFailure, "Errore di disco o di rete"},
+    {platform::DiskFault::Rights, CannotOpen,
+     "Proprietario, permessi o attributi non si possono conservare per il file"},
 };
 
 }  // namespace
@@ -30,10 +33,10 @@ runtime::Error damagedFile(const std::string& what) {
   return jetError(UnrecognizedFormat, "Formato di database non riconosciuto: " + what);
 }
 
-runtime::Error fromDisk(const platform::DiskError& error, const std::string& path) {
+runtime::Error fromDisk(const platform::DiskError& error) {
   for (const Mapping& mapping : Mappings)
     if (mapping.fault == error.fault())
-      return jetError(mapping.number, std::string(mapping.text) + " \"" + path + "\"");
+      return jetError(mapping.number, std::string(mapping.text) + " \"" + error.path() + "\"");
   return jetError(DiskFailure, error.description());
 }
 

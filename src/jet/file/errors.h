@@ -21,6 +21,8 @@ enum JetErrorNumber : int {
   RecordTooLarge = 3047,
   CannotOpen = 3051,
   NullInIndex = 3058,
+  ChangedElsewhere = 3197,
+  DatabaseExists = 3204,
   UnrecognizedFormat = 3343,  // not a database, or a damaged one
   OpenedElsewhere = 3356,
 };
@@ -30,8 +32,8 @@ runtime::Error jetError(JetErrorNumber number, const std::string& description);
 /// Error 3343 for damage: `what` says where and what.
 runtime::Error damagedFile(const std::string& what);
 
-/// The engine's error for a failed disk call; names the path.
-runtime::Error fromDisk(const platform::DiskError& error, const std::string& path);
+/// The engine's error for a failed disk call; names the path of that call.
+runtime::Error fromDisk(const platform::DiskError& error);
 
 /// Error 3356 for a file that another process holds; names the holder where the system tells.
 runtime::Error heldElsewhere(const std::string& path);

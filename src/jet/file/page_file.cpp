@@ -54,7 +54,7 @@ PageFile::PageFile(const std::string& path, Sharing sharing, bool readOnly)
   try {
     file_ = openLocked(path, sharing, readOnly);
   } catch (const platform::DiskError& error) {
-    throw fromDisk(error, path);
+    throw fromDisk(error);
   }
   checkHeader();
 }
@@ -74,10 +74,11 @@ void PageFile::checkHeader() {
   std::uint64_t size = 0;
   std::vector<std::byte> start(Jet3.pageSize);
   try {
-    size = file_.size();
+    state_ = file_.state();
+    size = state_.size;
     start.resize(file_.readAt(0, start));
   } catch (const platform::DiskError& error) {
-    throw fromDisk(error, path_);
+    throw fromDisk(error);
   }
   header_ = readHeader(start, path_);
   const std::uint64_t pages = size / format().pageSize;
@@ -93,12 +94,27 @@ void PageFile::checkHeader() {
                    "Il database \"" + path_ + "\" è di una versione precedente e si apre in sola lettura");
 }
 
+void PageFile::requireUnchanged() const try {
+  if (!file_.isStillAt(path_) || file_.state() != state_)
+    throw jetError(ChangedElsewhere, "Il database è stato modificato da un altro utente: " + path_);
+} catch (const platform::DiskError& error) {
+  throw fromDisk(error);
+}
+
+void PageFile::requireReplaceable() const {
+  requireUnchanged();
+  if (state_.names > 1)
+    throw jetError(CannotOpen,
+                   "Il file \"" + path_ +
+                       "\" ha altri nomi (collegamenti fisici), che resterebbero al contenuto di prima");
+}
+
 void PageFile::read(std::uint32_t first, std::span<std::byte> out) const {
   std::size_t got = 0;
   try {
     got = file_.readAt(static_cast<std::uint64_t>(first) * format().pageSize, out);
   } catch (const platform::DiskError& error) {
-    throw fromDisk(error, path_);
+    throw fromDisk(error);
   }
   if (got < out.size())
     throw damagedFile("\"" + path_ + "\" finisce prima della pagina " +

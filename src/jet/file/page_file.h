@@ -69,6 +69,11 @@ class PageFile {
 
   const std::string& path() const { return path_; }
   platform::File& file() { return file_; }
+  /// Error 3197 if the file was changed or replaced since it was opened: what was read is a mixture then.
+  void requireUnchanged() const;
+  /// The same before another file takes its place; 3051 if it has further names (hard links), under which the
+  /// old content would live on.
+  void requireReplaceable() const;
   bool readOnly() const { return readOnly_; }
   Sharing sharing() const { return sharing_; }
 
@@ -77,6 +82,7 @@ class PageFile {
 
   std::string path_;
   platform::File file_;
+  platform::FileState state_;  // when it was opened
   Sharing sharing_;
   bool readOnly_;
   Header header_;

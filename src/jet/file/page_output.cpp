@@ -30,7 +30,7 @@ void PageOutput::put(std::uint64_t offset, std::span<const std::byte> bytes) {
   try {
     file_.writeAt(offset, bytes);
   } catch (const platform::DiskError& error) {
-    throw fromDisk(error, file_.path());
+    throw fromDisk(error);
   }
 }
 
@@ -81,7 +81,7 @@ void PageOutput::finish(std::uint32_t pageCount) {
   try {
     file_.resize(static_cast<std::uint64_t>(pageCount) * Jet4.pageSize);
   } catch (const platform::DiskError& error) {
-    throw fromDisk(error, file_.path());
+    throw fromDisk(error);
   }
 }
 

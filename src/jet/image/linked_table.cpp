@@ -28,7 +28,7 @@ LinkedTable findLinked(const std::string& path, const std::string& table) try {
   }
   throw runtime::Error(3011, "DAO.TableDef", "Tabella \"" + table + "\" inesistente nel database " + path);
 } catch (const platform::DiskError& error) {
-  throw file::fromDisk(error, path);
+  throw file::fromDisk(error);
 }
 
 bool unchanged(const LinkedTable& known) try {

@@ -4,6 +4,7 @@
 
 #include "jet/file/text.h"
 #include "runtime/error.h"
+#include "runtime/numbers.h"
 
 namespace jet::image {
 
@@ -49,7 +50,7 @@ Bytes encoded(ColumnType type, const Variant& value) {
     case ColumnType::Currency:
       return raw(value.toCurrency().tenThousandths);
     case ColumnType::Single:
-      return raw(static_cast<float>(value.toDouble()));
+      return raw(runtime::toSingle(value.toDouble()));
     case ColumnType::Double:
       return raw(value.toDouble());
     case ColumnType::Date:

@@ -6,6 +6,7 @@
 #include "jet/image/decimal.h"
 #include "jet/sql/decimal.h"
 #include "jet/sql/function_support.h"
+#include "runtime/numbers.h"
 
 namespace jet::sql {
 
@@ -53,11 +54,6 @@ Variant readVariant(sqlite3_value* value) {
 std::string asText(const Variant& value) {
   if (value.kind() == Variant::Kind::Boolean) return value.toBoolean() ? "-1" : "0";
   return value.toText();
-}
-
-float asSingle(double value) {
-  if (std::abs(value) > std::numeric_limits<float>::max()) throw runtime::languageError(runtime::Overflow);
-  return static_cast<float>(value);
 }
 
 int hexDigit(char c) {
@@ -138,7 +134,7 @@ void returnValue(sqlite3_context* context, const Variant& value, Type type) {
     case Type::Currency:
       return sqlite3_result_int64(context, value.toCurrency().tenThousandths);
     case Type::Single:
-      return sqlite3_result_double(context, static_cast<double>(asSingle(value.toDouble())));
+      return sqlite3_result_double(context, static_cast<double>(runtime::toSingle(value.toDouble())));
     case Type::Date:
       return sqlite3_result_double(context, value.toDate().days);
     case Type::Decimal:

@@ -6,105 +6,20 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
-#include <mutex>
 
 #include "platform/disk_system.h"
 #include "platform/local_time.h"
 #include "platform/paths.h"
+#include "platform/posix/calls.h"
 
 namespace platform::system {
 
 namespace {
 
-/// A path as the system's calls take it. A NUL inside would end it early and name another file.
-std::string native(const std::string& path) {
-  if (path.find('\0') != std::string::npos) throw DiskError(DiskFault::PathNotFound, path.c_str());
-  return toSystemPath(path);
-}
-
-/// Repeats a system call as long as signals interrupt it.
-template <class Call>
-auto uninterrupted(Call call) {
-  for (;;) {
-    const auto result = call();
-    if (result >= 0 || errno != EINTR) return result;
-  }
-}
-
-DiskFault faultOf(int error, const std::string& path) {
-  switch (error) {
-    case ENOENT: {
-      struct stat folder;
-      const bool there =
-          ::stat(native(containingFolder(path)).c_str(), &folder) == 0 && S_ISDIR(folder.st_mode);
-      return there ? DiskFault::NotFound : DiskFault::PathNotFound;
-    }
-    case ENOTDIR:
-      return DiskFault::PathNotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return DiskFault::AccessDenied;
-    case EISDIR:
-      return DiskFault::IsFolder;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return DiskFault::NoSpace;
-    case EEXIST:
-      return DiskFault::Exists;
-    case ETXTBSY:
-    case EBUSY:
-    case EAGAIN:
-      return DiskFault::Sharing;
-    default:
-      return DiskFault::Io;
-  }
-}
-
-[[noreturn]] void fail(int error, const std::string& path) {
-  throw DiskError(faultOf(error, path), path);
-}
-
 int descriptor(NativeFile file) {
   return static_cast<int>(file);
-}
-
-/// Without this a write beyond the process's file size limit would kill it; ignored, it is an error like any
-/// other.
-void ignoreFileSizeSignal() {
-  static std::once_flag once;
-  std::call_once(once, [] {
-    struct sigaction now;
-    if (::sigaction(SIGXFSZ, nullptr, &now) == 0 && now.sa_handler == SIG_DFL) ::signal(SIGXFSZ, SIG_IGN);
-  });
-}
-
-/// An open descriptor until it is released to its owner.
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int number() const { return number_; }
-  NativeFile release() { return std::exchange(number_, -1); }
-
- private:
-  int number_;
-};
-
-int openDescriptor(const std::string& path, int flags) {
-  const std::string name = native(path);
-  const int number = uninterrupted([&] { return ::open(name.c_str(), flags | O_CLOEXEC | O_NOCTTY, 0666); });
-  if (number < 0) fail(errno, path);
-  return number;
 }
 
 /// A pipe would block and a folder opens for reading, so both are refused before they are opened.
@@ -114,11 +29,23 @@ void refuseUnlessRegular(const std::string& path) {
   throw DiskError(S_ISDIR(info.st_mode) ? DiskFault::IsFolder : DiskFault::AccessDenied, path);
 }
 
+std::int64_t nanoseconds(const timespec& time) {
+  constexpr std::int64_t second = 1'000'000'000,
+                         farthest = 9'000'000'000;  // what 64 bits of nanoseconds hold
+  return std::clamp<std::int64_t>(time.tv_sec, -farthest, farthest) * second + time.tv_nsec;
+}
+
 /// The pair of times that the system's calls take; the time of the last access stays as it is.
 std::array<timespec, 2> modifiedTime(std::int64_t unixNanoseconds) {
   constexpr std::int64_t second = 1'000'000'000;
   const std::int64_t part = (unixNanoseconds % second + second) % second;
   return {{{0, UTIME_OMIT}, {static_cast<time_t>((unixNanoseconds - part) / second), part}}};
+}
+
+/// A failed renaming: of what isn't there, or to where it can't be.
+[[noreturn]] void failNaming(int error, const std::string& from, const std::string& to) {
+  struct stat info;
+  fail(error, ::lstat(native(from).c_str(), &info) == 0 ? to : from);
 }
 
 /// Empties the file only under its lock, and only if no one has meanwhile renamed it to another place.
@@ -204,30 +131,23 @@ bool isAt(NativeFile file, const std::string& path) {
   return open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
-void takePermissions(NativeFile file, const std::string& model) noexcept {
-  struct stat old, fresh;
-  if (::stat(toSystemPath(model).c_str(), &old) != 0 || ::fstat(descriptor(file), &fresh) != 0) return;
-  mode_t permissions = old.st_mode & 0777;
-  // Only members may hand a file to a group; what the old group was granted must not go to another.
-  if (old.st_gid != fresh.st_gid && ::fchown(descriptor(file), static_cast<uid_t>(-1), old.st_gid) != 0)
-    permissions &= ~static_cast<mode_t>(S_IRWXG);
-  ::fchmod(descriptor(file), permissions);
-}
-
-void grantLike(NativeFile file, const std::string& model) noexcept {
-  struct stat old, fresh;
-  if (::stat(toSystemPath(model).c_str(), &old) != 0 || ::fstat(descriptor(file), &fresh) != 0) return;
-  const mode_t readers = fresh.st_mode & 0444;
-  const mode_t permissions = (fresh.st_mode & old.st_mode & 0777) | (readers >> 2 & old.st_mode);
-  ::fchmod(descriptor(file), permissions | S_IRUSR | S_IWUSR);
-}
-
 void replace(const std::string& from, const std::string& to) {
   const std::string source = native(from), target = native(to);
-  if (::rename(source.c_str(), target.c_str()) == 0) return;
-  const int error = errno;
+  if (::rename(source.c_str(), target.c_str()) != 0) failNaming(errno, from, to);
+}
+
+void rename(const std::string& from, const std::string& to) {
+  const std::string source = native(from), target = native(to);
+  if (::renameat2(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0) return;
+  if (errno != EINVAL && errno != ENOSYS) failNaming(errno, from, to);
+  // File systems of other computers don't know the call. A second name is as exclusive.
+  if (::link(source.c_str(), target.c_str()) == 0) {
+    if (::unlink(source.c_str()) != 0) fail(errno, from);
+    return;
+  }
   struct stat info;
-  fail(error, ::stat(source.c_str(), &info) == 0 ? to : from);
+  if (errno == EEXIST || ::lstat(target.c_str(), &info) == 0) fail(EEXIST, to);
+  if (::rename(source.c_str(), target.c_str()) != 0) failNaming(errno, from, to);
 }
 
 void closeForReplacement(NativeFile&) noexcept {}
@@ -251,15 +171,23 @@ std::optional<FileInfo> inspect(const std::string& path) {
     if (errno == ENOENT || errno == ENOTDIR) return std::nullopt;
     fail(errno, path);
   }
-  constexpr std::int64_t second = 1'000'000'000,
-                         farthest = 9'000'000'000;  // what 64 bits of nanoseconds hold
-  const std::int64_t seconds = std::clamp<std::int64_t>(info.st_mtim.tv_sec, -farthest, farthest);
   FileInfo result;
   result.size = static_cast<std::uint64_t>(info.st_size);
   result.folder = S_ISDIR(info.st_mode);
-  result.modifiedUnixNanoseconds = seconds * second + info.st_mtim.tv_nsec;
+  result.modifiedUnixNanoseconds = nanoseconds(info.st_mtim);
   result.modified = localDate(result.modifiedUnixNanoseconds).days;
   return result;
+}
+
+FileState state(NativeFile file, const std::string& path) {
+  struct stat info;
+  if (::fstat(descriptor(file), &info) != 0) fail(errno, path);
+  return {info.st_dev,
+          info.st_ino,
+          static_cast<std::uint64_t>(info.st_size),
+          nanoseconds(info.st_mtim),
+          nanoseconds(info.st_ctim),
+          info.st_nlink};
 }
 
 void setModified(NativeFile file, const std::string& path, std::int64_t unixNanoseconds) {
@@ -281,6 +209,7 @@ std::string followLinks(const std::string& path) {
       std::replace(result.begin(), result.end(), '/', '\\');
       return result;
     }
+    if (target.native().find('\\') != std::string::npos) throw DiskError(DiskFault::PathNotFound, path);
     at = at.parent_path() / target;
   }
   throw DiskError(DiskFault::Io, path);

@@ -37,6 +37,19 @@ std::string userFolder(const char* variable, const char* belowHome) {
 
 }  // namespace
 
+namespace {
+
+/// What ".." leads to behind `path`, as the system finds it.
+std::filesystem::path folderAbove(const std::filesystem::path& path) {
+  std::error_code failure;
+  if (!std::filesystem::is_directory(path, failure)) return path / "..";
+  if (!std::filesystem::is_symlink(path, failure)) return path.parent_path();
+  const auto folder = std::filesystem::canonical(path, failure);
+  return failure ? path / ".." : folder.parent_path();
+}
+
+}  // namespace
+
 std::string toSystemPath(std::string_view path) {
   std::string result(path);
   std::replace(result.begin(), result.end(), '\\', '/');
@@ -44,10 +57,22 @@ std::string toSystemPath(std::string_view path) {
 }
 
 std::string fromSystemPath(std::string_view path) {
-  std::string result = std::filesystem::absolute(path.empty() ? "." : path).lexically_normal().string();
-  if (result.size() > 1 && result.back() == '/') result.pop_back();
+  std::filesystem::path found;
+  for (const auto& part : std::filesystem::absolute(path.empty() ? "." : path)) {
+    if (part == "..")
+      found = folderAbove(found);
+    else if (!part.empty() && part != ".")
+      found /= part;
+  }
+  std::string result = found.string();
   std::replace(result.begin(), result.end(), '/', '\\');
   return result;
+}
+
+std::string realPath(const std::string& path) {
+  std::error_code failure;
+  const auto found = std::filesystem::weakly_canonical(toSystemPath(path), failure);
+  return failure ? path : fromSystemPath(found.string());
 }
 
 std::string userSettingsFolder() {

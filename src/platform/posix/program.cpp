@@ -1,14 +1,32 @@
 #include "platform/program.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 
 #include "platform/paths.h"
 #include "runtime/error.h"
 
 namespace platform {
+
+void holdStandardStreams() {
+  // Opened for the other direction, so that the stream's use is an error and no silent success.
+  constexpr struct {
+    int stream, direction;
+  } streams[] = {{STDIN_FILENO, O_WRONLY}, {STDOUT_FILENO, O_RDONLY}, {STDERR_FILENO, O_RDONLY}};
+  for (const auto& [stream, direction] : streams) {
+    if (::fcntl(stream, F_GETFD) >= 0) continue;
+    if (::open("/dev/null", direction) != stream) std::_Exit(EXIT_FAILURE);  // the lowest that is free
+  }
+}
+
+bool hasStandardOutput() {
+  const int flags = ::fcntl(STDOUT_FILENO, F_GETFL);
+  return flags >= 0 && (flags & O_ACCMODE) != O_RDONLY;
+}
 
 void keepRunningOnWriteSignals() {
   std::signal(SIGXFSZ, SIG_IGN);

@@ -26,6 +26,10 @@ NativeFile fileOf(HANDLE handle) {
   return reinterpret_cast<NativeFile>(handle);
 }
 
+std::uint64_t joined(DWORD high, DWORD low) {
+  return static_cast<std::uint64_t>(high) << 32 | low;
+}
+
 OVERLAPPED at(std::uint64_t offset) {
   OVERLAPPED place{};
   place.Offset = static_cast<DWORD>(offset);
@@ -83,6 +87,14 @@ NativeFile open(const std::string& path, OpenMode mode) {
     resize(fileOf(file.get()), path, 0);
     return fileOf(file.release());
   }
+}
+
+/// A new file has the rights that its folder hands down; the replacement itself hands on those of the old
+/// one.
+NativeFile create(const std::string& path, NewFile, const std::string&) {
+  Handle file(openFile(path, GENERIC_READ | GENERIC_WRITE, CREATE_NEW));
+  if (!lock(fileOf(file.get()), path, LockMode::Exclusive)) throw DiskError(DiskFault::Sharing, path);
+  return fileOf(file.release());
 }
 
 void close(NativeFile file) noexcept {
@@ -159,12 +171,17 @@ bool isAt(NativeFile file, const std::string& path) {
          a.nFileIndexLow == b.nFileIndexLow;
 }
 
-void takePermissions(NativeFile, const std::string&) noexcept {
-  // The replacement itself hands the old file's rights and attributes on.
-}
-
-void grantLike(NativeFile, const std::string&) noexcept {
-  // A new file has the rights that its folder hands down.
+/// The time of the entry counts not: the system sets it by itself.
+FileState state(NativeFile file, const std::string& path) {
+  BY_HANDLE_FILE_INFORMATION info;
+  if (!::GetFileInformationByHandle(handleOf(file), &info)) failLastCall(path);
+  FileState result;
+  result.volume = info.dwVolumeSerialNumber;
+  result.number = joined(info.nFileIndexHigh, info.nFileIndexLow);
+  result.size = joined(info.nFileSizeHigh, info.nFileSizeLow);
+  result.modified = windows::unixNanoseconds(info.ftLastWriteTime);
+  result.names = info.nNumberOfLinks;
+  return result;
 }
 
 void remove(const std::string& path) {
@@ -197,7 +214,7 @@ std::optional<FileInfo> inspect(const std::string& path) {
   BY_HANDLE_FILE_INFORMATION info;
   if (!::GetFileInformationByHandle(file.get(), &info)) failLastCall(path);
   FileInfo result;
-  result.size = static_cast<std::uint64_t>(info.nFileSizeHigh) << 32 | info.nFileSizeLow;
+  result.size = joined(info.nFileSizeHigh, info.nFileSizeLow);
   result.folder = (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   result.modifiedUnixNanoseconds = windows::unixNanoseconds(info.ftLastWriteTime);
   result.modified = localDate(result.modifiedUnixNanoseconds).days;
@@ -220,14 +237,9 @@ std::string followLinks(const std::string& path) {
   if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) return path;
   const Handle file(openForInspection(path));
   if (!file) fail(ERROR_FILE_NOT_FOUND, path);
-  std::wstring name(32768, L'\0');
-  const DWORD length = ::GetFinalPathNameByHandleW(file.get(), name.data(), static_cast<DWORD>(name.size()),
-                                                   FILE_NAME_NORMALIZED);
-  if (length == 0 || length >= name.size()) failLastCall(path);
-  name.resize(length);
-  constexpr std::wstring_view share = L"\\\\?\\UNC\\", local = L"\\\\?\\";
-  if (name.starts_with(share)) return windows::narrow(L"\\\\" + name.substr(share.size()));
-  return windows::narrow(name.starts_with(local) ? name.substr(local.size()) : name);
+  const std::string found = windows::finalPath(file.get());
+  if (found.empty()) failLastCall(path);
+  return found;
 }
 
 std::uint64_t freeSpace(const std::string& folder) {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/computer.h"
+#include "platform/windows/handle.h"
 #include "platform/windows/wide.h"
 
 namespace platform {
@@ -33,6 +34,18 @@ std::string fromSystemPath(std::string_view path) {
   full.resize(::GetFullPathNameW(given.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
   if (full.size() > 3 && full.back() == L'\\') full.pop_back();
   return windows::narrow(full);
+}
+
+std::string realPath(const std::string& path) {
+  const std::string whole = fromSystemPath(path);
+  const windows::Handle file(::CreateFileW(windows::native(whole).c_str(), 0,
+                                           FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                           OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  std::string found = file ? windows::finalPath(file.get()) : "";
+  if (found.ends_with('\\')) found.pop_back();  // a drive's root, which a name follows
+  const std::string folder = folderOf(whole);
+  if (!found.empty() || folder.empty()) return found.empty() ? whole : found;
+  return realPath(folder) + whole.substr(folder.size());
 }
 
 std::string userSettingsFolder() {

@@ -9,6 +9,23 @@
 
 namespace platform {
 
+/// The library keeps its own three descriptors, whatever it was started with. What may be left is a handle of
+/// the one who started the program, not handed on: its number would be given to a file.
+void holdStandardStreams() {
+  for (const DWORD stream : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+    const HANDLE handle = ::GetStdHandle(stream);
+    if (handle == nullptr || handle == INVALID_HANDLE_VALUE) continue;
+    ::SetLastError(NO_ERROR);
+    if (::GetFileType(handle) == FILE_TYPE_UNKNOWN && ::GetLastError() != NO_ERROR)
+      ::SetStdHandle(stream, nullptr);
+  }
+}
+
+bool hasStandardOutput() {
+  const HANDLE handle = ::GetStdHandle(STD_OUTPUT_HANDLE);
+  return handle != nullptr && handle != INVALID_HANDLE_VALUE;
+}
+
 void keepRunningOnWriteSignals() {}
 
 int continueAs(const std::string& path, const std::vector<std::string>& arguments) {

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "platform/disk_system.h"
+#include "platform/paths.h"
 #include "platform/windows/handle.h"
 #include "platform/windows/wide.h"
 
@@ -17,13 +18,19 @@ bool isThere(const std::wstring& name) {
 
 }  // namespace
 
+void rename(const std::string& from, const std::string& to) {
+  const std::wstring source = native(from), target = native(to);
+  if (!isThere(source)) windows::fail(ERROR_FILE_NOT_FOUND, from);
+  if (!::MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH)) failLastCall(to);
+}
+
 /// The old file goes by a backup name for the instant in which the new one takes its place: without one, an
 /// error in that instant would leave no file at all.
 void replace(const std::string& from, const std::string& to) {
-  const std::wstring source = native(from), target = native(to), backup = native(to + ".precedente");
+  const std::wstring source = native(from), target = native(to), backup = native(newNameBeside(to));
   if (!isThere(source)) windows::fail(ERROR_FILE_NOT_FOUND, from);
   if (!isThere(target)) {
-    if (!::MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH)) failLastCall(to);
+    rename(from, to);
     return;
   }
   if (!::ReplaceFileW(target.c_str(), source.c_str(), backup.c_str(), REPLACEFILE_WRITE_THROUGH, nullptr,
@@ -33,8 +40,7 @@ void replace(const std::string& from, const std::string& to) {
       ::MoveFileExW(backup.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
     windows::fail(error, to);
   }
-  ::DeleteFileW(
-      backup.c_str());  // a backup that someone has open harms nobody, and the next one takes its name
+  ::DeleteFileW(backup.c_str());  // one that someone has open stays, and is in nobody's way
 }
 
 void closeForReplacement(NativeFile& file) noexcept {

@@ -97,4 +97,15 @@ void fail(unsigned long error, const std::string& path) {
   throw DiskError(faultOf(error, path), path);
 }
 
+std::string finalPath(void* file) {
+  std::wstring name(32768, L'\0');
+  const DWORD length =
+      ::GetFinalPathNameByHandleW(file, name.data(), static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED);
+  if (length == 0 || length >= name.size()) return "";
+  name.resize(length);
+  constexpr std::wstring_view share = L"\\\\?\\UNC\\", local = L"\\\\?\\";
+  if (name.starts_with(share)) return narrow(L"\\\\" + name.substr(share.size()));
+  return narrow(name.starts_with(local) ? name.substr(local.size()) : name);
+}
+
 }  // namespace platform::windows

@@ -15,6 +15,9 @@ std::string narrow(std::wstring_view utf16);
 /// DiskError PathNotFound for a path that isn't UTF-8 or holds a NUL.
 std::wstring native(const std::string& path);
 
+/// The path of an open file or folder, without links; empty if the system doesn't tell it.
+std::string finalPath(void* file);
+
 /// Name and number of the error that the last call left.
 [[noreturn]] void failLastCall(const std::string& path);
 [[noreturn]] void fail(unsigned long error, const std::string& path);
