@@ -252,7 +252,7 @@ class Image {
   struct Bond;
   std::vector<Bond> bonds(Table& table, file::LogicalIndex::Side side);
   /// Condition under which a row of the other table is the partner of row `changed`, NEW or OLD.
-  std::string partners(const Bond& bond, const std::string& changed, bool changedIsChild);
+  static std::string partners(const Bond& bond, const std::string& changed, bool changedIsChild);
   void guardRelations(Table& table);
   void guardAsChild(const Bond& bond, std::size_t number);
   void guardAsParent(const Bond& bond, std::size_t number);

@@ -154,7 +154,7 @@ const char* columnDeclaration(ColumnType type) {
     case ColumnType::Memo:
       return "TEXT COLLATE JET";
     case ColumnType::Numeric:
-      return "TEXT";
+      return "TEXT COLLATE JETDECIMAL";
     case ColumnType::Binary:
     case ColumnType::Ole:
     case ColumnType::Guid:

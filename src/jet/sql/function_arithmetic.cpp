@@ -178,22 +178,10 @@ constexpr SqliteFunction functions[] = {
     {"jet_round", 3, nullIfAnyIsNull<round<Rounding::HalfEven>>},
 };
 
-int compareDigits(void*, int leftLength, const void* left, int rightLength, const void* right) {
-  const std::string_view a(static_cast<const char*>(left), static_cast<std::size_t>(leftLength));
-  const std::string_view b(static_cast<const char*>(right), static_cast<std::size_t>(rightLength));
-  // A collation can't fail: what is no decimal, and no column holds, goes by its characters.
-  try {
-    return compareDecimals(a, b);
-  } catch (const runtime::Error&) {
-    return a.compare(b);
-  }
-}
-
 }  // namespace
 
 void registerArithmetic(sqlite3* connection) {
   registerAll(connection, functions);
-  sqlite3_create_collation_v2(connection, "JETDECIMAL", SQLITE_UTF8, nullptr, compareDigits, nullptr);
 }
 
 }  // namespace jet::sql

@@ -30,7 +30,7 @@ struct Literal {
 struct Column {
   unsigned source = 0;
   std::string name;
-  bool collated = false;  // SQLite knows its text order
+  bool collated = false;  // SQLite knows the order of its texts or digits
   bool operator==(const Column&) const = default;
 };
 
