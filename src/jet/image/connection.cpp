@@ -63,6 +63,8 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
       return runtime::Error(3183, Source, "Spazio insufficiente sul disco temporaneo");
     case SQLITE_NOMEM:
       return runtime::Error(7, Source, "Memoria esaurita");
+    case SQLITE_TOOBIG:
+      return runtime::Error(14, Source, "Spazio per le stringhe esaurito: un valore supera 1 GB");
     case SQLITE_LOCKED:
       return runtime::Error(3211, Source, "Tabella in uso da un altro recordset");
     default:
@@ -71,7 +73,8 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
   for (const Limit& limit : Limits)
     if (message.find(limit.words) != std::string::npos)
       return runtime::Error(limit.number, Source, limit.description);
-  return runtime::Error(3000, Source, "Errore riservato: " + message);
+  return runtime::Error(3000, Source,
+                        "Errore riservato: codice " + std::to_string(sqlite3_extended_errcode(connection)));
 }
 
 void registerOrders(sqlite3* connection) {
@@ -117,8 +120,12 @@ void Statement::run() {
 }
 
 void Statement::bind(int parameter, std::string_view value) {
-  sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "", value.size(),
-                      SQLITE_TRANSIENT, SQLITE_UTF8);
+  requireBound(handle_.get(), sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "",
+                                                  value.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+
+void requireBound(sqlite3_stmt* statement, int result) {
+  if (result != SQLITE_OK) throw errorFromSqlite(sqlite3_db_handle(statement));
 }
 
 std::string Statement::text(int column) const {

@@ -13,7 +13,8 @@ namespace jet::image {
 
 /// What SQLite says went wrong, as a numbered error: one that a registered function raised
 /// ("number|description") as it is; a duplicate key 3022, a full scratch disk 3183, a table in use 3211, no
-/// memory 7, a statement beyond SQLite's limits 3360, an overflow 6, anything else 3000.
+/// memory 7, a value over 1 GB 14, a statement beyond SQLite's limits 3360, an overflow 6, anything else
+/// 3000.
 runtime::Error errorFromSqlite(sqlite3* connection);
 
 /// Registers the collations JET, the order of texts in the file's keys, and JETDECIMAL, that of the image's
@@ -21,6 +22,9 @@ runtime::Error errorFromSqlite(sqlite3* connection);
 void registerOrders(sqlite3* connection);
 /// Error 3000 if the SQLite at hand does so nonetheless: its joins would lose rows.
 void requireOrders(sqlite3* connection);
+
+/// Throws errorFromSqlite unless the `result` of binding a value is SQLITE_OK: the parameter would be Null.
+void requireBound(sqlite3_stmt* statement, int result);
 
 /// One prepared statement. Parameters count from 1, columns from 0, as SQLite counts them.
 class Statement {

@@ -4,6 +4,7 @@
 #include "jet/image/decimal.h"
 #include "jet/sql/decimal.h"
 #include "jet/sql/function_support.h"
+#include "runtime/date.h"
 #include "runtime/numbers.h"
 
 namespace jet::sql {
@@ -32,6 +33,17 @@ void returnDouble(sqlite3_context* context, double value) {
 void checkLong(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (!isWhole(arguments[0])) throw languageError(runtime::Overflow);
   returnLong(context, whole(arguments[0]));
+}
+
+void checkWhole(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (isWhole(arguments[0])) return sqlite3_result_value(context, arguments[0]);
+  returnDouble(context, number(arguments[0]));
+}
+
+void checkDate(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const double days = number(arguments[0]);
+  if (!runtime::isInCalendar({days})) throw languageError(runtime::Overflow);
+  sqlite3_result_double(context, days);
 }
 
 void checkCurrency(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -160,6 +172,8 @@ void absolute(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 constexpr SqliteFunction functions[] = {
     {"jet_check_long", 1, nullIfAnyIsNull<checkLong>},
+    {"jet_check_whole", 1, nullIfAnyIsNull<checkWhole>},
+    {"jet_check_date", 1, nullIfAnyIsNull<checkDate>},
     {"jet_check_currency", 1, nullIfAnyIsNull<checkCurrency>},
     {"jet_check_single", 1, nullIfAnyIsNull<checkSingle>},
     {"jet_check_double", 1, nullIfAnyIsNull<checkDouble>},

@@ -93,7 +93,7 @@ struct Not {
 };
 
 struct Like {
-  bool negated = false;
+  bool negated = false, ansi = false;
   Box<Expression> value, pattern;
   bool operator==(const Like&) const = default;
 };
