@@ -91,8 +91,8 @@ SmallImage::SmallImage() {
 void SmallImage::add(file::TableDefinition table) {
   std::string columns;
   for (const file::Column& column : table.columns) {
-    columns +=
-        (columns.empty() ? "c" : ", c") + std::to_string(column.number) + " " + image::columnDeclaration(column.type);
+    columns += (columns.empty() ? "c" : ", c") + std::to_string(column.number) + " " +
+               image::columnDeclaration(column.type);
   }
   execute("CREATE TABLE t" + std::to_string(table.page) + " (" + columns + ")");
   tables_.push_back(std::move(table));

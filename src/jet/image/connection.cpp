@@ -125,7 +125,7 @@ void Statement::bind(int parameter, std::string_view value) {
 }
 
 void requireBound(sqlite3_stmt* statement, int result) {
-  if (result != SQLITE_OK) throw errorFromSqlite(sqlite3_db_handle(statement));
+  if (result != SQLITE_OK && result != SQLITE_RANGE) throw errorFromSqlite(sqlite3_db_handle(statement));
 }
 
 std::string Statement::text(int column) const {

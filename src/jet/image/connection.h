@@ -23,7 +23,8 @@ void registerOrders(sqlite3* connection);
 /// Error 3000 if the SQLite at hand does so nonetheless: its joins would lose rows.
 void requireOrders(sqlite3* connection);
 
-/// Throws errorFromSqlite unless the `result` of binding a value is SQLITE_OK: the parameter would be Null.
+/// Throws errorFromSqlite where the `result` of binding a value tells of a parameter that has stayed Null,
+/// for want of memory. A parameter that the statement doesn't have is none.
 void requireBound(sqlite3_stmt* statement, int result);
 
 /// One prepared statement. Parameters count from 1, columns from 0, as SQLite counts them.

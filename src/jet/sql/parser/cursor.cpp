@@ -70,7 +70,7 @@ std::string Cursor::acceptAlias(bool requireAs, StatementError error) {
 void Cursor::fail(StatementError error) const {
   const Token& token = peek();
   const std::string detail =
-      token.kind == Token::Kind::End ? "l'istruzione finisce troppo presto" : "vicino a " + token.text;
+      token.kind == Token::Kind::End ? "l'istruzione finisce troppo presto" : "vicino a '" + token.text + "'";
   throw SyntaxError(error, detail, token.position);
 }
 
