@@ -5,7 +5,7 @@
 #include "jet/sql/functions.h"
 
 extern "C" int sqlite3_jetshell_init(sqlite3* connection, char**, const void*) {
-  jet::image::registerTextOrder(connection);
+  jet::image::registerOrders(connection);
   jet::sql::registerFunctions(connection);
   return SQLITE_OK;
 }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/local_time.h"
+#include "runtime/date.h"
 
 namespace platform {
 
@@ -42,6 +43,8 @@ Clock& clock() {
 }
 
 Clock* setClock(Clock* replacement) {
+  const auto year = [] { return runtime::partsOf(clock().now()).year; };
+  runtime::setYearSource(replacement ? static_cast<runtime::YearSource>(year) : nullptr);
   return std::exchange(replacementInForce, replacement);
 }
 

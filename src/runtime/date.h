@@ -41,8 +41,13 @@ int daysOfMonth(int year, int month);
 
 /// A date, a time or both, as the Italian locale writes them: "16/11/2026 17:16:00", "16-11-26", "16 novembre
 /// 2026", "2026-11-16", "17:16"; day and month change places where only that makes a date. Two digits of a
-/// year mean 1930 to 2029. A date without its year is none.
+/// year mean 1930 to 2029. Months have their Italian or English names, whole or three letters; "16/11" is of
+/// this year, "11/2026" the month's first day.
 std::optional<Date> dateFromText(std::string_view text);
+
+/// Where dateFromText reads this year, for dates without one; the system's local time unless told otherwise.
+using YearSource = int (*)();
+void setYearSource(YearSource source);
 
 /// "16/11/2026 17:16:00": without the time at midnight, without the date on day 0.
 std::string dateText(Date date);

@@ -1,5 +1,6 @@
 #include <array>
 #include <charconv>
+#include <ctime>
 #include <span>
 #include <vector>
 
@@ -12,7 +13,7 @@ namespace {
 
 /// Number, word or separator of a text that may be a date.
 struct Piece {
-  enum class Kind { Number, Word, Colon, Separator } kind;
+  enum class Kind { Number, Word, Colon, Comma, Separator, Point } kind;
   int value = 0;       // Number
   int digits = 0;      // Number
   std::string word{};  // Word, in lower case
@@ -43,10 +44,14 @@ std::optional<std::vector<Piece>> split(std::string_view text) {
       pieces.push_back(word);
     } else {
       ++at;
-      if (c == ':')
+      if (c == ',')
+        pieces.push_back({Piece::Kind::Comma});
+      else if (c == ':')
         pieces.push_back({Piece::Kind::Colon});
-      else if (c == '/' || c == '-' || c == '.')
+      else if (c == '/' || c == '-')
         pieces.push_back({Piece::Kind::Separator});
+      else if (c == '.')
+        pieces.push_back({Piece::Kind::Point});
       else if (c != ' ')
         return std::nullopt;
     }
@@ -54,26 +59,44 @@ std::optional<std::vector<Piece>> split(std::string_view text) {
   return pieces;
 }
 
-int monthOfWord(const std::string& word) {
+constexpr std::string_view englishMonths[] = {"january",   "february", "march",    "april",
+                                              "may",       "june",     "july",     "august",
+                                              "september", "october",  "november", "december"};
+
+int monthOfWord(std::string_view word) {
   for (int month = 1; month <= 12; ++month)
-    if (word == monthName(month) || word == shortMonthName(month)) return month;
+    for (const std::string_view name : {monthName(month), englishMonths[month - 1]})
+      if (word == name || word == name.substr(0, 3)) return month;
   return 0;
 }
+
+int systemYear() {
+  const std::time_t now = std::time(nullptr);
+  return std::localtime(&now)->tm_year + 1900;
+}
+
+YearSource thisYear = systemYear;
 
 struct Time {
   int hour = 0, minute = 0, second = 0;
 };
 
-/// Takes "h:mm[:ss] [am|pm]" out of the pieces; nothing taken where there is no colon. False if it is no
-/// time.
+bool isHalfOfDay(const std::vector<Piece>& pieces, std::size_t at) {
+  return at < pieces.size() && (pieces[at].word == "am" || pieces[at].word == "pm");
+}
+
+/// Takes "h[:mm[:ss]] [am|pm]" out of the pieces; nothing taken where there is neither a colon nor am or pm.
+/// False if it is no time.
 bool takeTime(std::vector<Piece>& pieces, Time& time) {
-  std::size_t colon = 0;
-  while (colon < pieces.size() && pieces[colon].kind != Piece::Kind::Colon) ++colon;
-  if (colon == pieces.size()) return true;
-  if (colon == 0) return false;
+  std::size_t first = 0;
+  while (first < pieces.size() &&
+         !(pieces[first].kind == Piece::Kind::Number &&
+           (isHalfOfDay(pieces, first + 1) ||
+            (first + 1 < pieces.size() && pieces[first + 1].kind == Piece::Kind::Colon))))
+    ++first;
+  if (first == pieces.size()) return true;
   std::array<int, 3> fields{};
-  std::size_t count = 0, at = colon - 1;
-  const std::size_t first = at;
+  std::size_t count = 0, at = first;
   for (;;) {
     if (count == 3 || at >= pieces.size() || pieces[at].kind != Piece::Kind::Number || pieces[at].digits > 2)
       return false;
@@ -81,8 +104,7 @@ bool takeTime(std::vector<Piece>& pieces, Time& time) {
     if (at >= pieces.size() || pieces[at].kind != Piece::Kind::Colon) break;
     ++at;
   }
-  if (at < pieces.size() && pieces[at].kind == Piece::Kind::Word &&
-      (pieces[at].word == "am" || pieces[at].word == "pm")) {
+  if (isHalfOfDay(pieces, at)) {
     if (fields[0] < 1 || fields[0] > 12) return false;
     fields[0] = fields[0] % 12 + (pieces[at].word == "pm" ? 12 : 0);
     ++at;
@@ -99,23 +121,34 @@ int fullYear(const Piece& piece) {
   return piece.value + (piece.value < 30 ? 2000 : 1900);
 }
 
-/// The three fields in the orders that the locale tries: day month year, month day year, year month day.
-std::optional<Date> combine(const std::vector<Piece>& numbers, int namedMonth, const Time& time) {
-  struct Order {
-    std::size_t year, month, day;
-  };
-  static constexpr Order numeric[] = {{2, 1, 0}, {2, 0, 1}, {0, 1, 2}};
-  static constexpr Order named[] = {{1, 2, 0}, {0, 2, 1}};
-  std::vector<Piece> fields = numbers;
+/// Where the fields of a date stand; a year or day that is not written is this year, or the first.
+struct Order {
+  int year, month, day;
+};
+constexpr int NotWritten = -1;
+/// The orders that the locale tries, by whether the month has its name, which then stands last, and by the
+/// number of fields.
+constexpr Order DayMonthYear[] = {{2, 1, 0}, {2, 0, 1}, {0, 1, 2}};
+constexpr Order DayMonth[] = {{NotWritten, 1, 0}, {NotWritten, 0, 1}, {1, 0, NotWritten}, {0, 1, NotWritten}};
+constexpr Order NamedDayYear[] = {{1, 2, 0}, {0, 2, 1}};
+constexpr Order NamedDay[] = {{NotWritten, 1, 0}, {0, 1, NotWritten}};
+
+std::span<const Order> ordersOf(std::size_t fields, bool named) {
+  if (fields == 3) return named ? std::span<const Order>(NamedDayYear) : DayMonthYear;
+  if (fields == 2) return named ? std::span<const Order>(NamedDay) : DayMonth;
+  return {};
+}
+
+std::optional<Date> combine(std::vector<Piece> fields, int namedMonth, const Time& time) {
   if (namedMonth != 0) fields.push_back({Piece::Kind::Number, namedMonth, 2});
-  if (fields.size() != 3) return std::nullopt;
-  const std::span<const Order> orders =
-      namedMonth != 0 ? std::span<const Order>(named) : std::span<const Order>(numeric);
-  for (const Order& order : orders) {
-    const Piece &year = fields[order.year], &month = fields[order.month], &day = fields[order.day];
+  for (const Order& order : ordersOf(fields.size(), namedMonth != 0)) {
+    const auto field = [&](int place) { return fields[static_cast<std::size_t>(place)]; };
+    const int year = order.year == NotWritten ? thisYear() : fullYear(field(order.year));
+    const Piece month = field(order.month);
+    const Piece day = order.day == NotWritten ? Piece{Piece::Kind::Number, 1, 1} : field(order.day);
     if (month.digits > 2 || day.digits > 2) continue;
     try {
-      return dateFromParts(fullYear(year), month.value, day.value, time.hour, time.minute, time.second);
+      return dateFromParts(year, month.value, day.value, time.hour, time.minute, time.second);
     } catch (const Error&) {
       continue;  // not a date in this order
     }
@@ -133,19 +166,28 @@ std::optional<Date> dateFromText(std::string_view text) {
 
   std::vector<Piece> numbers;
   int namedMonth = 0;
+  bool comma = false, point = false;
   Piece::Kind before = Piece::Kind::Separator;
   for (const Piece& piece : *pieces) {
     if (piece.kind == Piece::Kind::Number) {
       numbers.push_back(piece);
     } else if (piece.kind == Piece::Kind::Word) {
       if (namedMonth != 0 || (namedMonth = monthOfWord(piece.word)) == 0) return std::nullopt;
-    } else if (before == Piece::Kind::Separator) {
+    } else if (before != Piece::Kind::Number && before != Piece::Kind::Word) {
       return std::nullopt;  // at the beginning, or twice
     }
+    comma |= piece.kind == Piece::Kind::Comma;
+    point |= piece.kind == Piece::Kind::Point;
     before = piece.kind;
   }
-  if (before == Piece::Kind::Separator) return std::nullopt;
-  return combine(numbers, namedMonth, time);
+  if (before != Piece::Kind::Number && before != Piece::Kind::Word) return std::nullopt;
+  // "1,5" and "1.5" are numbers.
+  if (namedMonth == 0 && (comma || (point && numbers.size() < 3))) return std::nullopt;
+  return combine(std::move(numbers), namedMonth, time);
+}
+
+void setYearSource(YearSource source) {
+  thisYear = source ? source : systemYear;
 }
 
 }  // namespace runtime

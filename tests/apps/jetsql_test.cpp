@@ -187,6 +187,19 @@ TEST_F(Jetsql, ADesignThatIsPrintedCanBeRunAgain) {
   EXPECT_EQ(statement("INSERT INTO [Le voci] (A) VALUES (7)").status, 1);  // 3201: no row of T has it
 }
 
+TEST_F(Jetsql, ALongStatementIsShownNearItsErrorOnly) {
+  make("CREATE TABLE T (Id LONG);\n");
+  const std::string text(60000, 'x');
+  for (const std::string& sql : {"SELECT '" + text + "' FROM T WHERE Id = = 1 AND '" + text + "' = ''",
+                                 "SELECT '" + text, "SELECT " + text + text + ".a, FROM T"}) {
+    const auto result = statement(sql);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_LT(result.errors.size(), 500u) << result.errors;
+    EXPECT_THAT(result.errors, HasSubstr("^\n"));
+  }
+  EXPECT_THAT(statement("SELECT '" + text + "' FROM T WHERE Id = = 1").errors, HasSubstr("WHERE Id = = 1\n"));
+}
+
 TEST_F(Jetsql, StoredQueriesAreShownAndRewritten) {
   make(
       "CREATE TABLE T (Id LONG, Nome TEXT(20));\n"

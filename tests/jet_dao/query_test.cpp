@@ -7,6 +7,7 @@
 #include <set>
 #include <sstream>
 
+#include "jet/dao/session.h"
 #include "jet/sql/syntax_error.h"
 #include "office.h"
 #include "platform/files.h"
@@ -34,6 +35,15 @@ std::string queryNames(Database& db) {
   std::string names;
   for (const auto& query : db.QueryDefs()) names += (names.empty() ? "" : " ") + query->Name();
   return names;
+}
+
+/// Gives the query of this id a row whose meaning nobody knows, as no statement can.
+void addUnknownRow(const std::string& path, const std::string& id) {
+  Session session(std::make_unique<file::PageFile>(path, file::Sharing::Exclusive, false));
+  session.image().changeSystemTable(file::QueriesTable);
+  session.image().connection().execute(
+      "INSERT INTO t4 (c0, c1, c2, c5) SELECT c0, 77, c2, 'x' FROM t4 WHERE c1 = 0 AND c0 = " + id);
+  session.save();
 }
 
 class StoredQueries : public testing::Test {
@@ -75,15 +85,13 @@ TEST_F(StoredQueries, AreRewrittenInPlace) {
   store("Altra", "SELECT 1");
   const auto id = [&] { return read("SELECT Id FROM MSysObjects WHERE Name = 'Elenco'"); };
   const std::string before = id();
+  db_->Close();
+  addUnknownRow(path_, before);
+  open();
   const auto query = db_->QueryDefs("ELENCO");
   EXPECT_EQ(query->SQL(), "SELECT *\r\nFROM ragioniere;\r\n");
   EXPECT_EQ(query->Type(), dbQSelect);
 
-  // Rows whose meaning nobody knows survive.
-  db_->Execute(
-      "INSERT INTO MSysQueries (ObjectId, Attribute, [Order], Expression) SELECT ObjectId, 77, [Order], 'x' "
-      "FROM MSysQueries WHERE Attribute = 0 AND ObjectId = " +
-      before);
   query->setSQL("UPDATE nessuna SET a = 1 WHERE b = [p]");
   EXPECT_EQ(query->Type(), dbQUpdate);
   EXPECT_EQ(id(), before);

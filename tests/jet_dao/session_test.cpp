@@ -21,6 +21,12 @@ TEST(Sessions, GoAsTheirLinesSay) {
       {"searches", {"dynaset", "snapshot"}},
       {"seeks", {"exclusive", "readonly"}},
       {"new_records", {"table p", "dynaset p", "dynaset SELECT id, nome, si FROM p"}},
+      {"joins",
+       {"exclusive",
+        "exclusive ; CREATE INDEX i ON X (a) ; CREATE INDEX i ON Y (b) ; CREATE INDEX ip ON numeri (p) ; "
+        "CREATE INDEX iq ON numeri (q) ; CREATE INDEX il ON numeri (l) ; CREATE INDEX ix ON numeri (x) ; "
+        "CREATE INDEX i ON ragioniere (cd_classe, cd_matr) ; CREATE INDEX i ON componenti_associati "
+        "(cd_matr)"}},
       {"cursors"},
       {"edits"},
       {"transactions"},

@@ -50,4 +50,25 @@ TEST(Statements, ARollbackTakesEveryDesignChangeBack) {
   }
 }
 
+TEST(Statements, BeyondMemoryOrLengthEndInANumberAndLeaveWhatWas) {
+  Desk desk({"CREATE TABLE a (n LONG, m MEMO)", "INSERT INTO a VALUES (1, 'prima')"});
+  auto& image = desk.image();
+  image.begin();
+  image.begin();
+  desk.run("UPDATE a SET n = 2");
+  const std::string grow = "UPDATE a SET m = String(400000, 'x') & String(400000, 'y')";
+  sqlite3_limit(image.connection().handle(), SQLITE_LIMIT_LENGTH, 500000);
+  EXPECT_EQ(desk.error(grow), 14);
+  EXPECT_EQ(desk.rows("SELECT * FROM a"), "2|prima");
+  sqlite3_limit(image.connection().handle(), SQLITE_LIMIT_LENGTH, 1000000);
+  sqlite3_hard_heap_limit64(sqlite3_memory_used() + 300000);
+  const int number = desk.error(grow);
+  sqlite3_hard_heap_limit64(0);
+  EXPECT_EQ(number, 7);
+  image.rollback();
+  image.rollback();
+  EXPECT_EQ(desk.rows("SELECT * FROM a"), "1|prima");
+  EXPECT_EQ(desk.error(grow), 0);
+}
+
 }  // namespace

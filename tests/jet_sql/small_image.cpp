@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "jet/file/text_key.h"
 #include "jet/image/connection.h"
+#include "jet/image/row_codec.h"
 #include "jet/sql/domain.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/parser/parser.h"
@@ -33,31 +33,6 @@ file::TableDefinition makeTable(std::uint32_t page, const CreateTable& create) {
     table.columns.push_back(column);
   }
   return table;
-}
-
-const char* declaration(ColumnType type) {
-  switch (typeOf(type)) {
-    case Type::Text:
-    case Type::Memo:
-      return "TEXT COLLATE JET";
-    case Type::Decimal:
-      return "TEXT";
-    case Type::Single:
-    case Type::Double:
-    case Type::Date:
-      return "REAL";
-    case Type::Guid:
-    case Type::Binary:
-    case Type::Ole:
-      return "BLOB";
-    default:
-      return "INTEGER";
-  }
-}
-
-int compare(void*, int leftLength, const void* left, int rightLength, const void* right) {
-  return file::compareText({static_cast<const char*>(left), static_cast<std::size_t>(leftLength)},
-                           {static_cast<const char*>(right), static_cast<std::size_t>(rightLength)});
 }
 
 std::string shown(sqlite3_stmt* statement, int column, Type type) {
@@ -105,7 +80,7 @@ std::string answered(std::string sql, const std::vector<std::string>& answers) {
 
 SmallImage::SmallImage() {
   sqlite3_open(":memory:", &connection_);
-  sqlite3_create_collation_v2(connection_, "JET", SQLITE_UTF8, nullptr, compare, nullptr);
+  image::registerOrders(connection_);
   registerFunctions(connection_);
   registerDomainFunction(connection_, [this](const std::string& text) { return compileRows(text); });
   std::uint32_t page = 10;
@@ -116,8 +91,8 @@ SmallImage::SmallImage() {
 void SmallImage::add(file::TableDefinition table) {
   std::string columns;
   for (const file::Column& column : table.columns) {
-    columns +=
-        (columns.empty() ? "c" : ", c") + std::to_string(column.number) + " " + declaration(column.type);
+    columns += (columns.empty() ? "c" : ", c") + std::to_string(column.number) + " " +
+               image::columnDeclaration(column.type);
   }
   execute("CREATE TABLE t" + std::to_string(table.page) + " (" + columns + ")");
   tables_.push_back(std::move(table));

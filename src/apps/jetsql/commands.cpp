@@ -82,9 +82,15 @@ void showDesign(Database& database, const std::string& arguments, Output& output
     for (const auto& table : database.TableDefs())
       if (!isSystem(*table)) text += designStatements(*table);
   }
-  for (const auto& relation : database.Relations())
+  // Those between system tables come with the file: no statement makes them.
+  const auto isOfSystem = [&](const std::string& name) {
+    return database.TableDefs().contains(name) && isSystem(*database.TableDefs(name));
+  };
+  for (const auto& relation : database.Relations()) {
+    if (isOfSystem(relation->Table()) || isOfSystem(relation->ForeignTable())) continue;
     if (chosen.empty() || jet::file::sameName(relation->ForeignTable(), chosen))
       text += designStatement(*relation);
+  }
   output.text(text);
 }
 

@@ -1,14 +1,30 @@
 #include "apps/jetsql/errors.h"
 
+#include <algorithm>
 #include <ostream>
+#include <string_view>
 
 #include "jet/sql/syntax_error.h"
 
 namespace jetsql {
 namespace {
 
+/// Of a long line what stands around the character at `position`, in characters from 0.
+std::string nearPlace(std::string_view statement, std::size_t& position) {
+  constexpr std::size_t before = 60, behind = 60;
+  std::string piece;
+  std::size_t number = 0;
+  for (const char c : statement) {
+    number += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    if (number + before > position && number <= position + behind + 1) piece += c;
+  }
+  position = std::min(position, before);
+  return piece;
+}
+
 /// The statement's line that holds the character at `position`, with a caret under it.
-std::string markedLine(const std::string& statement, std::size_t position) {
+std::string markedLine(std::string_view text, std::size_t position) {
+  const std::string statement = nearPlace(text, position);
   std::string line;
   std::string mark;
   for (const char c : statement) {

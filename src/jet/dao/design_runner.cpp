@@ -77,6 +77,14 @@ bool variableOfSize(const file::Column& column) {
 
 }  // namespace
 
+/// What is reckoned of Longs can lie beyond them: error 6 then.
+void DesignRunner::requireLongs(std::uint32_t page, const file::Column& column) const {
+  auto beyond = image_.connection().prepare("SELECT 1 FROM " + image::tableName(page) + " WHERE " +
+                                            image::columnName(column.number) +
+                                            " NOT BETWEEN -2147483648 AND 2147483647 LIMIT 1");
+  if (beyond.step()) throw runtime::languageError(runtime::Overflow);
+}
+
 const file::TableDefinition& DesignRunner::table(const std::string& name) const {
   const auto* found = image_.definition(name);
   if (!found) fail(3078, "Tabella inesistente: " + name);
@@ -227,6 +235,8 @@ std::int64_t DesignRunner::run(const sql::SelectInto& into, const Answers& answe
   auto insert =
       runner_.prepareInto("INSERT INTO " + image::tableName(page) + "(" + columns + ") ", into.rows, answers);
   insert.run();
+  for (std::size_t i = 0; i < into.rows.columns.size(); ++i)
+    if (into.rows.columns[i].type == sql::Type::Long) requireLongs(page, image_.definition(page).columns[i]);
   const auto count = sqlite3_changes64(image_.connection().handle());
   image_.markChanged(page);
   whole.keep();

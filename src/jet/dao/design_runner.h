@@ -30,6 +30,7 @@ class DesignRunner {
   const file::TableDefinition& table(const std::string& name) const;
   void relate(const std::string& table, const sql::CreateRelation& relation);
   void convert(const file::TableDefinition& table, const file::Column& from, const sql::NewColumn& to);
+  void requireLongs(std::uint32_t page, const file::Column& column) const;
   void setRules(std::uint32_t page, const sql::NewColumn& column);
 
   StatementRunner& runner_;

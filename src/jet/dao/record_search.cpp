@@ -56,9 +56,11 @@ void RecordSearch::show(const std::vector<std::string>& fields, const std::strin
                         const std::string& from) {
   std::string columns;
   for (std::size_t i = 0; i < fields.size(); ++i) {
-    const bool text = file::isText(table_.columns[i].type);
-    columns +=
-        fields[i] + (text ? " COLLATE JET AS " : " AS ") + image::columnName(table_.columns[i].number) + ", ";
+    const auto type = table_.columns[i].type;
+    const char* order = file::isText(type)                  ? " COLLATE JET"
+                        : type == file::ColumnType::Numeric ? " COLLATE JETDECIMAL"
+                                                            : "";
+    columns += fields[i] + order + " AS " + image::columnName(table_.columns[i].number) + ", ";
   }
   session_->image().connection().execute("CREATE TEMP VIEW " + image::tableName(table_.page) + " AS SELECT " +
                                          columns + place + " AS " +

@@ -56,7 +56,8 @@ void bindBlob(image::Statement& statement, int parameter, const runtime::Bytes& 
   if (value.empty())
     sqlite3_bind_zeroblob(statement.handle(), parameter, 0);
   else
-    sqlite3_bind_blob64(statement.handle(), parameter, value.data(), value.size(), SQLITE_TRANSIENT);
+    image::requireBound(statement.handle(), sqlite3_bind_blob64(statement.handle(), parameter, value.data(),
+                                                                value.size(), SQLITE_TRANSIENT));
 }
 
 void bindDynamic(image::Statement& statement, int parameter, const Variant& value) {
@@ -173,7 +174,7 @@ Variant fromImage(const image::Statement& row, int column, Type type) {
     case Type::Integer:
       return Variant(static_cast<std::int16_t>(row.integer(column)));
     case Type::Long:
-      return Variant(static_cast<std::int32_t>(row.integer(column)));
+      return dynamicValue(row, column);  // what is reckoned of Longs can be a Double
     case Type::Currency:
       return Variant(runtime::Currency{row.integer(column)});
     case Type::Single:

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "jet/file/text_key.h"
+#include "jet/image/decimal.h"
 
 namespace jet::image {
 
@@ -30,9 +31,19 @@ constexpr Limit Limits[] = {
     {"cannot open savepoint", 3211, "Tabella non ancora letta, e un'istruzione di modifica è in corso"},
 };
 
-int compareJet(void*, int lengthA, const void* a, int lengthB, const void* b) {
-  return file::compareText({static_cast<const char*>(a), static_cast<std::size_t>(lengthA)},
-                           {static_cast<const char*>(b), static_cast<std::size_t>(lengthB)});
+// Bits of SQLite's mask of optimisations, as its tests name them: the filter before an automatic index, and
+// its use further outside. It hashes a text by its bytes, or by how many there are, so that under a collation
+// equal texts miss each other: 'alfa' and 'alfa ', a Decimal's 1 and 1.00.
+constexpr int BloomFilter = 0x80000, BloomPulldown = 0x100000;
+// One row if a join over an automatic index finds the text that is equal and longer.
+constexpr char EqualTextsMeet[] =
+    "SELECT 1 FROM (SELECT name AS a FROM sqlite_master WHERE 0 UNION ALL SELECT 'a') AS x CROSS JOIN "
+    "(SELECT name AS b FROM sqlite_master WHERE 0 UNION ALL SELECT 'a ') AS y ON x.a COLLATE JET = y.b";
+
+template <int (*compare)(std::string_view, std::string_view)>
+int collate(void*, int lengthA, const void* a, int lengthB, const void* b) {
+  return compare({static_cast<const char*>(a), static_cast<std::size_t>(lengthA)},
+                 {static_cast<const char*>(b), static_cast<std::size_t>(lengthB)});
 }
 
 }  // namespace
@@ -52,6 +63,8 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
       return runtime::Error(3183, Source, "Spazio insufficiente sul disco temporaneo");
     case SQLITE_NOMEM:
       return runtime::Error(7, Source, "Memoria esaurita");
+    case SQLITE_TOOBIG:
+      return runtime::Error(14, Source, "Spazio per le stringhe esaurito: un valore supera 1 GB");
     case SQLITE_LOCKED:
       return runtime::Error(3211, Source, "Tabella in uso da un altro recordset");
     default:
@@ -60,11 +73,22 @@ runtime::Error errorFromSqlite(sqlite3* connection) {
   for (const Limit& limit : Limits)
     if (message.find(limit.words) != std::string::npos)
       return runtime::Error(limit.number, Source, limit.description);
-  return runtime::Error(3000, Source, "Errore riservato: " + message);
+  return runtime::Error(3000, Source,
+                        "Errore riservato: codice " + std::to_string(sqlite3_extended_errcode(connection)));
 }
 
-void registerTextOrder(sqlite3* connection) {
-  sqlite3_create_collation_v2(connection, "JET", SQLITE_UTF8, nullptr, compareJet, nullptr);
+void registerOrders(sqlite3* connection) {
+  sqlite3_create_collation_v2(connection, "JET", SQLITE_UTF8, nullptr, collate<file::compareText>, nullptr);
+  sqlite3_create_collation_v2(connection, "JETDECIMAL", SQLITE_UTF8, nullptr, collate<compareDecimals>,
+                              nullptr);
+  sqlite3_test_control(SQLITE_TESTCTRL_OPTIMIZATIONS, connection, BloomFilter | BloomPulldown);
+}
+
+void requireOrders(sqlite3* connection) {
+  if (!Statement(connection, EqualTextsMeet).step())
+    throw runtime::Error(3000, Source,
+                         std::string("Errore riservato: SQLite ") + sqlite3_libversion() +
+                             " non trova i testi uguali che hanno lunghezze diverse");
 }
 
 Statement::Statement(sqlite3* connection, std::string_view sql) {
@@ -96,8 +120,12 @@ void Statement::run() {
 }
 
 void Statement::bind(int parameter, std::string_view value) {
-  sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "", value.size(),
-                      SQLITE_TRANSIENT, SQLITE_UTF8);
+  requireBound(handle_.get(), sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "",
+                                                  value.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+
+void requireBound(sqlite3_stmt* statement, int result) {
+  if (result != SQLITE_OK && result != SQLITE_RANGE) throw errorFromSqlite(sqlite3_db_handle(statement));
 }
 
 std::string Statement::text(int column) const {
@@ -112,7 +140,10 @@ Connection::Connection() {
       "", &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(connection);
   if (result != SQLITE_OK) throw errorFromSqlite(connection);
-  registerTextOrder(connection);
+  registerOrders(connection);
+  // The same for all connections of a process; asked again after a failure.
+  static const bool checked = (requireOrders(connection), true);
+  static_cast<void>(checked);
   execute(Settings);
 }
 

@@ -13,11 +13,19 @@ namespace jet::image {
 
 /// What SQLite says went wrong, as a numbered error: one that a registered function raised
 /// ("number|description") as it is; a duplicate key 3022, a full scratch disk 3183, a table in use 3211, no
-/// memory 7, a statement beyond SQLite's limits 3360, an overflow 6, anything else 3000.
+/// memory 7, a value over 1 GB 14, a statement beyond SQLite's limits 3360, an overflow 6, anything else
+/// 3000.
 runtime::Error errorFromSqlite(sqlite3* connection);
 
-/// Registers the collation JET: the order of texts in the file's keys.
-void registerTextOrder(sqlite3* connection);
+/// Registers the collations JET, the order of texts in the file's keys, and JETDECIMAL, that of the image's
+/// decimal digits, and switches off what in SQLite takes equal values to be equal in bytes.
+void registerOrders(sqlite3* connection);
+/// Error 3000 if the SQLite at hand does so nonetheless: its joins would lose rows.
+void requireOrders(sqlite3* connection);
+
+/// Throws errorFromSqlite where the `result` of binding a value tells of a parameter that has stayed Null,
+/// for want of memory. A parameter that the statement doesn't have is none.
+void requireBound(sqlite3_stmt* statement, int result);
 
 /// One prepared statement. Parameters count from 1, columns from 0, as SQLite counts them.
 class Statement {
@@ -51,7 +59,7 @@ class Statement {
 };
 
 /// The scratch database behind an open file: private, on disk only where it outgrows its cache, gone at the
-/// end. Its text order is the collation JET.
+/// end. Its orders are JET and JETDECIMAL.
 class Connection {
  public:
   Connection();

@@ -59,7 +59,32 @@ bool roundsUp(const std::string& digits, std::size_t kept) {
   return !exactHalf || last % 2 == 1;
 }
 
+/// The digits that count, before and behind the point.
+struct Parts {
+  bool negative;
+  std::string_view whole, fraction;
+};
+
+Parts partsOf(std::string_view text) {
+  const bool negative = text.starts_with('-');
+  if (negative) text.remove_prefix(1);
+  const auto point = std::min(text.find('.'), text.size());
+  std::string_view whole = text.substr(0, point), fraction = text.substr(std::min(point + 1, text.size()));
+  whole.remove_prefix(std::min(whole.find_first_not_of('0'), whole.size()));
+  fraction = fraction.substr(0, fraction.find_last_not_of('0') + 1);
+  return {negative && !(whole.empty() && fraction.empty()), whole, fraction};
+}
+
 }  // namespace
+
+int compareDecimals(std::string_view a, std::string_view b) {
+  const Parts left = partsOf(a), right = partsOf(b);
+  if (left.negative != right.negative) return left.negative ? -1 : 1;
+  int order = left.whole.size() < right.whole.size() ? -1 : left.whole.size() > right.whole.size();
+  if (order == 0) order = left.whole.compare(right.whole);
+  if (order == 0) order = left.fraction.compare(right.fraction);
+  return left.negative ? -order : order;
+}
 
 std::string decimalText(const runtime::Decimal& value) {
   std::string digits;

@@ -36,6 +36,8 @@ void Image::setDefinition(Table& changed, file::TableDefinition design) {
 void Image::createTable(file::TableDefinition design, const file::PropertyBlock& block) {
   requireWritable();
   checkName(design.name);
+  if (const auto* other = find(design.name); other && other->system())
+    fail(3111, "Impossibile modificare una tabella di sistema: " + other->name);
   if (const auto other = findObject(design.name))
     fail(other->type == file::ObjectType::Table ? 3010 : 3012, "Tabella già presente: " + design.name);
   Transaction whole(*this);

@@ -151,15 +151,20 @@ void Image::dropTriggersAround(const Table& table) {
 }
 
 void Image::autoNumber(sqlite3_context* context, int, sqlite3_value** values) {
-  auto& last = static_cast<Image*>(sqlite3_user_data(context))
-                   ->state_.autoNumbers[static_cast<std::uint32_t>(sqlite3_value_int64(values[0]))];
+  auto& image = *static_cast<Image*>(sqlite3_user_data(context));
+  auto& last = image.state_.autoNumbers[static_cast<std::uint32_t>(sqlite3_value_int64(values[0]))];
   if (sqlite3_value_type(values[1]) != SQLITE_NULL) {
     const auto given = sqlite3_value_int64(values[1]);
     last = std::max(last, static_cast<std::int32_t>(given));
     return sqlite3_result_int64(context, given);
   }
   if (last == INT32_MAX) return sqlite3_result_error(context, "6|Contatore esaurito", -1);
-  sqlite3_result_int64(context, ++last);
+  image.identity_ = ++last;
+  sqlite3_result_int64(context, last);
+}
+
+void Image::identity(sqlite3_context* context, int, sqlite3_value**) {
+  sqlite3_result_int64(context, static_cast<Image*>(sqlite3_user_data(context))->identity_);
 }
 
 }  // namespace jet::image

@@ -68,6 +68,8 @@ Image::Image(std::unique_ptr<file::PageFile> source) : source_(std::move(source)
   indexNames();
   sqlite3_create_function_v2(connection_.handle(), "jet_auto_number", 2, SQLITE_UTF8, this,
                              &Image::autoNumber, nullptr, nullptr, nullptr);
+  sqlite3_create_function_v2(connection_.handle(), "jet_identity", 0, SQLITE_UTF8, this, &Image::identity,
+                             nullptr, nullptr, nullptr);
   sqlite3_create_function_v2(connection_.handle(), "jet_cascaded", 1, SQLITE_UTF8, this, &Image::cascaded,
                              nullptr, nullptr, nullptr);
   registerFileScan(*this);
@@ -238,6 +240,8 @@ void Image::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>
   auto& wanted = table(page);
   if (wanted.link)
     throw runtime::Error(3027, Source, "Impossibile aggiornare una tabella collegata: " + wanted.name);
+  if (wanted.system())
+    throw runtime::Error(3111, Source, "Impossibile modificare una tabella di sistema: " + wanted.name);
   cascaded_.clear();
   std::vector<Readied> done;
   readyChange(wanted, compared, change, done);
@@ -271,9 +275,14 @@ void Image::commit() {
 
 void Image::rollback() {
   ++generation_;
-  const std::string level = levelName(saved_.size() - 1);
-  connection_.execute("ROLLBACK TO " + level);
-  connection_.execute("RELEASE " + level);
+  if (sqlite3_get_autocommit(connection_.handle())) {
+    // Without memory or disk SQLite takes back all levels at once.
+    for (auto& state : saved_) state = saved_.front();
+  } else {
+    const std::string level = levelName(saved_.size() - 1);
+    connection_.execute("ROLLBACK TO " + level);
+    connection_.execute("RELEASE " + level);
+  }
   state_ = std::move(saved_.back());
   saved_.pop_back();
 }

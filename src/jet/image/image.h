@@ -94,7 +94,7 @@ class Image {
   /// Makes `t<page>` ready for `change`: unique and required indexes, Required, AllowZeroLength
   /// and validation rules, auto-numbers and relations are watched (3022, 3058, 3314 to 3317, 3200, 3201). Of
   /// the tables that relations lead to only those are loaded that the change can meet. Error 3027 in a
-  /// read-only database and for a link; that of a rule that can't be read.
+  /// read-only database and for a link, 3111 for a system table; that of a rule that can't be read.
   void prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared,
                        const RowChange& change = {});
   /// Notes that rows of the table have changed, and those of other tables that cascades of the last statement
@@ -105,7 +105,7 @@ class Image {
   // 3027 in a read-only database; 3057 where it is not for links.
 
   /// Adds a table of this design (page, rows and maps are the image's business) with the properties of itself
-  /// and its columns. Error 3010 if the name is taken, 3012 by a query or link.
+  /// and its columns. Error 3010 if the name is taken, 3012 by a query or link, 3111 by a system table.
   void createTable(file::TableDefinition design, const file::PropertyBlock& properties = {});
   /// Drops a table, or a link and not what it leads to. Error 3376 if there is none, 3281 while a relation
   /// stands on it, 3111 for a system table.
@@ -211,6 +211,8 @@ class Image {
     std::map<std::uint32_t, std::shared_ptr<const file::PropertyBlock>> properties;  // those read, by id
   };
 
+  /// The number given out last by this connection, 0 before the first.
+  static void identity(sqlite3_context* context, int count, sqlite3_value** values);
   static void autoNumber(sqlite3_context* context, int count, sqlite3_value** values);
   /// Called where a cascade changes rows of another table.
   static void cascaded(sqlite3_context* context, int count, sqlite3_value** values);
@@ -253,7 +255,7 @@ class Image {
   struct Bond;
   std::vector<Bond> bonds(Table& table, file::LogicalIndex::Side side);
   /// Condition under which a row of the other table is the partner of row `changed`, NEW or OLD.
-  std::string partners(const Bond& bond, const std::string& changed, bool changedIsChild);
+  static std::string partners(const Bond& bond, const std::string& changed, bool changedIsChild);
   void guardRelations(Table& table);
   void guardAsChild(const Bond& bond, std::size_t number);
   void guardAsParent(const Bond& bond, std::size_t number);
@@ -285,6 +287,7 @@ class Image {
   std::vector<State> saved_;  // one for each open transaction
   std::uint64_t generation_ = 0;
   std::unique_ptr<file::FreePages> freePages_;
+  std::int32_t identity_ = 0;
   std::set<std::uint32_t> cascaded_;  // tables that cascades changed since the last prepareToChange
 };
 

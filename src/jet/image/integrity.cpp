@@ -71,17 +71,9 @@ std::string Image::partners(const Bond& bond, const std::string& changed, bool c
   std::string condition;
   const auto& changedSide = changedIsChild ? bond.foreignColumns : bond.parentColumns;
   const auto& searched = changedIsChild ? bond.parentColumns : bond.foreignColumns;
-  const auto& parent = definition(bond.parent);
-  const auto& child = definition(bond.child);
   for (std::size_t i = 0; i < searched.size(); ++i) {
-    std::string left = columnName(searched[i]), right = changed + "." + columnName(changedSide[i]);
-    const auto& key = parent.columns[*parent.findNumber(bond.parentColumns[i])];
-    const auto& foreign = child.columns[*child.findNumber(bond.foreignColumns[i])];
-    if (key.type == file::ColumnType::Numeric && key.scale != foreign.scale) {
-      // Digits are kept to the scale of their column: 1.5 here is 1.50 there.
-      for (auto* side : {&left, &right}) *side = "rtrim(rtrim(" + *side + ", '0'), '.')";
-    }
-    condition += (condition.empty() ? "" : " AND ") + left + " = " + right;
+    condition += (condition.empty() ? "" : " AND ") + columnName(searched[i]) + " = " + changed + "." +
+                 columnName(changedSide[i]);
   }
   return condition;
 }

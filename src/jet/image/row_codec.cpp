@@ -45,13 +45,14 @@ struct BindTarget {
   void integer(std::int64_t v) { sqlite3_bind_int64(statement, parameter, v); }
   void real(double v) { sqlite3_bind_double(statement, parameter, v); }
   void text(const std::string& v) {
-    sqlite3_bind_text64(statement, parameter, v.data(), v.size(), SQLITE_STATIC, SQLITE_UTF8);
+    requireBound(statement,
+                 sqlite3_bind_text64(statement, parameter, v.data(), v.size(), SQLITE_STATIC, SQLITE_UTF8));
   }
   void blob(std::span<const std::byte> v) {
     if (v.empty())
       sqlite3_bind_zeroblob(statement, parameter, 0);
     else
-      sqlite3_bind_blob64(statement, parameter, v.data(), v.size(), SQLITE_STATIC);
+      requireBound(statement, sqlite3_bind_blob64(statement, parameter, v.data(), v.size(), SQLITE_STATIC));
   }
 };
 
@@ -154,7 +155,7 @@ const char* columnDeclaration(ColumnType type) {
     case ColumnType::Memo:
       return "TEXT COLLATE JET";
     case ColumnType::Numeric:
-      return "TEXT";
+      return "TEXT COLLATE JETDECIMAL";
     case ColumnType::Binary:
     case ColumnType::Ole:
     case ColumnType::Guid:

@@ -89,21 +89,6 @@ Decimal parseDecimal(std::string_view digits) {
   return checked(number);
 }
 
-int compareDecimals(std::string_view a, std::string_view b) {
-  const Decimal left = parseDecimal(a), right = parseDecimal(b);
-  if (left.negative != right.negative) return left.negative ? -1 : 1;
-  const Wide leftWhole = left.magnitude / powerOfTen(left.scale),
-             rightWhole = right.magnitude / powerOfTen(right.scale);
-  int order = leftWhole < rightWhole ? -1 : leftWhole > rightWhole;
-  if (order == 0) {
-    const int scale = std::max(left.scale, right.scale);
-    const Wide leftPart = left.magnitude % powerOfTen(left.scale) * powerOfTen(scale - left.scale);
-    const Wide rightPart = right.magnitude % powerOfTen(right.scale) * powerOfTen(scale - right.scale);
-    order = leftPart < rightPart ? -1 : leftPart > rightPart;
-  }
-  return left.negative ? -order : order;
-}
-
 Decimal addDecimals(const Decimal& a, const Decimal& b) {
   const int scale = std::max(a.scale, b.scale);
   const Wide left = rescaled(a, scale), right = rescaled(b, scale);

@@ -5,7 +5,7 @@
 
 #include "runtime/variant.h"
 
-/// Decimal numbers in the digits that the image keeps ("-12.50"): order and exact reckoning.
+/// Decimal numbers in the digits that the image keeps ("-12.50"): exact reckoning.
 namespace jet::sql {
 
 /// All digits are kept. Error 13 if it is no plain number, 6 above 28 digits.
@@ -13,8 +13,6 @@ runtime::Decimal parseDecimal(std::string_view digits);
 
 /// A Double gives its 15 digits. Error 13 for what is no number, 6 above 28 digits.
 runtime::Decimal toDecimal(const runtime::Variant& value);
-
-int compareDecimals(std::string_view a, std::string_view b);
 
 /// Error 6 where the result has more than 28 digits.
 runtime::Decimal addDecimals(const runtime::Decimal& a, const runtime::Decimal& b);

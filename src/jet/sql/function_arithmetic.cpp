@@ -4,6 +4,7 @@
 #include "jet/image/decimal.h"
 #include "jet/sql/decimal.h"
 #include "jet/sql/function_support.h"
+#include "runtime/date.h"
 #include "runtime/numbers.h"
 
 namespace jet::sql {
@@ -32,6 +33,17 @@ void returnDouble(sqlite3_context* context, double value) {
 void checkLong(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (!isWhole(arguments[0])) throw languageError(runtime::Overflow);
   returnLong(context, whole(arguments[0]));
+}
+
+void checkWhole(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (isWhole(arguments[0])) return sqlite3_result_value(context, arguments[0]);
+  returnDouble(context, number(arguments[0]));
+}
+
+void checkDate(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const double days = number(arguments[0]);
+  if (!runtime::isInCalendar({days})) throw languageError(runtime::Overflow);
+  sqlite3_result_double(context, days);
 }
 
 void checkCurrency(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -160,6 +172,8 @@ void absolute(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 constexpr SqliteFunction functions[] = {
     {"jet_check_long", 1, nullIfAnyIsNull<checkLong>},
+    {"jet_check_whole", 1, nullIfAnyIsNull<checkWhole>},
+    {"jet_check_date", 1, nullIfAnyIsNull<checkDate>},
     {"jet_check_currency", 1, nullIfAnyIsNull<checkCurrency>},
     {"jet_check_single", 1, nullIfAnyIsNull<checkSingle>},
     {"jet_check_double", 1, nullIfAnyIsNull<checkDouble>},
@@ -178,22 +192,10 @@ constexpr SqliteFunction functions[] = {
     {"jet_round", 3, nullIfAnyIsNull<round<Rounding::HalfEven>>},
 };
 
-int compareDigits(void*, int leftLength, const void* left, int rightLength, const void* right) {
-  const std::string_view a(static_cast<const char*>(left), static_cast<std::size_t>(leftLength));
-  const std::string_view b(static_cast<const char*>(right), static_cast<std::size_t>(rightLength));
-  // A collation can't fail: what is no decimal, and no column holds, goes by its characters.
-  try {
-    return compareDecimals(a, b);
-  } catch (const runtime::Error&) {
-    return a.compare(b);
-  }
-}
-
 }  // namespace
 
 void registerArithmetic(sqlite3* connection) {
   registerAll(connection, functions);
-  sqlite3_create_collation_v2(connection, "JETDECIMAL", SQLITE_UTF8, nullptr, compareDigits, nullptr);
 }
 
 }  // namespace jet::sql

@@ -73,6 +73,27 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int(context, runtime::isLike(textOf(arguments[0]), textOf(arguments[1]), file::compareText));
 }
 
+/// The wildcards of ANSI in those of the language, whose own stand for themselves.
+std::string fromAnsi(std::string_view pattern) {
+  std::string result;
+  bool list = false;
+  for (const char c : pattern) {
+    if (list || (c != '%' && c != '_' && c != '*' && c != '?' && c != '#'))
+      result += c;
+    else if (c == '%' || c == '_')
+      result += c == '%' ? '*' : '?';
+    else
+      result += {'[', c, ']'};
+    list = list ? c != ']' : c == '[';
+  }
+  return result;
+}
+
+void alike(sqlite3_context* context, int, sqlite3_value** arguments) {
+  sqlite3_result_int(
+      context, runtime::isLike(textOf(arguments[0]), fromAnsi(textOf(arguments[1])), file::compareText));
+}
+
 void strComp(sqlite3_context* context, int count, sqlite3_value** arguments) {
   const std::string_view a = textOf(arguments[0]), b = textOf(arguments[1]);
   const bool exact = compareMode(count, arguments, 2) == runtime::Compare::Exact;
@@ -164,6 +185,7 @@ constexpr SqliteFunction functions[] = {
     {"jet_instr_rev", -1, nullIfAnyIsNull<inStrRev>},
     {"jet_replace", -1, nullIfAnyIsNull<replace>},
     {"jet_like", 2, nullIfAnyIsNull<like>},
+    {"jet_alike", 2, nullIfAnyIsNull<alike>},
     {"jet_str_comp", -1, nullIfAnyIsNull<strComp>},
     {"jet_val", 1, nullIfAnyIsNull<val>},
     {"jet_str", 1, nullIfAnyIsNull<str>},

@@ -1,5 +1,7 @@
 #include "jet/sql/syntax_error.h"
 
+#include "runtime/letters.h"
+
 namespace jet::sql {
 
 namespace {
@@ -48,12 +50,19 @@ constexpr Description descriptions[] = {
     {TypesDiffer, "Tipi di dati non corrispondenti nell'espressione criterio"},
 };
 
+/// As much of a long detail as tells which it is.
+std::string shortened(const std::string& detail) {
+  constexpr std::size_t most = 60;
+  if (detail.size() <= most) return detail;
+  return detail.substr(0, runtime::utf8Prefix(std::string_view(detail).substr(0, most))) + "...";
+}
+
 std::string describe(StatementError number, const std::string& detail) {
   std::string text;
   for (const Description& description : descriptions) {
     if (description.number == number) text = description.text;
   }
-  return detail.empty() ? text : text + ": " + detail;
+  return detail.empty() ? text : text + ": " + shortened(detail);
 }
 
 }  // namespace

@@ -42,6 +42,10 @@ const char* typeName(Type type);
 constexpr bool isText(Type type) {
   return type == Type::Text || type == Type::Memo;
 }
+/// True where the image orders the values by a collation: of texts, of decimal digits.
+constexpr bool isCollated(Type type) {
+  return isText(type) || type == Type::Decimal;
+}
 constexpr bool isWholeNumber(Type type) {
   return type >= Type::Boolean && type <= Type::Long;
 }

@@ -94,6 +94,7 @@ Variant readValue(sqlite3_value* value, Type type) {
     case Type::Byte:
     case Type::Integer:
     case Type::Long:
+      if (sqlite3_value_type(value) == SQLITE_FLOAT) return sqlite3_value_double(value);
       return readWhole(sqlite3_value_int64(value));
     case Type::Currency:
       return runtime::Currency{sqlite3_value_int64(value)};

@@ -37,7 +37,8 @@ Expression Binder::bind(const tree::Arithmetic& node, const Place&) {
   const auto operand = [&](Expression value) {
     if (moneyTimesCount && isWholeNumber(value.type)) return value;
     const bool dateDifference = type == Type::Double && value.type == Type::Date;
-    return dateDifference ? std::move(value) : convert(std::move(value), type);
+    if (dateDifference || (type == Type::Date && value.type == Type::Date)) return value;
+    return convert(std::move(value), type == Type::Date ? Type::Double : type);  // days may be any number
   };
   return {type, bound::Arithmetic{node.op, operand(std::move(left)), operand(std::move(right))}};
 }

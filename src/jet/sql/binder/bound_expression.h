@@ -30,7 +30,7 @@ struct Literal {
 struct Column {
   unsigned source = 0;
   std::string name;
-  bool collated = false;  // SQLite knows its text order
+  bool collated = false;  // SQLite knows the order of its texts or digits
   bool operator==(const Column&) const = default;
 };
 
@@ -93,7 +93,7 @@ struct Not {
 };
 
 struct Like {
-  bool negated = false;
+  bool negated = false, ansi = false;
   Box<Expression> value, pattern;
   bool operator==(const Like&) const = default;
 };

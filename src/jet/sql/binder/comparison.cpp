@@ -36,7 +36,7 @@ Expression Binder::bind(const tree::Between& node, const Place& place) {
 }
 
 Expression Binder::bind(const tree::Like& node, const Place&) {
-  return {Type::Boolean, bound::Like{node.negated, converted(*node.value, Type::Text),
+  return {Type::Boolean, bound::Like{node.negated, node.ansi, converted(*node.value, Type::Text),
                                      converted(*node.pattern, Type::Text)}};
 }
 

@@ -48,7 +48,7 @@ std::optional<Expression> convertLiteral(const Literal& literal, Type from, Type
   if (plain && type == Type::Currency) {
     if (const auto exact = exactCurrency(literal)) return Expression{type, Literal{*exact}};
   }
-  if (whole && plain && (type == Type::Double || type == Type::Single || type == Type::Date)) {
+  if (whole && plain && (type == Type::Double || type == Type::Single)) {
     return Expression{type, Literal{static_cast<double>(*whole)}};
   }
   if (whole && plain && type == Type::Decimal) return Expression{type, Literal{std::to_string(*whole)}};

@@ -113,6 +113,7 @@ constexpr Function functions[] = {
 };
 
 constexpr Function choose{"CHOOSE", 2, {aLong}, Fixed, Type::Null, "jet_choose($*)"};
+constexpr Function identity{"@@IDENTITY", 0, {}, Fixed, Type::Long, "jet_identity()"};
 constexpr Function domain{"DLOOKUP",       4, {Any, Any, aText, aText, Text}, Fixed, Type::Variant,
                           "jet_domain($*)"};
 
@@ -135,6 +136,10 @@ const Function* findFunction(const std::string& name, std::size_t arguments) {
 
 const Function& chooseFunction() {
   return choose;
+}
+
+const Function& identityFunction() {
+  return identity;
 }
 
 const Function& domainFunction() {

@@ -38,6 +38,9 @@ bool isAggregate(const std::string& name);
 /// Choose(index, value, ...); its values are of one type, which is the result's.
 const Function& chooseFunction();
 
+/// What gives the auto-number given out last.
+const Function& identityFunction();
+
 /// What gives a domain's value: (type, aggregate, expression, domain[, criteria]).
 const Function& domainFunction();
 

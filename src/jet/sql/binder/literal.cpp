@@ -13,6 +13,20 @@ namespace {
 using bound::Expression;
 using bound::Literal;
 
+/// "&HFF", "&O17": 16 bits, or 32 with more digits or "&" behind them; the highest is the sign.
+Expression basedNumber(std::string_view text, std::size_t position) {
+  const bool isLong = text.ends_with('&');
+  if (isLong) text.remove_suffix(1);
+  std::uint32_t bits = 0;
+  const std::string_view digits = text.substr(2);
+  const int base = text[1] == 'H' || text[1] == 'h' ? 16 : 8;
+  if (std::from_chars(digits.data(), digits.data() + digits.size(), bits, base).ec != std::errc{})
+    throw SyntaxError(runtime::Overflow, "Overflow: " + std::string(text), position);
+  const bool narrow = !isLong && bits <= UINT16_MAX;
+  return {Type::Long,
+          Literal{narrow ? std::int64_t{static_cast<std::int16_t>(bits)} : static_cast<std::int32_t>(bits)}};
+}
+
 /// A Long where the digits are whole and fit, otherwise a Double.
 Expression number(const std::string& digits, std::size_t position) {
   const char* end = digits.data() + digits.size();
@@ -36,6 +50,7 @@ Expression Binder::bind(const tree::Literal& node, const Place& place) {
     case Kind::Boolean:
       return {Type::Boolean, Literal{std::int64_t{node.text == "True" ? -1 : 0}}};
     case Kind::Number:
+      if (node.text.starts_with('&')) return basedNumber(node.text, place.position);
       return number(node.text, place.position);
     case Kind::Date:
       return {Type::Date, Literal{dateValue(node.text)}};

@@ -1,6 +1,8 @@
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"
+#include "jet/sql/binder/function.h"
+#include "jet/sql/parser/token.h"
 #include "jet/sql/syntax_error.h"
 #include "jet/sql/tree/print.h"
 
@@ -15,6 +17,8 @@ Expression Binder::bind(const tree::Name& node, const Place& place) {
   for (const Scope* scope = scope_.outer(); scope; scope = scope->outer()) {
     if (auto found = scope->find(node, place.position)) return std::move(found->column.value);
   }
+  if (node.table.empty() && sameWord(node.column, identityFunction().name))
+    return {identityFunction().type, bound::Call{&identityFunction(), {}}};
   return parameter(node.table.empty() ? node.column : node.table + "." + node.column, place.position);
 }
 

@@ -20,7 +20,7 @@ VisibleColumn copyOf(const VisibleColumn& column) {
 }  // namespace
 
 VisibleColumn VisibleSource::columnOf(const file::Column& column) const {
-  bound::Column value{source, "c" + std::to_string(column.number), file::isText(column.type)};
+  bound::Column value{source, "c" + std::to_string(column.number), isCollated(typeOf(column.type))};
   return {column.name, {typeOf(column.type), std::move(value)}, table->name, column.name};
 }
 

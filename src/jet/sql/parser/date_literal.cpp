@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <chrono>
 #include <cstdio>
 #include <optional>
@@ -116,10 +118,20 @@ std::optional<Moment> readMoment(Pieces pieces) {
   return pieces.empty() ? std::optional(moment) : std::nullopt;
 }
 
+/// A month's name leaves no doubt about the order: it is read as CDate reads it.
+std::optional<Moment> readNamed(std::string_view inside) {
+  const auto letters = std::ranges::count_if(inside, [](unsigned char c) { return std::isalpha(c) != 0; });
+  const auto date = letters < 3 ? std::nullopt : runtime::dateFromText(inside);
+  if (!date) return std::nullopt;
+  const runtime::DateParts parts = runtime::partsOf(*date);
+  return Moment{parts.year, parts.month, parts.day, parts.hour, parts.minute, parts.second};
+}
+
 }  // namespace
 
 std::string canonicalDate(std::string_view inside) {
-  const auto moment = readMoment(Pieces(inside));
+  auto moment = readMoment(Pieces(inside));
+  if (!moment) moment = readNamed(inside);
   if (!moment) return "";
   char text[80];
   std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", moment->year, moment->month, moment->day,

@@ -147,7 +147,7 @@ std::optional<Expression> Parser::operation(Expression& left, int minimum) {
                     {position, depth + 1}};
 }
 
-/// LIKE, IN, BETWEEN with or without NOT, and IS [NOT] NULL.
+/// LIKE, ALIKE, IN, BETWEEN with or without NOT, and IS [NOT] NULL.
 Expression Parser::predicate(Expression left) {
   const std::size_t position = left.place.position;
   const unsigned depth = left.place.depth;
@@ -157,10 +157,12 @@ Expression Parser::predicate(Expression left) {
     return make(IsNull{negated, std::move(left)}, position, depth);
   }
   const bool negated = cursor_.acceptWord("NOT");
-  if (cursor_.acceptWord("LIKE")) {
+  const bool ansi = cursor_.atWord("ALIKE");
+  if (ansi || cursor_.atWord("LIKE")) {
+    cursor_.take();
     Expression pattern = expression(ComparisonOperand);
     const unsigned highest = std::max(depth, pattern.place.depth);
-    return make(Like{negated, std::move(left), std::move(pattern)}, position, highest);
+    return make(Like{negated, ansi, std::move(left), std::move(pattern)}, position, highest);
   }
   if (cursor_.acceptWord("BETWEEN")) {
     Expression low = expression(ComparisonOperand);

@@ -6,6 +6,8 @@ namespace jet::sql {
 
 namespace {
 
+constexpr std::string_view identity = "@@IDENTITY";
+
 char upper(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
@@ -21,6 +23,10 @@ bool beginsWord(char c) {
 }
 bool continuesWord(char c) {
   return beginsWord(c) || isDigit(c) || c == '$';
+}
+
+bool isDigitOf(char c, bool hexadecimal) {
+  return hexadecimal ? isDigit(c) || (upper(c) >= 'A' && upper(c) <= 'F') : c >= '0' && c <= '7';
 }
 
 class Lexer {
@@ -55,7 +61,19 @@ class Lexer {
     const char first = rest_.front();
     if (beginsWord(first)) return readWord(token);
     if (isDigit(first) || (first == '.' && isDigit(at(1)))) return readNumber(token);
+    if (const std::size_t length = basedNumber()) {
+      token.kind = Token::Kind::Number;
+      token.text = take(length);
+      return;
+    }
     switch (first) {
+      case '@':
+        if (sameWord(rest_.substr(0, identity.size()), identity) && !continuesWord(at(identity.size()))) {
+          token.kind = Token::Kind::Word;
+          token.text = take(identity.size());
+          return;
+        }
+        return readSymbol(token);
       case '\'':
       case '"':
         return readQuoted(token, Token::Kind::Text, first, true);
@@ -90,6 +108,19 @@ class Lexer {
     }
     token.kind = Token::Kind::Number;
     token.text = take(length);
+  }
+
+  /// Length of "&HFF" or "&O17", with "&" behind it for a Long; 0 where none stands: "&" joins texts then.
+  std::size_t basedNumber() const {
+    const char base = upper(at(1));
+    if (at(0) != '&' || (base != 'H' && base != 'O')) return 0;
+    std::size_t length = 2;
+    while (isDigitOf(at(length), base == 'H')) ++length;
+    if (length == 2 || continuesWord(at(length))) return 0;
+    const char behind = at(length + 1);
+    const bool operand =
+        continuesWord(behind) || std::string_view("'\"([`.#&").find(behind) != std::string_view::npos;
+    return at(length) == '&' && !(behind != '\0' && operand) ? length + 1 : length;
   }
 
   void readQuoted(Token& token, Token::Kind kind, char close, bool doubled) {

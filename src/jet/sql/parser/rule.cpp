@@ -29,7 +29,7 @@ void compareValues(Expression& part, const std::string& column) {
 }  // namespace
 
 bool Parser::atPredicate() const {
-  static constexpr std::string_view words[] = {"LIKE", "IN", "BETWEEN", "IS"};
+  static constexpr std::string_view words[] = {"LIKE", "ALIKE", "IN", "BETWEEN", "IS"};
   return std::ranges::any_of(words, [&](std::string_view word) { return cursor_.atWord(word); });
 }
 

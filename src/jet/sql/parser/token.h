@@ -10,9 +10,9 @@ namespace jet::sql {
 struct Token {
   enum class Kind {
     End,
-    Word,        // a bare name or a reserved word, as written
+    Word,        // a bare name, a reserved word or @@IDENTITY, as written
     QuotedName,  // its characters, without brackets or back quotes
-    Number,      // as written
+    Number,      // as written, "&HFF" too
     Text,        // its characters
     Date,        // "yyyy-mm-dd hh:mm:ss"
     Symbol,      // "(", "<>", ...

@@ -12,11 +12,17 @@ bool isNative(ArithmeticOperator op) {
 }
 
 /// SQLite's own operators reckon with 64 bits or with Doubles; one check around a chain of them finds a
-/// result that its type can't hold.
+/// result that its type can't hold. Whole numbers have none: beyond a Long they go on as Doubles, as those of
+/// a Variant do ("* Operator" in the language reference of Visual Basic for Applications,
+/// learn.microsoft.com/office/vba/language/reference/user-interface-help/operator: a result that "is a Long,
+/// Single, or Date variant that overflows its legal range" becomes "a Variant containing a Double"). A column
+/// or an argument that is a Long refuses it then, with error 6.
 const char* check(Type type) {
   switch (type) {
     case Type::Long:
-      return "jet_check_long";
+      return "jet_check_whole";
+    case Type::Date:
+      return "jet_check_date";
     case Type::Currency:
       return "jet_check_currency";
     case Type::Single:
@@ -56,8 +62,11 @@ bool takesFunction(const bound::Arithmetic& node, Type type) {
 
 Sql Translator::translate(const bound::Arithmetic& node, Type type) {
   if (takesFunction(node, type)) {
-    return {std::string(function(node.op, type)) + "(" + value(*node.left).text + ", " +
-            value(*node.right).text + ")"};
+    const auto operand = [&](const Expression& each) {
+      return (type == Type::Long ? asLong(each) : value(each)).text;
+    };
+    return {std::string(function(node.op, type)) + "(" + operand(*node.left) + ", " + operand(*node.right) +
+            ")"};
   }
   return {std::string(check(type)) + "(" + unchecked(node, type).text + ")"};
 }
@@ -80,7 +89,8 @@ Sql Translator::unchecked(const Expression& expression) {
 Sql Translator::translate(const bound::Negation& node, Type type) {
   if (type == Type::Decimal) return {"jet_subtract_decimal('0', " + value(*node.operand).text + ")"};
   Sql negated{"-" + within(value(*node.operand), Strength::Whole), Strength::Sign};
-  if (type == Type::Long) return {"jet_check_long(" + negated.text + ")"};
+  if (type == Type::Date) return {"jet_check_date(" + negated.text + ")"};
+  if (type == Type::Long) return {"jet_check_whole(" + negated.text + ")"};
   return negated;
 }
 

@@ -14,7 +14,8 @@ Sql Translator::translate(const bound::Call& node, Type) {
     const bool refused = node.refusesNull || (index < function.most() && function.refusesNull(index));
     const auto* literal = std::get_if<bound::Literal>(&given.node);
     const bool mayBeNull = !literal || std::holds_alternative<std::monostate>(literal->value);
-    Sql sql = value(given);
+    const bool isLong = index < function.most() && function.argument(index) == Function::Long;
+    Sql sql = isLong ? asLong(given) : value(given);
     return refused && mayBeNull ? Sql{"jet_not_null(" + sql.text + ")"} : std::move(sql);
   };
   const std::string_view pattern = node.function->sql;

@@ -24,8 +24,8 @@ Sql Translator::translate(const bound::Between& node, Type) {
 }
 
 Sql Translator::translate(const bound::Like& node, Type) {
-  return {(node.negated ? "NOT jet_like(" : "jet_like(") + value(*node.value).text + ", " +
-              value(*node.pattern).text + ")",
+  return {std::string(node.negated ? "NOT " : "") + (node.ansi ? "jet_alike(" : "jet_like(") +
+              value(*node.value).text + ", " + value(*node.pattern).text + ")",
           node.negated ? Strength::Not : Strength::Whole};
 }
 

@@ -12,8 +12,7 @@ bool isSame(Type from, Type to) {
   if (isWholeNumber(from) && isWholeNumber(to))
     return from < to && !(from == Type::Boolean && to == Type::Byte);
   if (isPlainNumber(from)) {
-    return to == Type::Double || to == Type::Date || to == Type::Variant ||
-           (to == Type::Single && from < Type::Long);
+    return to == Type::Double || to == Type::Variant || (to == Type::Single && from < Type::Long);
   }
   const bool blob = from == Type::Guid || from == Type::Binary || from == Type::Ole;
   return (blob && (to == Type::Binary || to == Type::Ole || to == Type::Variant)) ||
@@ -33,14 +32,15 @@ Sql Translator::translate(const bound::Conversion& node, Type to) {
   const Type from = node.operand->type;
   Sql operand = value(*node.operand);
   if (isSame(from, to)) return operand;
-  if (isText(to) && isWholeNumber(from)) return {"CAST(" + operand.text + " AS TEXT)"};
+  if (isText(to) && isWholeNumber(from) && (from != Type::Long || isStored(*node.operand)))
+    return {"CAST(" + operand.text + " AS TEXT)"};
   if (to == Type::Boolean && (isPlainNumber(from) || from == Type::Currency)) {
     return booleanValue({within(std::move(operand), Strength::Relation) + " <> 0", Strength::Equality});
   }
   if (to == Type::Currency && isWholeNumber(from)) {
     return {within(std::move(operand), Strength::Product) + " * 10000", Strength::Product};
   }
-  if (from == Type::Currency && (to == Type::Double || to == Type::Date || to == Type::Variant)) {
+  if (from == Type::Currency && (to == Type::Double || to == Type::Variant)) {
     return {within(std::move(operand), Strength::Product) + " / 10000.0", Strength::Product};
   }
   return {functionName(from, "_to_", to) + "(" + operand.text + ")"};
@@ -50,7 +50,9 @@ Sql Translator::translate(const bound::Store& node, Type to) {
   const Type from = node.operand->type;
   Sql operand = value(*node.operand);
   if (to == Type::Boolean && isSame(from, to)) return {"ifnull(" + operand.text + ", 0)"};
-  const bool sized = node.size != 0 || to == Type::Decimal;
+  // Arithmetic can give more than a Long holds.
+  const bool wide = from == Type::Long && to == Type::Long && !isStored(*node.operand);
+  const bool sized = node.size != 0 || to == Type::Decimal || wide;
   if (from == Type::Null || (isSame(from, to) && !sized && to != Type::Date)) return operand;
   if (from == Type::Date && to == Type::Date) return operand;
   std::string arguments = operand.text;

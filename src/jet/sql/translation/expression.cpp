@@ -36,6 +36,11 @@ std::string quoted(std::string_view text) {
   return result + "'";
 }
 
+bool isStored(const Expression& expression) {
+  const auto* column = std::get_if<bound::Column>(&expression.node);
+  return std::holds_alternative<bound::Literal>(expression.node) || (column && column->name.starts_with('c'));
+}
+
 Sql booleanValue(Sql condition) {
   return {"-" + within(std::move(condition), Strength::Whole), Strength::Sign};
 }
@@ -54,6 +59,11 @@ Sql Translator::condition(const Expression& expression) {
 
 Sql Translator::value(const Expression& expression) {
   return isCondition(expression) ? booleanValue(condition(expression)) : condition(expression);
+}
+
+Sql Translator::asLong(const Expression& expression) {
+  Sql sql = value(expression);
+  return isStored(expression) ? std::move(sql) : Sql{"jet_check_long(" + sql.text + ")"};
 }
 
 Sql Translator::ordered(const Expression& expression) {

@@ -66,7 +66,7 @@ std::string Translator::orderBy(const bound::Query& tree, const From& from, bool
     for (std::size_t i = 0; i < part.items.size() && !sorted; ++i) add(orderKey({i, false}, part.items));
   } else if (part.grouped) {
     for (std::size_t i = 0; i < part.groupBy.size() && !sorted; ++i) add(this->ordered(part.groupBy[i]).text);
-  } else if (sorted || isOneTable(part.from)) {
+  } else if (sorted || part.top || isOneTable(part.from)) {
     for (const unsigned table : from.tables) add(rowid(table));
   }
   return text;

@@ -60,6 +60,8 @@ class Translator {
   Sql condition(const bound::Expression& expression);
   /// The value with the order of its type: what stands on the left of a comparison, in GROUP BY and ORDER BY.
   Sql ordered(const bound::Expression& expression);
+  /// The value; error 6 where it is no Long.
+  Sql asLong(const bound::Expression& expression);
   std::string list(const std::vector<bound::Expression>& expressions);
 
   Sql translate(const bound::Literal& node, Type type);
@@ -136,6 +138,10 @@ class Translator {
   /// Rowid that tells the order of the rows of the SELECT being translated, or "0".
   std::string firstKey_ = "0";
 };
+
+/// True for a column of the image and for a literal, whose values are within their type. What is reckoned of
+/// Longs can lie beyond.
+bool isStored(const bound::Expression& expression);
 
 /// `-` before a condition: -1 or 0, as the image keeps a Boolean.
 Sql booleanValue(Sql condition);

@@ -38,14 +38,19 @@ Translator::Change Translator::update(const bound::Update& update) {
   gathering_ = nullptr;
   change.steps.gather =
       "SELECT " + gatheredList(targets, gathering) + " FROM " + source.text + where(update.where);
+  // A row that the join finds several times gets the last of its values: the last as the rows lie, whatever
+  // the plan.
+  if (source.tables.size() > 1)
+    for (const unsigned table : source.tables)
+      change.steps.gather += (table == source.tables.front() ? " ORDER BY " : ", ") + rowid(table);
   if (source.tables.size() == 1) {
     change.sql =
         "UPDATE " + source.text + " SET " + assignments(update.targets.front()) + where(update.where);
   } else if (!stepsOnly && !gathering.readsTarget) {
-    // In one step a row that the join finds twice gets the last of its values, as it would row by row.
+    // In one step as row by row. Without a limit SQLite forgets the order of a query in FROM.
     const std::string name = "temp.jet_rows";
     change.sql = change.steps.apply.front();
-    change.sql.replace(change.sql.rfind(name), name.size(), "(" + change.steps.gather + ")");
+    change.sql.replace(change.sql.rfind(name), name.size(), "(" + change.steps.gather + " LIMIT -1)");
   }
   return change;
 }

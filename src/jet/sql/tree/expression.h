@@ -71,8 +71,9 @@ struct Not {
   bool operator==(const Not&) const = default;
 };
 
+/// LIKE, or ALIKE with the wildcards of ANSI.
 struct Like {
-  bool negated = false;
+  bool negated = false, ansi = false;
   Box<Expression> value, pattern;
   bool operator==(const Like&) const = default;
 };

@@ -87,7 +87,8 @@ std::string printNode(const Not& node) {
 }
 
 std::string printNode(const Like& node) {
-  return operand(*node.value) + notIf(node.negated) + " LIKE " + operand(*node.pattern);
+  return operand(*node.value) + notIf(node.negated) + (node.ansi ? " ALIKE " : " LIKE ") +
+         operand(*node.pattern);
 }
 
 std::string printNode(const Between& node) {
