@@ -56,7 +56,7 @@ class Desk {
     environment.destinazione = workspace_.OpenDatabase(target, true);
     environment.percorsoRiferimento = reference;
     environment.scrivi = [this](const std::string&, schema::Voce) { ++lines; };
-    environment.trattieni = [](int) {};
+    environment.trattieni = [](const runtime::Error&) {};
     workspace_.BeginTrans();
   }
   ~Desk() { workspace_.Rollback(); }
