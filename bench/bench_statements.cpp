@@ -8,9 +8,9 @@
 
 #include "child.h"
 #include "jet/dao/engine.h"
-#include "jet/dao/row_changes.h"
-#include "jet/dao/session.h"
-#include "jet/file/usage_map.h"
+#include "jet/dao/query/row_changes.h"
+#include "jet/dao/session/session.h"
+#include "jet/file/page/usage_map.h"
 #include "office_file.h"
 #include "platform/paths.h"
 #include "platform/program.h"

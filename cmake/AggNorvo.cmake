@@ -17,17 +17,31 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_NOHASHDIR=1 ${CCACHE})
 endif()
 
+# Several files of a folder are compiled as one: what they all include is most of the work. Names that a file keeps to
+# itself are therefore its folder's names too.
+option(AGGNORVO_UNITY "Compile files of a folder together" ON)
+set(CMAKE_UNITY_BUILD ${AGGNORVO_UNITY})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
+
 option(AGGNORVO_WERROR "Treat warnings as errors" ON)
 add_library(aggnorvo_options INTERFACE)
-target_compile_options(aggnorvo_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+target_compile_options(aggnorvo_options INTERFACE -Wall -Wextra -Wpedantic
+  # A name that another file of the same unit keeps to itself is not hidden by a local one, nor is its type another's.
+  $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>
   $<$<BOOL:${AGGNORVO_WERROR}>:-Werror>)
 target_include_directories(aggnorvo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
-# layer(NAME [DEPENDENCY...]): every .cpp of the current folder as library NAME.
+# layer(NAME [DEPENDENCY...] [FOLDERS folder...]): every .cpp of the current folder, and of these folders in it, as
+# library NAME.
 function(layer name)
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  cmake_parse_arguments(PARSE_ARGV 1 L "" "" "FOLDERS")
+  set(patterns *.cpp)
+  foreach(folder ${L_FOLDERS})
+    list(APPEND patterns ${folder}/*.cpp)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   add_library(${name} STATIC ${sources})
-  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE aggnorvo_options)
+  target_link_libraries(${name} PUBLIC ${L_UNPARSED_ARGUMENTS} PRIVATE aggnorvo_options)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
 endfunction()
 

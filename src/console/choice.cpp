@@ -7,6 +7,7 @@
 #include "console/frmAggMain.h"
 #include "console/pending_error.h"
 #include "controls/desktop.h"
+#include "jet/file/errors.h"
 #include "platform/clock.h"
 
 namespace console {
@@ -14,7 +15,7 @@ namespace {
 
 /// Error numbers that mean a database open in another program.
 bool apertoAltrove(int numero) {
-  return numero == runtime::PermissionDenied || numero == 3356;
+  return numero == runtime::PermissionDenied || numero == jet::OpenedElsewhere;
 }
 
 /// Closes a database that is only read, whatever happened meanwhile.

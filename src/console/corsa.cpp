@@ -4,6 +4,7 @@
 
 #include "console/frmAggMain.h"
 #include "controls/batch_desktop.h"
+#include "jet/file/errors.h"
 #include "platform/clock.h"
 #include "runtime/format.h"
 
@@ -26,8 +27,10 @@ Corsa::Corsa(const std::string& percorso)
 
 bool diDisegno(int numero) {
   // The engine numbers what it can't make of a statement from 3061 to 3146.
-  constexpr std::array altri = {3010, 3012, 3265, 3346, 3464};
-  return (numero >= 3061 && numero <= 3146) || std::ranges::find(altri, numero) != altri.end();
+  constexpr std::array altri = {jet::TableExists, jet::ObjectExists, jet::ItemNotFound,
+                                jet::InsertCountDiffers, jet::TypesDiffer};
+  return (numero >= jet::TooFewParameters && numero <= 3146) ||
+         std::ranges::find(altri, numero) != altri.end();
 }
 
 }  // namespace console

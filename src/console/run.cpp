@@ -8,6 +8,7 @@
 #include "console/frmAggMain.h"
 #include "console/pending_error.h"
 #include "controls/desktop.h"
+#include "jet/file/errors.h"
 #include "parameters/kep_generali.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -19,7 +20,7 @@ namespace {
 /// The error by which the engine tells that a file is none of its databases; nothing if it is one, or if that
 /// can't be seen now.
 std::optional<runtime::Error> nonDatabase(const std::string& percorso) {
-  constexpr int formatoNonRiconosciuto = 3343;
+  constexpr int formatoNonRiconosciuto = jet::UnrecognizedFormat;
   try {
     jet::dao::Workspace().OpenDatabase(percorso, false, true);
   } catch (const runtime::Error& errore) {

@@ -6,8 +6,6 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t blockSize = 1 << 20;
-
 void lockOrRefuse(File& file, LockMode mode) {
   if (!file.tryLock(mode)) throw DiskError(DiskFault::Sharing, file.path());
 }

@@ -15,6 +15,9 @@
 /// the backslash and UTF-8; the door maps them to the system's own form.
 namespace platform {
 
+/// Bytes at once where a whole file is read.
+inline constexpr std::size_t blockSize = 1 << 20;
+
 enum class DiskFault { NotFound, PathNotFound, AccessDenied, Sharing, NoSpace, Exists, IsFolder, Io, Rights };
 
 /// A failed disk call. number() is the language's: 53 not found, 76 path not found, 75 access denied or

@@ -6,8 +6,6 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t blockSize = 1 << 20;
-
 std::span<const std::byte> bytesOf(std::string_view text) {
   return std::as_bytes(std::span(text));
 }

@@ -11,7 +11,6 @@ namespace {
 
 namespace calendar = std::chrono;
 
-constexpr int secondsOfDay = 24 * 60 * 60;
 constexpr double firstDay = -657434;  // 1 January 100
 constexpr double lastDay = 2958465;   // 31 December 9999
 

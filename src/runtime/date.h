@@ -9,6 +9,8 @@
 /// The civil calendar behind a Date: years 100 to 9999, seconds as the finest part.
 namespace runtime {
 
+inline constexpr int secondsOfDay = 24 * 60 * 60;
+
 struct DateParts {
   int year = 1899;
   int month = 12;

@@ -13,8 +13,6 @@ namespace runtime {
 
 namespace {
 
-constexpr std::int64_t secondsOfDay = 24 * 60 * 60;
-
 /// How an interval is reckoned: in months, in days, or in seconds.
 enum class Measure { Months, Days, Seconds };
 
@@ -55,7 +53,7 @@ std::int64_t floorDivide(std::int64_t value, std::int64_t divisor) {
 }
 
 std::int64_t secondsOf(Moment moment) {
-  return moment.day * secondsOfDay + moment.second;
+  return std::int64_t{moment.day} * secondsOfDay + moment.second;
 }
 
 /// Day `day` with the time of `date`, to its last fraction. Error 5 outside the calendar.
@@ -69,7 +67,7 @@ Date withDay(std::int64_t day, Date date) {
 
 Date withSeconds(std::int64_t seconds) {
   const std::int64_t day = floorDivide(seconds, secondsOfDay);
-  const Date time{static_cast<double>(seconds - day * secondsOfDay) / static_cast<double>(secondsOfDay)};
+  const Date time{static_cast<double>(seconds - day * secondsOfDay) / secondsOfDay};
   return withDay(day, time);
 }
 

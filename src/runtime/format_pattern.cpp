@@ -2,20 +2,14 @@
 
 #include <algorithm>
 
+#include "runtime/text.h"
+
 namespace runtime::pattern {
-
-namespace {
-
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-
-}  // namespace
 
 bool startsWith(std::string_view text, std::string_view lowerCase) {
   if (text.size() < lowerCase.size()) return false;
   for (std::size_t i = 0; i < lowerCase.size(); ++i)
-    if (lower(text[i]) != lowerCase[i]) return false;
+    if (asciiLower(text[i]) != lowerCase[i]) return false;
   return true;
 }
 
@@ -40,7 +34,7 @@ std::size_t takeLiteral(std::string_view rest, std::string& out) {
 Kind kindOf(std::string_view pattern) {
   constexpr std::string_view dates = "cdwmqyhns", numbers = "0#.%", texts = "@&<>!";
   while (!pattern.empty()) {
-    const char c = lower(pattern[0]);
+    const char c = asciiLower(pattern[0]);
     if (dates.find(c) != std::string_view::npos || startsWith(pattern, "ttttt") ||
         startsWith(pattern, "am/pm") || startsWith(pattern, "a/p"))
       return Kind::Date;

@@ -7,21 +7,21 @@ namespace runtime::pattern {
 
 namespace {
 
-bool isPlace(char c) {
+bool isCharacterPlace(char c) {
   return c == '@' || c == '&';
 }
 
 /// What the codes of a section ask for.
-struct Layout {
+struct TextLayout {
   std::size_t places = 0;
   bool fromLeft = false;
   char32_t (*change)(char32_t) = [](char32_t c) { return c; };
 };
 
-Layout layoutOf(std::string_view section) {
-  Layout layout;
+TextLayout textLayoutOf(std::string_view section) {
+  TextLayout layout;
   while (!section.empty()) {
-    layout.places += isPlace(section[0]);
+    layout.places += isCharacterPlace(section[0]);
     layout.fromLeft |= section[0] == '!';
     if (section[0] == '<') layout.change = lowerCase;
     if (section[0] == '>') layout.change = upperCase;
@@ -33,7 +33,7 @@ Layout layoutOf(std::string_view section) {
 }  // namespace
 
 std::string formatText(const std::string& text, std::string_view section) {
-  const Layout layout = layoutOf(section);
+  const TextLayout layout = textLayoutOf(section);
   std::u32string_view rest;
   const std::u32string all = characters(text);
   rest = all;
@@ -47,7 +47,7 @@ std::string formatText(const std::string& text, std::string_view section) {
     write(rest.size() - layout.places);
   while (!section.empty()) {
     const char c = section[0];
-    if (isPlace(c)) {
+    if (isCharacterPlace(c)) {
       if (empty > 0 || rest.empty()) {
         if (c == '@') result += ' ';
         empty -= empty > 0;

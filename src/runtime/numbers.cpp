@@ -7,6 +7,7 @@
 
 #include "runtime/error.h"
 #include "runtime/italian.h"
+#include "runtime/text.h"
 
 namespace runtime {
 
@@ -18,10 +19,6 @@ bool isDigit(char c) {
 bool isBlank(char c) {
   return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 /// Reads the digits after "&H" or "&O" (`prefix`: h or o). Up to 16 bits of hexadecimal or octal digits are a
 /// signed 16-bit number and up to 32 a signed 32-bit one, unless "&" closes them.
 std::optional<double> parseRadix(char prefix, std::string_view digits, std::size_t& used) {
@@ -137,14 +134,14 @@ std::optional<Stripped> stripMarks(std::string_view text) {
 double val(std::string_view text) {
   std::string plain;
   for (const char c : text)
-    if (!isBlank(c)) plain += lower(c) == 'd' ? 'e' : lower(c);
+    if (!isBlank(c)) plain += asciiLower(c) == 'd' ? 'e' : asciiLower(c);
   const bool negative = plain.starts_with('-');
   if (negative || plain.starts_with('+')) plain.erase(0, 1);
   if (plain.size() > 1 && plain[0] == '&') {
     // The loop above must not have turned a hexadecimal D into an E: read the digits from the text itself.
     std::string digits;
     for (const char c : text.substr(text.find('&') + 1))
-      if (!isBlank(c)) digits += lower(c);
+      if (!isBlank(c)) digits += asciiLower(c);
     std::size_t used = 0;
     const double value = parseRadix(digits[0], std::string_view(digits).substr(1), used).value_or(0);
     return negative ? -value : value;
@@ -207,7 +204,7 @@ std::optional<std::string> plainNumber(std::string_view text) {
   if (stripped->digits[0] == '&' && stripped->digits.size() > 1) {
     std::size_t used = 0;
     const std::string_view digits = std::string_view(stripped->digits).substr(2);
-    const std::optional<double> value = parseRadix(lower(stripped->digits[1]), digits, used);
+    const std::optional<double> value = parseRadix(asciiLower(stripped->digits[1]), digits, used);
     if (!value || used != digits.size()) return std::nullopt;
     return std::to_string(static_cast<std::int64_t>(stripped->negative ? -*value : *value));
   }
@@ -216,7 +213,7 @@ std::optional<std::string> plainNumber(std::string_view text) {
   for (const char c : stripped->digits) {
     if (c == italian::thousandsSign && whole && !plain.empty()) continue;
     whole = whole && isDigit(c);
-    plain += c == italian::decimalSign ? '.' : c == '.' ? '?' : lower(c) == 'd' ? 'e' : lower(c);
+    plain += c == italian::decimalSign ? '.' : c == '.' ? '?' : asciiLower(c) == 'd' ? 'e' : asciiLower(c);
   }
   if (plain.empty() || numberLength(plain) != plain.size()) return std::nullopt;
   return sign + plain;

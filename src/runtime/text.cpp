@@ -35,16 +35,12 @@ bool isAscii(char c) {
   return static_cast<unsigned char>(c) < 0x80;
 }
 
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-
 /// False where texts that begin with these bytes can't begin with the same letter, which is nearly
 /// everywhere.
 bool mayBegin(char text, char part, Compare compare) {
   if (isAscii(text) != isAscii(part)) return false;
   if (compare == Compare::Exact) return text == part;
-  return !isAscii(text) || lower(text) == lower(part);
+  return !isAscii(text) || asciiLower(text) == asciiLower(part);
 }
 
 /// Bytes of `text` that `part` covers at its front, nothing where it does not begin with it.

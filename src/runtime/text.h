@@ -9,6 +9,11 @@
 /// of the text that was given.
 namespace runtime {
 
+/// The small letter of a capital of ASCII; anything else as it is.
+constexpr char asciiLower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
+
 /// How letters are told apart: exactly, or without regard to case.
 enum class Compare : std::int32_t { Exact = 0, Text = 1 };
 

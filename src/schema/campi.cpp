@@ -7,14 +7,14 @@ namespace schema {
 namespace {
 
 /// Only what an update may change counts: a text grows and never shrinks, attributes and place stay.
-bool diverso(const jet::dao::Field& campo, jet::dao::Recordset& riga) {
+bool campoDiverso(const jet::dao::Field& campo, jet::dao::Recordset& riga) {
   const int tipo = campo.Type();
-  if (schema::diverso(riga.value("Tipo"), tipo)) return true;
+  if (diverso(riga.value("Tipo"), tipo)) return true;
   const runtime::Variant dimensione = riga.value("Dimensione");
   if (tipo == jet::dao::dbText && !dimensione.isNull() && campo.Size() < dimensione.toLong()) return true;
   const bool contatore = tipo == jet::dao::dbLong && campo.Attributes() & jet::dao::dbAutoIncrField;
-  if (!contatore && schema::diverso(riga.value("DefaultValue"), campo.DefaultValue())) return true;
-  return schema::diverso(riga.value("Required"), campo.Required());
+  if (!contatore && diverso(riga.value("DefaultValue"), campo.DefaultValue())) return true;
+  return diverso(riga.value("Required"), campo.Required());
 }
 
 /// One table of the catalogue and what the target has of it.
@@ -38,7 +38,7 @@ class Tabella {
     const std::string campo = riga.value("Campo").toText();
     if (!definizione_->Fields().contains(campo))
       crea(campo, riga);
-    else if (diverso(definizione_->Fields(campo), riga))
+    else if (campoDiverso(definizione_->Fields(campo), riga))
       modifica(campo, riga);
   }
 

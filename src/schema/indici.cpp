@@ -13,18 +13,17 @@ jet::dao::IndexPtr trovaIndice(jet::dao::TableDef& tabella, const std::string& n
   return nullptr;
 }
 
-bool diverso(jet::dao::Index& indice, jet::dao::Recordset& riga, jet::dao::Recordset& campi) {
-  if (schema::diverso(riga.value("Primary"), indice.Primary()) ||
-      schema::diverso(riga.value("Unique"), indice.Unique()) ||
-      schema::diverso(riga.value("IgnoreNulls"), indice.IgnoreNulls()) ||
+bool indiceDiverso(jet::dao::Index& indice, jet::dao::Recordset& riga, jet::dao::Recordset& campi) {
+  if (diverso(riga.value("Primary"), indice.Primary()) || diverso(riga.value("Unique"), indice.Unique()) ||
+      diverso(riga.value("IgnoreNulls"), indice.IgnoreNulls()) ||
       campi.RecordCount() != static_cast<std::int64_t>(indice.Fields().Count()))
     return true;
   std::size_t posto = 0;
   for (campi.MoveFirst(); !campi.atEnd(); campi.MoveNext()) {
     const jet::dao::Field campo = indice.Fields(posto++);
-    if (schema::diverso(campi.value("Campo"), campo.Name())) return true;
+    if (diverso(campi.value("Campo"), campo.Name())) return true;
     // Another order of its values alone leaves the index as it is, and what follows in it unread.
-    if (schema::diverso(campi.value("Attributi"), campo.Attributes())) return false;
+    if (diverso(campi.value("Attributi"), campo.Attributes())) return false;
   }
   return false;
 }
@@ -59,7 +58,7 @@ void aggiornaIndice(const Ambiente& ambiente, jet::dao::Recordset& riga, Interro
   const auto definizione = ambiente.destinazione->TableDefs(tabella);
   const std::string soggetto = "indice " + nome + " nella tabella " + tabella + "...";
   if (const auto indice = trovaIndice(*definizione, nome)) {
-    if (!diverso(*indice, riga, *campi)) return;
+    if (!indiceDiverso(*indice, riga, *campi)) return;
     cancellaIndice(ambiente, *definizione, nome, soggetto);
   }
   creaIndice(ambiente, *definizione, riga, *campi, soggetto);

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "common/text.h"
+#include "jet/file/errors.h"
 #include "runtime/format.h"
 #include "schema/indice.h"
 #include "schema/relazione.h"
@@ -42,7 +43,7 @@ void rifiutaArrotondati(jet::dao::Database& db, const std::string& tabella, cons
                                              da.Name() + "] - [" + a.Name() + "] <> 0",
                                          jet::dao::dbOpenSnapshot);
   if (!cambiati->atEnd())
-    throw runtime::Error(3421, "ricostruzione",
+    throw runtime::Error(jet::ConversionFailed, "ricostruzione",
                          "Il valore " + cambiati->Fields(0).Value().toText() + " del campo " + da.Name() +
                              " della tabella " + tabella + " andrebbe arrotondato");
   cambiati->Close();

@@ -7,7 +7,7 @@
 #include <set>
 #include <sstream>
 
-#include "jet/dao/session.h"
+#include "jet/dao/session/session.h"
 #include "jet/sql/syntax_error.h"
 #include "office.h"
 #include "platform/files.h"

@@ -7,7 +7,7 @@
 #include <random>
 #include <variant>
 
-#include "jet/file/text_key.h"
+#include "jet/file/text/text_key.h"
 #include "office.h"
 
 namespace jet::dao {
@@ -22,7 +22,7 @@ constexpr int Tables = 5, RowsOfTable = 9, Statements = 700;
 /// A number in ten-thousandths, a text, or Null.
 using Value = std::variant<std::monostate, std::int64_t, std::string>;
 
-struct Column {
+struct JoinColumn {
   const char* name;
   const char* type;
   bool text;
@@ -34,18 +34,18 @@ const std::vector<const char*> Texts = {"Null", "''",  "'  '",   "'alfa'",    "'
 const std::vector<const char*> Whole = {"Null", "0", "1", "2", "10", "-1"};
 const std::vector<const char*> Broken = {"Null", "0", "1", "1.5", "2.25", "10", "-1"};
 
-const Column Columns[] = {{"t", "TEXT(10)", true, Texts},
-                          {"m", "MEMO", true, Texts},
-                          {"b", "BYTE", false, {"Null", "0", "1", "2", "10"}},
-                          {"s", "SHORT", false, Whole},
-                          {"l", "LONG", false, Whole},
-                          {"v", "YESNO", false, {"0", "-1"}},
-                          {"c", "CURRENCY", false, Broken},
-                          {"f", "SINGLE", false, Broken},
-                          {"x", "DOUBLE", false, Broken},
-                          {"d", "DATETIME", false, Broken},
-                          {"p", "DECIMAL(10, 2)", false, Broken},
-                          {"q", "DECIMAL(18, 6)", false, Broken}};
+const JoinColumn Columns[] = {{"t", "TEXT(10)", true, Texts},
+                              {"m", "MEMO", true, Texts},
+                              {"b", "BYTE", false, {"Null", "0", "1", "2", "10"}},
+                              {"s", "SHORT", false, Whole},
+                              {"l", "LONG", false, Whole},
+                              {"v", "YESNO", false, {"0", "-1"}},
+                              {"c", "CURRENCY", false, Broken},
+                              {"f", "SINGLE", false, Broken},
+                              {"x", "DOUBLE", false, Broken},
+                              {"d", "DATETIME", false, Broken},
+                              {"p", "DECIMAL(10, 2)", false, Broken},
+                              {"q", "DECIMAL(18, 6)", false, Broken}};
 constexpr std::size_t ColumnCount = std::size(Columns);
 
 Value valueOf(const std::string& literal, bool text) {
@@ -122,14 +122,14 @@ class Game {
 
   std::string createTable(int table) {
     std::string text = "CREATE TABLE " + name(table) + " (id LONG, mark LONG";
-    for (const Column& column : Columns) text += std::string(", ") + column.name + " " + column.type;
+    for (const JoinColumn& column : Columns) text += std::string(", ") + column.name + " " + column.type;
     return text + ")";
   }
 
   std::string insertRow(int table, int row) {
     std::string text = "INSERT INTO " + name(table) + " VALUES (" + std::to_string(row) + ", 0";
     auto& values = values_[table].emplace_back();
-    for (const Column& column : Columns) {
+    for (const JoinColumn& column : Columns) {
       const std::string literal = column.literals[any(column.literals.size())];
       text += ", " + literal;
       values.push_back(valueOf(literal, column.text));
@@ -203,7 +203,7 @@ class Game {
   /// One condition on a column, whose rows stay.
   std::string condition() {
     const Operand column{tables_[any(tables_.size())], any(ColumnCount)};
-    const Column& kind = Columns[column.column];
+    const JoinColumn& kind = Columns[column.column];
     if (any(3) == 0) {
       std::erase_if(selected, [&](const Row& row) { return at(row, column).index() != 0; });
       return text(column) + " Is Null";

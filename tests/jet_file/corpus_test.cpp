@@ -9,8 +9,8 @@
 #include <optional>
 #include <set>
 
-#include "jet/file/catalogue.h"
-#include "jet/file/table_reader.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/read/table_reader.h"
 #include "jet/file/values.h"
 #include "runtime/error.h"
 #include "second_reader.h"

@@ -3,9 +3,9 @@
 #include <random>
 
 #include "corpus.h"
-#include "jet/file/catalogue.h"
 #include "jet/file/properties.h"
-#include "jet/file/table_reader.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/read/table_reader.h"
 #include "jet/file/values.h"
 #include "runtime/error.h"
 #include "writing.h"

@@ -1,12 +1,12 @@
-#include "jet/file/index_key.h"
+#include "jet/file/index/index_key.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 
 #include "corpus.h"
-#include "jet/file/data_page.h"
-#include "jet/file/page_use.h"
+#include "jet/file/page/data_page.h"
+#include "jet/file/read/page_use.h"
 #include "support/errors.h"
 #include "writing.h"
 

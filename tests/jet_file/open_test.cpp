@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "corpus.h"
-#include "jet/file/catalogue.h"
-#include "jet/file/page_file.h"
+#include "jet/file/page/page_file.h"
+#include "jet/file/read/catalogue.h"
 #include "runtime/error.h"
 #include "writing.h"
 

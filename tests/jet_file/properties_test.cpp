@@ -5,21 +5,21 @@
 #include <algorithm>
 
 #include "corpus.h"
-#include "jet/file/catalogue.h"
-#include "jet/file/table_reader.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/read/table_reader.h"
 #include "runtime/error.h"
 #include "support/errors.h"
 
 namespace jet::file {
 namespace {
 
-std::vector<std::byte> bytes(std::string_view text) {
+std::vector<std::byte> bytesOf(std::string_view text) {
   const auto* at = reinterpret_cast<const std::byte*>(text.data());
   return {at, at + text.size()};
 }
 
 PropertyItem item(const std::string& name, std::string_view data) {
-  return {name, ColumnType::Text, 1, bytes(data)};
+  return {name, ColumnType::Text, 1, bytesOf(data)};
 }
 
 TEST(Properties, EveryBlockOfTheCorpusComesBackAsItWas) {
@@ -51,15 +51,15 @@ TEST(Properties, EditsReachTheOwnerMeantAndNothingElse) {
   block.set("Nome", item("Required", "0"));
   block.set("cognome", item("REQUIRED", "2"));  // names compare without regard to case
   ASSERT_EQ(block.groups().size(), 3u);
-  EXPECT_EQ(block.find("Cognome", "Required")->data, bytes("2"));
+  EXPECT_EQ(block.find("Cognome", "Required")->data, bytesOf("2"));
   EXPECT_EQ(block.find("Cognome", "Required")->name, "Required");
-  EXPECT_EQ(block.find("Nome", "Required")->data, bytes("0"));
+  EXPECT_EQ(block.find("Nome", "Required")->data, bytesOf("0"));
   EXPECT_EQ(block.find("", "Required"), nullptr);
 
   block.renameOwner("Cognome", "Denominazione");
   block.removeOwner("Nome");
   block.remove("", "Description");
-  EXPECT_EQ(block.find("Denominazione", "Required")->data, bytes("2"));
+  EXPECT_EQ(block.find("Denominazione", "Required")->data, bytesOf("2"));
   ASSERT_EQ(block.groups().size(), 1u);
   EXPECT_EQ(PropertyBlock(Jet4, block.encode()).groups(), block.groups());
 }
@@ -72,9 +72,9 @@ TEST(Properties, KeepsChunksAndOwnerPartsThatItDoesNotKnow) {
       "\x09\0\0\0\x07\0xyz"                                    // a kind of chunk nobody knows
       "\x0F\0\0\0\x01\0\x09\0\0\0\x02\0C\0!",                  // column C, something behind its name
       4 + 12 + 21 + 9 + 15);
-  const PropertyBlock block(Jet4, bytes(known));
+  const PropertyBlock block(Jet4, bytesOf(known));
   EXPECT_EQ(block.find("", "AB")->flag, 0x81);
-  EXPECT_EQ(block.encode(), bytes(known));
+  EXPECT_EQ(block.encode(), bytesOf(known));
 }
 
 TEST(Properties, DamageIsError3343) {
@@ -88,7 +88,7 @@ TEST(Properties, DamageIsError3343) {
       {"MR2\0\x14\0\0\0\0\0\x06\0\0\0\0\0\x08\0\x01\x0A\0\0\0\0", 24},  // name number without a name
   };
   for (const std::string_view block : damaged)
-    EXPECT_EQ(support::errorOf([&] { PropertyBlock(Jet4, bytes(block)); }), 3343)
+    EXPECT_EQ(support::errorOf([&] { PropertyBlock(Jet4, bytesOf(block)); }), 3343)
         << testing::PrintToString(block);
 }
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "corpus.h"
-#include "jet/file/database_writer.h"
-#include "jet/file/page_use.h"
+#include "jet/file/read/page_use.h"
+#include "jet/file/write/database_writer.h"
 #include "support/errors.h"
 #include "writing.h"
 

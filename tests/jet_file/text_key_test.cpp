@@ -1,4 +1,4 @@
-#include "jet/file/text_key.h"
+#include "jet/file/text/text_key.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@
 
 #include "corpus.h"
 #include "jet/file/definition.h"
-#include "jet/file/general_order.h"
-#include "jet/file/text.h"
+#include "jet/file/text/general_order.h"
+#include "jet/file/text/text.h"
 #include "writing.h"
 
 namespace jet::file {

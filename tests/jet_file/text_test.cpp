@@ -1,4 +1,4 @@
-#include "jet/file/text.h"
+#include "jet/file/text/text.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::string_literals;
 
-std::span<const std::byte> bytes(const std::string& text) {
+std::span<const std::byte> bytesOf(const std::string& text) {
   return std::as_bytes(std::span(text));
 }
 
@@ -39,18 +39,18 @@ TEST(Text, DecodesEveryStoredForm) {
   };
   for (const auto& c : cases) {
     std::string out = "> ";
-    appendText(c.format, bytes(c.stored), out);
+    appendText(c.format, bytesOf(c.stored), out);
     EXPECT_EQ(out, "> " + c.utf8) << c.what;
   }
 }
 
 TEST(Text, RefusesHalfCharactersAndCodePagesWithoutATable) {
   std::string out;
-  EXPECT_THROW(appendText(Jet4, bytes("a\0b"s), out), runtime::Error);
-  EXPECT_THROW(appendText(Jet4, bytes("\xFF\xFE\0\xAC"s), out), runtime::Error);
-  EXPECT_THROW(appendText(Jet3, bytes("\xE8"), out, 1251), runtime::Error);
+  EXPECT_THROW(appendText(Jet4, bytesOf("a\0b"s), out), runtime::Error);
+  EXPECT_THROW(appendText(Jet4, bytesOf("\xFF\xFE\0\xAC"s), out), runtime::Error);
+  EXPECT_THROW(appendText(Jet3, bytesOf("\xE8"), out, 1251), runtime::Error);
   out.clear();
-  appendText(Jet3, bytes("ASCII"), out, 1251);
+  appendText(Jet3, bytesOf("ASCII"), out, 1251);
   EXPECT_EQ(out, "ASCII");
 }
 

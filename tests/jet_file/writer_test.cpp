@@ -5,9 +5,9 @@
 
 #include "../support/disk_faults.h"
 #include "corpus.h"
-#include "jet/file/catalogue.h"
-#include "jet/file/database_writer.h"
-#include "jet/file/page_use.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/read/page_use.h"
+#include "jet/file/write/database_writer.h"
 #include "support/errors.h"
 #include "writing.h"
 

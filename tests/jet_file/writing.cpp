@@ -5,10 +5,10 @@
 
 #include "../support/command.h"
 #include "corpus.h"
-#include "jet/file/catalogue.h"
-#include "jet/file/page_use.h"
-#include "jet/file/table_reader.h"
-#include "jet/file/text.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/read/page_use.h"
+#include "jet/file/read/table_reader.h"
+#include "jet/file/text/text.h"
 #include "platform/disk.h"
 
 namespace writing {

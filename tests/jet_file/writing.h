@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "jet/file/database_writer.h"
+#include "jet/file/write/database_writer.h"
 
 /// Tables and rows made for tests, and what independent readers say of the files written.
 namespace writing {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "jet/dao/session.h"
+#include "jet/dao/session/session.h"
 #include "jet_dao/office.h"
 #include "platform/files.h"
 

@@ -2,7 +2,7 @@
 #include <limits>
 
 #include "desk.h"
-#include "jet/file/table_reader.h"
+#include "jet/file/read/table_reader.h"
 #include "jet/image/decimal.h"
 
 namespace {

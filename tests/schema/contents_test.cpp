@@ -11,7 +11,7 @@ using study::Statements;
 using study::Study;
 using testing::HasSubstr;
 
-struct Case {
+struct ContentsCase {
   const char* name;
   Statements reference, target;
   std::string summary;  // behind "Aggiungo le query..."
@@ -41,7 +41,7 @@ std::string parameter(const std::string& name, const std::string& value) {
 using study::operator+;
 
 // clang-format off
-const Case Cases[] = {
+const ContentsCase Cases[] = {
     {"rows are replaced", reference("ADD_codici", {"1, 'a'", "2, 'b'"}), target({"2, 'x'", "3, 'y'"}),
      None + "\n- tabella codici  fatto.", "3\n- tabella codici\n", "codici(c 4, d 10(9)) PK[PU c] : 1,a / 2,b\n"},
     {"rows that are there already", reference("add_codici", {"1, 'a'", "2, 'b'"}), target({"2, 'b'", "1, 'a'"}),
@@ -81,7 +81,7 @@ const Case Cases[] = {
 // clang-format on
 
 TEST(Contents, ComeFromTheReference) {
-  for (const Case& test : Cases) {
+  for (const ContentsCase& test : Cases) {
     SCOPED_TRACE(test.name);
     Study study(test.reference, test.target);
     const std::string before = study.bytes();

@@ -22,7 +22,7 @@ using study::Statements;
 using study::Study;
 using testing::StartsWith;
 
-struct Case {
+struct StructureCase {
   const char* name;
   Statements reference, target;
   std::string summary;  // where it ends in an error, up to the change that fails
@@ -39,7 +39,7 @@ const std::string SocioRelation =
     "ALTER TABLE quote ADD CONSTRAINT soci_quote FOREIGN KEY (socio) REFERENCES soci (id)";
 
 // clang-format off
-const Case Fields[] = {
+const StructureCase Fields[] = {
     {"missing table", {field("nuova", "b", {.type = "10", .size = 20, .defaultValue = "'\"N\"'", .position = 2}),
                        field("nuova", "a", {.required = true, .attributes = 16, .position = 1}),
                        field("nuova", "c", {.type = "12", .defaultValue = "''", .position = 3})}, {},
@@ -208,7 +208,7 @@ const Case Fields[] = {
     {"a reference without its catalogue", {"DROP TABLE CampiDaEliminare"}, {}, "", "3078"},
 };
 
-const Case Indexes[] = {
+const StructureCase Indexes[] = {
     {"missing, and others stay", index("t", "i", "UI", {"-b", "a"}) + index("t", "PrimaryKey", "PU", {"a"}),
      {"CREATE TABLE t (a LONG, b LONG)", "CREATE INDEX mio ON t (b)"},
      "Creo indice i nella tabella t...fatto\nCreo indice PrimaryKey nella tabella t...fatto\n",
@@ -239,7 +239,7 @@ const Case Indexes[] = {
      "Creo indice soci_quote nella tabella quote...\n", "3284"},
 };
 
-const Case Relations[] = {
+const StructureCase Relations[] = {
     {"missing, differing, equal and unknown ones",
      relation("r", "soci", "quote", {"id=socio"}, 4096) + relation("s", "SOCI", "QUOTE", {"ID=N"}, 2) + relation("n", "soci", "quote", {"id=id"}, 2),
      Fees + Statements{SocioRelation, "ALTER TABLE quote ADD CONSTRAINT r FOREIGN KEY (socio) REFERENCES soci (id)"},
@@ -273,7 +273,7 @@ std::string announced(const std::string& summary) {
   return plan;
 }
 
-void check(const Case& test) {
+void check(const StructureCase& test) {
   SCOPED_TRACE(test.name);
   Study study(test.reference, test.target);
   const bool fails = !test.file.empty() && test.file.find_first_not_of("0123456789") == std::string::npos;
@@ -349,15 +349,15 @@ TEST(Fields, KeepToTheirRulesInWhatIsWrittenLater) {
 }
 
 TEST(Fields, FollowTheReference) {
-  for (const Case& test : Fields) check(test);
+  for (const StructureCase& test : Fields) check(test);
 }
 
 TEST(Indexes, FollowTheReference) {
-  for (const Case& test : Indexes) check(test);
+  for (const StructureCase& test : Indexes) check(test);
 }
 
 TEST(Relations, FollowTheReference) {
-  for (const Case& test : Relations) check(test);
+  for (const StructureCase& test : Relations) check(test);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "apps/catalogo/tables.h"
 #include "jet/dao/database.h"
 #include "jet/file/definition.h"
+#include "jet/file/errors.h"
 #include "runtime/error.h"
 
 namespace catalogo {
@@ -158,7 +159,7 @@ class Rows {
     if (other == others_.end()) return false;
     const std::string otherNorvo = other->second.row[0].toText();
     if (jet::file::sameName(otherNorvo, Tutti) && sameThing(thing, other->second, kind_)) return true;
-    throw runtime::Error(3022, "catalogo",
+    throw runtime::Error(jet::DuplicateKey, "catalogo",
                          titleOf(thing.row, kind_) + " è già nel catalogo per " + otherNorvo +
                              (jet::file::sameName(otherNorvo, Tutti) ? ", con altre caratteristiche" : ""));
   }
@@ -181,7 +182,8 @@ void refuseDropped(Database& reference, const std::vector<Thing>& things, const 
   }
   for (const auto& thing : things)
     if (dropped.contains(keyOf(thing.row, CampiTabella)))
-      throw runtime::Error(3022, "catalogo", titleOf(thing.row, fields) + " è anche in CampiDaEliminare");
+      throw runtime::Error(jet::DuplicateKey, "catalogo",
+                           titleOf(thing.row, fields) + " è anche in CampiDaEliminare");
 }
 
 void writeNorvo(Database& reference, const std::string& norvo) {

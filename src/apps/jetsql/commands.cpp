@@ -6,6 +6,7 @@
 
 #include "apps/jetsql/design.h"
 #include "apps/jetsql/output.h"
+#include "apps/jetsql/script.h"
 #include "jet/dao/database.h"
 #include "jet/file/definition.h"
 #include "runtime/error.h"
@@ -15,20 +16,14 @@ namespace {
 
 using jet::dao::Database;
 
-constexpr std::string_view blanks = " \t\r\n";
-
-std::string trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
-}
-
 /// Takes a name, in brackets where it holds blanks, off the front of `text`.
 std::string takeName(std::string& text) {
   const bool bracketed = text.starts_with('[') && text.find(']') != std::string::npos;
   const auto end = bracketed ? text.find(']') : text.find_first_of(blanks);
   std::string name = bracketed ? text.substr(1, end - 1) : text.substr(0, end);
-  text = end == std::string::npos ? "" : trimmed(std::string_view(text).substr(end + (bracketed ? 1 : 0)));
+  text = end == std::string::npos
+             ? ""
+             : std::string(trimmed(std::string_view(text).substr(end + (bracketed ? 1 : 0))));
   return name;
 }
 
@@ -162,7 +157,8 @@ const Command& commandOf(const std::string& line) {
 
 bool runCommand(Database& database, const std::string& line, Output& output) {
   const Command& command = commandOf(line);
-  command.run(database, trimmed(std::string_view(line).substr(std::string_view(command.name).size())),
+  command.run(database,
+              std::string(trimmed(std::string_view(line).substr(std::string_view(command.name).size()))),
               output);
   return !command.ends;
 }

@@ -4,19 +4,17 @@
 #include <cctype>
 #include <string_view>
 
-#include "jet/file/text.h"
+#include "jet/file/text/text.h"
 #include "runtime/error.h"
 
 namespace jetsql {
-namespace {
-
-constexpr std::string_view blanks = " \t\r";
 
 std::string_view trimmed(std::string_view text) {
   const auto first = text.find_first_not_of(blanks);
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
+namespace {
 
 /// Follows quotes and brackets over the lines of one statement.
 class Quotes {

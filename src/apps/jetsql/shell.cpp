@@ -2,13 +2,14 @@
 
 #include "apps/jetsql/commands.h"
 #include "apps/jetsql/output.h"
+#include "jet/file/errors.h"
 #include "runtime/error.h"
 
 namespace jetsql {
 namespace {
 
-constexpr int noSuchItem = 3265;
-constexpr int returnsRows = 3065;
+constexpr int noSuchItem = jet::ItemNotFound;
+constexpr int returnsRows = jet::SelectNotExecutable;
 
 }  // namespace
 

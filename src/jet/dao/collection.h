@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "jet/file/errors.h"
 #include "runtime/error.h"
 
 namespace jet::dao {
@@ -17,7 +18,7 @@ template <typename T>
 class CollectionSource {
  public:
   virtual ~CollectionSource() = default;
-  /// "DAO.Fields" and so on, for errors.
+  /// source::Fields and so on, for errors.
   virtual const char* title() const = 0;
   virtual std::size_t count() const = 0;
   virtual T at(std::size_t position) const = 0;  // below count()
@@ -28,14 +29,15 @@ class CollectionSource {
     for (std::size_t i = 0; i < count(); ++i) objects.push_back(at(i));
     return objects;
   }
-  virtual int missingError() const { return 3265; }
+  virtual int missingError() const { return ItemNotFound; }
   virtual void append(const T&) const { refuse(); }
   virtual void remove(std::size_t) const { refuse(); }
 
  protected:
   /// Error 3219: this collection can't be changed.
   [[noreturn]] void refuse() const {
-    throw runtime::Error(3219, title(), "Operazione non valida: l'insieme non può essere modificato");
+    throw runtime::Error(InvalidOperation, title(),
+                         "Operazione non valida: l'insieme non può essere modificato");
   }
 };
 

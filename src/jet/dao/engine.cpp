@@ -3,16 +3,15 @@
 #include <algorithm>
 #include <vector>
 
-#include "jet/dao/session_database.h"
-#include "jet/file/database_writer.h"
+#include "jet/dao/session/session_database.h"
 #include "jet/file/errors.h"
+#include "jet/file/write/database_writer.h"
 #include "platform/files.h"
 
 namespace jet::dao {
 
 namespace {
 
-constexpr char Source[] = "DAO.Workspace";
 constexpr std::size_t MaxDepth = 5;
 
 std::unique_ptr<file::PageFile> openPages(const std::string& path, bool exclusive, bool readOnly) {
@@ -25,8 +24,7 @@ std::unique_ptr<file::PageFile> openPages(const std::string& path, bool exclusiv
 template <typename Work>
 platform::File makeFile(const std::string& path, Work work, const std::string& model = {}) {
   try {
-    if (platform::inspectFile(path))
-      throw file::jetError(file::DatabaseExists, "Il database esiste già: " + path);
+    if (platform::inspectFile(path)) throw file::jetError(DatabaseExists, "Il database esiste già: " + path);
     platform::Replacement replacement(path, model);
     work(replacement.file());
     return replacement.publish(platform::LockMode::Exclusive);
@@ -116,13 +114,13 @@ DatabasePtr Workspace::CreateDatabase(const std::string& path) {
 }
 
 void Workspace::BeginTrans() {
-  if (state_->depth >= MaxDepth) throw runtime::Error(3003, Source, "Troppe transazioni annidate");
+  if (state_->depth >= MaxDepth) throw errorOf(TooManyTransactions, source::Workspace);
   for (const auto& session : state_->sessions) session->image().begin();
   ++state_->depth;
 }
 
 void Workspace::CommitTrans(int) {
-  if (state_->depth == 0) throw runtime::Error(3034, Source, "CommitTrans o Rollback senza BeginTrans");
+  if (state_->depth == 0) throw errorOf(NoTransaction, source::Workspace);
   if (state_->depth > 1) {
     for (const auto& session : state_->sessions) session->image().commit();
     --state_->depth;
@@ -142,7 +140,7 @@ void Workspace::CommitTrans(int) {
 }
 
 void Workspace::Rollback() {
-  if (state_->depth == 0) throw runtime::Error(3034, Source, "CommitTrans o Rollback senza BeginTrans");
+  if (state_->depth == 0) throw errorOf(NoTransaction, source::Workspace);
   --state_->depth;
   state_->forAll([&](Session& session) {
     if (session.image().depth() > state_->depth) session.image().rollback();
@@ -158,7 +156,7 @@ void Workspace::Close() {
 
 std::shared_ptr<Workspace> DBEngine::Workspaces(int index) {
   static const auto defaultWorkspace = std::make_shared<Workspace>();
-  if (index != 0) throw runtime::Error(3265, "DAO.Workspaces", "Elemento inesistente nell'insieme");
+  if (index != 0) throw errorOf(ItemNotFound, source::Workspaces);
   return defaultWorkspace;
 }
 

@@ -1,23 +1,18 @@
 #include "jet/dao/index.h"
 
 #include "jet/dao/constants.h"
-#include "jet/dao/part_field.h"
-#include "jet/dao/session.h"
+#include "jet/dao/design/part_field.h"
+#include "jet/dao/session/session.h"
+#include "jet/file/errors.h"
 #include "jet/image/row_codec.h"
 
 namespace jet::dao {
-
-namespace {
-
-constexpr char Source[] = "DAO.Index";
-
-}  // namespace
 
 /// Index.Fields
 class IndexFields : public CollectionSource<Field> {
  public:
   explicit IndexFields(std::shared_ptr<Index> index) : index_(std::move(index)) {}
-  const char* title() const override { return "DAO.Fields"; }
+  const char* title() const override { return source::Fields; }
   std::size_t count() const override { return index_->design().parts.size(); }
   Field at(std::size_t position) const override {
     const auto part = index_->design().parts[position];
@@ -34,7 +29,7 @@ class IndexFields : public CollectionSource<Field> {
   void append(const Field& field) const override {
     auto& parts = index_->draft().parts;
     if (find(field.Name()))
-      throw runtime::Error(3191, Source, "Campo già presente nell'indice: " + field.Name());
+      throw runtime::Error(DuplicateField, source::Index, "Campo già presente nell'indice: " + field.Name());
     parts.push_back({field.Name(), (field.Attributes() & dbDescending) != 0});
   }
   void remove(std::size_t position) const override {
@@ -56,7 +51,7 @@ Index::Index(std::shared_ptr<Session> session, std::uint32_t page, std::uint32_t
 const file::LogicalIndex& Index::logical() const {
   for (const auto& index : session_->image().definition(stored_->page).logicalIndexes)
     if (index.number == stored_->number) return index;
-  throw runtime::Error(3420, Source, "Oggetto non valido: l'indice non esiste più");
+  throw errorOf(ObjectInvalid, source::Index, "l'indice non esiste più");
 }
 
 Index::Design Index::design() const {
@@ -77,8 +72,7 @@ Index::Design Index::design() const {
 }
 
 Index::Design& Index::draft() {
-  if (stored_)
-    throw runtime::Error(3219, Source, "Operazione non valida: l'indice fa già parte della tabella");
+  if (stored_) throw errorOf(InvalidOperation, source::Index, "l'indice fa già parte della tabella");
   return draft_;
 }
 
@@ -137,7 +131,8 @@ Field Index::CreateField(const std::string& name) const {
 }
 
 image::IndexDesign Index::designFor(const file::TableDefinition& table) const {
-  if (draft_.parts.empty()) throw runtime::Error(3264, Source, "Indice senza campi: " + draft_.name);
+  if (draft_.parts.empty())
+    throw runtime::Error(NoFieldDefined, source::Index, "Indice senza campi: " + draft_.name);
   image::IndexDesign result;
   result.name = draft_.name;
   result.primary = draft_.primary;
@@ -146,7 +141,8 @@ image::IndexDesign Index::designFor(const file::TableDefinition& table) const {
   result.ignoreNulls = draft_.ignoreNulls;
   for (const auto& part : draft_.parts) {
     const auto position = table.find(part.name);
-    if (!position) throw runtime::Error(3265, Source, "Campo inesistente nella tabella: " + part.name);
+    if (!position)
+      throw runtime::Error(ItemNotFound, source::Index, "Campo inesistente nella tabella: " + part.name);
     result.columns.push_back({table.columns[*position].number, !part.descending});
   }
   return result;

@@ -1,21 +1,16 @@
 #include "jet/dao/relation.h"
 
-#include "jet/dao/part_field.h"
-#include "jet/dao/session.h"
+#include "jet/dao/design/part_field.h"
+#include "jet/dao/session/session.h"
+#include "jet/file/errors.h"
 
 namespace jet::dao {
-
-namespace {
-
-constexpr char Source[] = "DAO.Relation";
-
-}  // namespace
 
 /// Relation.Fields
 class RelationFields : public CollectionSource<Field> {
  public:
   explicit RelationFields(std::shared_ptr<Relation> relation) : relation_(std::move(relation)) {}
-  const char* title() const override { return "DAO.Fields"; }
+  const char* title() const override { return source::Fields; }
   std::size_t count() const override { return relation_->design_.pairs.size(); }
   Field at(std::size_t position) const override {
     const auto& pair = relation_->design_.pairs[position];
@@ -48,8 +43,7 @@ std::shared_ptr<Relation> Relation::stored(image::RelationDesign design) {
 }
 
 image::RelationDesign& Relation::draft() {
-  if (stored_)
-    throw runtime::Error(3219, Source, "Operazione non valida: la relazione fa già parte del database");
+  if (stored_) throw errorOf(InvalidOperation, source::Relation, "la relazione fa già parte del database");
   return design_;
 }
 

@@ -2,23 +2,24 @@
 
 #include <algorithm>
 
-#include "jet/dao/object_properties.h"
-#include "jet/dao/open_rows.h"
-#include "jet/dao/table_collections.h"
-#include "jet/dao/table_field.h"
+#include "jet/dao/design/object_properties.h"
+#include "jet/dao/design/table_collections.h"
+#include "jet/dao/design/table_field.h"
+#include "jet/dao/recordset/open_rows.h"
+#include "jet/file/errors.h"
 #include "jet/image/row_codec.h"
 
 namespace jet::dao {
 
 namespace {
 
-constexpr char Source[] = "DAO.TableDef";
 constexpr std::string_view DatabaseKey = ";DATABASE=";
 
 /// The path in ";DATABASE=path"; whatever else follows a semicolon is left out.
 std::string linkedPath(const std::string& connect) {
   if (!file::sameName(connect.substr(0, DatabaseKey.size()), DatabaseKey))
-    throw runtime::Error(3170, Source, "Origine di una tabella collegata non disponibile: " + connect);
+    throw runtime::Error(ExternalDatabase, source::TableDef,
+                         "Origine di una tabella collegata non disponibile: " + connect);
   return connect.substr(DatabaseKey.size(), connect.find(';', 1) - DatabaseKey.size());
 }
 
@@ -32,15 +33,14 @@ TableDef::TableDef(std::shared_ptr<Session> session, std::uint32_t page)
     : session_(std::move(session)), page_(page) {}
 
 TableDef::Draft& TableDef::draft() {
-  if (page_)
-    throw runtime::Error(3219, Source, "Operazione non valida: la tabella fa già parte del database");
+  if (page_) throw errorOf(InvalidOperation, source::TableDef, "la tabella fa già parte del database");
   return draft_;
 }
 
 const image::Table& TableDef::stored() const {
   for (const auto& table : session_->image().tables())
     if (table.page == *page_) return table;
-  throw runtime::Error(3420, Source, "Oggetto non valido: la tabella non esiste più");
+  throw errorOf(ObjectInvalid, source::TableDef, "la tabella non esiste più");
 }
 
 const file::TableDefinition& TableDef::design() const {
@@ -105,7 +105,9 @@ IndexCollection TableDef::Indexes() {
 }
 
 PropertyCollection TableDef::Properties() {
-  if (!page_) throw runtime::Error(3219, Source, "Operazione non valida prima di Append: " + Name());
+  if (!page_)
+    throw runtime::Error(InvalidOperation, source::TableDef,
+                         "Operazione non valida prima di Append: " + Name());
   return tableProperties(session_, *page_, shared_from_this());
 }
 
@@ -126,7 +128,9 @@ Property TableDef::CreateProperty(const std::string& name, int type, const runti
 }
 
 RecordsetPtr TableDef::OpenRecordset(RecordsetType type, int options) {
-  if (!page_) throw runtime::Error(3219, Source, "Operazione non valida prima di Append: " + Name());
+  if (!page_)
+    throw runtime::Error(InvalidOperation, source::TableDef,
+                         "Operazione non valida prima di Append: " + Name());
   return openTable(session_, Name(), type, options);
 }
 
@@ -140,7 +144,8 @@ void TableDef::append() {
 }
 
 void TableDef::makeTable() {
-  if (draft_.fields.empty()) throw runtime::Error(3264, Source, "Tabella senza campi: " + draft_.name);
+  if (draft_.fields.empty())
+    throw runtime::Error(NoFieldDefined, source::TableDef, "Tabella senza campi: " + draft_.name);
   auto& image = session_->image();
   file::TableDefinition design;
   design.name = draft_.name;

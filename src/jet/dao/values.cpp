@@ -3,7 +3,8 @@
 #include <array>
 
 #include "jet/dao/constants.h"
-#include "jet/file/text.h"
+#include "jet/file/errors.h"
+#include "jet/file/text/text.h"
 #include "jet/file/values.h"
 #include "jet/image/decimal.h"
 #include "jet/image/row_codec.h"
@@ -18,8 +19,6 @@ namespace {
 using file::ColumnType;
 using runtime::Variant;
 using sql::Type;
-
-constexpr char Source[] = "DAO.Field";
 
 std::string_view text(const image::Statement& row, int column) {
   const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(row.handle(), column));
@@ -91,10 +90,9 @@ runtime::Bytes guidBytes(const Variant& value) {
     if (c >= '0' && c <= '9') return c - '0';
     if (c >= 'A' && c <= 'F') return c - 'A' + 10;
     if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    throw runtime::Error(3421, Source, "Errore di conversione del tipo di dati: " + digits);
+    throw errorOf(ConversionFailed, source::Field, digits);
   };
-  if (digits.size() != 38)
-    throw runtime::Error(3421, Source, "Errore di conversione del tipo di dati: " + digits);
+  if (digits.size() != 38) throw errorOf(ConversionFailed, source::Field, digits);
   runtime::Bytes result;
   for (const int place : Places)
     result.push_back(static_cast<std::byte>(nibble(static_cast<std::size_t>(place)) << 4 |
@@ -158,7 +156,7 @@ void bindConverted(image::Statement& statement, int parameter, const Variant& va
     bindTyped(statement, parameter, value, type, scale);
   } catch (const runtime::Error& error) {
     if (error.number() != runtime::TypeMismatch) throw;
-    throw runtime::Error(3421, Source, "Errore di conversione del tipo di dati: " + name);
+    throw errorOf(ConversionFailed, source::Field, name);
   }
 }
 
@@ -212,7 +210,7 @@ void bindField(image::Statement& statement, int parameter, const Variant& value,
   const std::string name = table + "." + column.name;
   if (column.type == ColumnType::Text && !value.isNull() &&
       2 * file::utf16Length(value.toText()) > column.length)
-    throw runtime::Error(3163, Source, "Il testo è troppo lungo per il campo " + name);
+    throw runtime::Error(FieldTooSmall, source::Field, "Il testo è troppo lungo per il campo " + name);
   bindConverted(statement, parameter, value, sql::typeOf(column.type), column.scale, name);
 }
 

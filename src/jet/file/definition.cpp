@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
-#include "jet/file/text.h"
-#include "jet/file/text_key.h"
+#include "jet/file/text/text.h"
+#include "jet/file/text/text_key.h"
 
 namespace jet::file {
 

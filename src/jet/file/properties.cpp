@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cstring>
 
-#include "jet/file/bytes.h"
 #include "jet/file/errors.h"
-#include "jet/file/text.h"
+#include "jet/file/page/bytes.h"
+#include "jet/file/text/text.h"
 
 namespace jet::file {
 
 namespace {
 
-using Bytes = std::span<const std::byte>;
+using BytesView = std::span<const std::byte>;
 
 constexpr std::size_t MarkSize = 4, ChunkHead = 6, OwnerHead = 6, ItemHead = 8;
 constexpr std::uint16_t NamesChunk = 0x80;
@@ -19,12 +19,12 @@ constexpr std::uint16_t NamesChunk = 0x80;
 /// Reads a block from front to back.
 class Cursor {
  public:
-  explicit Cursor(Bytes bytes) : bytes_(bytes) {}
+  explicit Cursor(BytesView bytes) : bytes_(bytes) {}
 
   bool atEnd() const { return bytes_.empty(); }
-  Bytes take(std::size_t length) {
+  BytesView take(std::size_t length) {
     if (length > bytes_.size()) throw damagedFile("proprietà interrotte");
-    const Bytes front = bytes_.first(length);
+    const BytesView front = bytes_.first(length);
     bytes_ = bytes_.subspan(length);
     return front;
   }
@@ -32,16 +32,16 @@ class Cursor {
   std::uint16_t u16() { return readU16(take(2).data()); }
   std::uint32_t u32() { return readU32(take(4).data()); }
   /// A part whose length, `counted` bytes of it already taken, stands in front.
-  Bytes part(std::size_t length, std::size_t counted) {
+  BytesView part(std::size_t length, std::size_t counted) {
     if (length < counted) throw damagedFile("proprietà di lunghezza errata");
     return take(length - counted);
   }
 
  private:
-  Bytes bytes_;
+  BytesView bytes_;
 };
 
-std::vector<std::byte> copy(Bytes bytes) {
+std::vector<std::byte> copy(BytesView bytes) {
   return {bytes.begin(), bytes.end()};
 }
 
@@ -50,13 +50,13 @@ struct Parser {
   const Format& format;
   const std::uint16_t codePage;
 
-  std::vector<std::string> names(Bytes body) const {
+  std::vector<std::string> names(BytesView body) const {
     std::vector<std::string> found;
     for (Cursor cursor(body); !cursor.atEnd();) found.push_back(text(cursor));
     return found;
   }
 
-  PropertyGroup group(std::uint16_t kind, Bytes body, const std::vector<std::string>& names) const {
+  PropertyGroup group(std::uint16_t kind, BytesView body, const std::vector<std::string>& names) const {
     PropertyGroup result;
     result.kind = kind;
     if (kind > PropertyGroup::OfColumn) {
@@ -65,9 +65,9 @@ struct Parser {
     }
     Cursor cursor(body);
     const std::uint32_t ownerLength = cursor.u32();
-    const Bytes ownerPart = cursor.part(ownerLength, 4);
+    const BytesView ownerPart = cursor.part(ownerLength, 4);
     Cursor owner(ownerPart);
-    const Bytes name = owner.take(owner.u16());
+    const BytesView name = owner.take(owner.u16());
     result.owner = nameText(format, name, codePage);
     result.rest = copy(ownerPart.subspan(2 + name.size()));
     while (!cursor.atEnd()) result.items.push_back(item(cursor, names));
@@ -96,7 +96,7 @@ class Writer {
   void number(std::size_t value, int size) {
     for (int i = 0; i < size; ++i) bytes_.push_back(static_cast<std::byte>(value >> (8 * i) & 0xFF));
   }
-  void raw(Bytes bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
+  void raw(BytesView bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
   void name(const std::string& utf8) {
     const std::u16string text = toUtf16(utf8);
     number(2 * text.size(), 2);
@@ -156,7 +156,7 @@ bool owns(const PropertyGroup& group, std::string_view owner) {
 
 }  // namespace
 
-PropertyBlock::PropertyBlock(const Format& format, Bytes block, std::uint16_t codePage) {
+PropertyBlock::PropertyBlock(const Format& format, BytesView block, std::uint16_t codePage) {
   Cursor cursor(block);
   if (std::memcmp(cursor.take(MarkSize).data(), format.propertyMark, MarkSize) != 0)
     throw damagedFile("proprietà senza intestazione");
@@ -164,7 +164,7 @@ PropertyBlock::PropertyBlock(const Format& format, Bytes block, std::uint16_t co
   while (!cursor.atEnd()) {
     const std::uint32_t length = cursor.u32();
     const std::uint16_t kind = cursor.u16();
-    const Bytes body = cursor.part(length, ChunkHead);
+    const BytesView body = cursor.part(length, ChunkHead);
     if (kind == NamesChunk)
       names_ = parser.names(body);
     else

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "jet/file/definition.h"
-#include "jet/file/format.h"
+#include "jet/file/page/format.h"
 
 namespace jet::file {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "jet/file/catalogue.h"
+#include "jet/file/read/catalogue.h"
 
 namespace jet::file {
 

@@ -1,8 +1,8 @@
 #include "jet/file/values.h"
 
-#include "jet/file/bytes.h"
 #include "jet/file/errors.h"
-#include "jet/file/text.h"
+#include "jet/file/page/bytes.h"
+#include "jet/file/text/text.h"
 
 namespace jet::file {
 

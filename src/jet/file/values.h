@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "jet/file/format.h"
+#include "jet/file/page/format.h"
 #include "jet/file/row.h"
 #include "runtime/variant.h"
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "jet/file/format.h"
+#include "jet/file/page/format.h"
 #include "platform/clock.h"
 
 namespace jet::image {

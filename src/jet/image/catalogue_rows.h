@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "jet/file/catalogue.h"
 #include "jet/file/properties.h"
+#include "jet/file/read/catalogue.h"
 #include "jet/image/connection.h"
 #include "jet/image/relation_design.h"
 

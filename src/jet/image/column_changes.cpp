@@ -1,7 +1,8 @@
 // Columns of existing tables: added, replaced, resized, renamed, moved and dropped.
 #include <algorithm>
 
-#include "jet/file/text.h"
+#include "jet/file/errors.h"
+#include "jet/file/text/text.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 #include "jet/image/row_codec.h"
@@ -14,15 +15,11 @@ using file::Column;
 using file::ColumnType;
 
 constexpr std::uint32_t TextSizeLimit = 255, BinarySizeLimit = 510;
-constexpr std::int32_t LastPosition = 0xFFFF;
-
-[[noreturn]] void fail(int number, std::string description) {
-  throw runtime::Error(number, "DAO.TableDef", std::move(description));
-}
 
 std::size_t positionOf(const file::TableDefinition& design, std::string_view name) {
   const auto position = design.find(name);
-  if (!position) fail(3265, "Campo inesistente: " + std::string(name));
+  if (!position)
+    throw runtime::Error(ItemNotFound, source::TableDef, "Campo inesistente: " + std::string(name));
   return *position;
 }
 
@@ -112,7 +109,8 @@ void Image::resizeColumn(std::uint32_t page, std::string_view name, std::uint16_
   const bool text = column.type == ColumnType::Text;
   if ((!text && column.type != ColumnType::Binary) || column.fixed() || size == 0 ||
       size > (text ? TextSizeLimit : BinarySizeLimit))
-    fail(3259, "Dimensione non valida per il campo " + column.name);
+    throw runtime::Error(InvalidDataType, source::TableDef,
+                         "Dimensione non valida per il campo " + column.name);
   const auto length = static_cast<std::uint16_t>(text ? 2 * size : size);
   Transaction whole(*this);
   if (length < column.length) {
@@ -124,7 +122,8 @@ void Image::resizeColumn(std::uint32_t page, std::string_view name, std::uint16_
     while (rows.step()) {
       const std::string value = rows.text(0);
       if ((text ? file::utf16Length(value) : value.size()) > size)
-        fail(3163, "Un valore è troppo lungo per il campo " + design.name + "." + column.name);
+        throw runtime::Error(FieldTooSmall, source::TableDef,
+                             "Un valore è troppo lungo per il campo " + design.name + "." + column.name);
     }
   }
   column.length = length;
@@ -138,7 +137,8 @@ void Image::renameColumn(std::uint32_t page, std::string_view name, const std::s
   auto design = definition(changed);
   const auto position = positionOf(design, name);
   const auto other = design.find(newName);
-  if (other && *other != position) fail(3191, "Campo già presente: " + newName);
+  if (other && *other != position)
+    throw runtime::Error(DuplicateField, source::TableDef, "Campo già presente: " + newName);
   const std::string oldName = design.columns[position].name;
   design.columns[position].name = newName;
 
@@ -156,7 +156,9 @@ void Image::moveColumn(std::uint32_t page, std::string_view name, std::int32_t p
   auto& changed = changeable(page);
   auto design = definition(changed);
   const auto moved = positionOf(design, name);
-  if (position > LastPosition) fail(3259, "Posizione non valida per il campo " + design.columns[moved].name);
+  if (position > LastPosition)
+    throw runtime::Error(InvalidDataType, source::TableDef,
+                         "Posizione non valida per il campo " + design.columns[moved].name);
   if (position < 0) {
     // There is no place before the first one: the others make room.
     const auto order = design.displayOrder();
@@ -175,7 +177,9 @@ void Image::makeAutoNumber(std::uint32_t page, std::string_view name) {
   auto design = definition(changed);
   auto& column = design.columns[positionOf(design, name)];
   requireNoAutoNumber(design);
-  if (column.type != ColumnType::Long) fail(3259, "Tipo di dati non valido per un contatore: " + column.name);
+  if (column.type != ColumnType::Long)
+    throw runtime::Error(InvalidDataType, source::TableDef,
+                         "Tipo di dati non valido per un contatore: " + column.name);
   Transaction whole(*this);
   load(changed);
   dropTriggers(changed);
@@ -193,8 +197,12 @@ void Image::dropColumn(std::uint32_t page, std::string_view name) {
   const auto position = positionOf(design, name);
   const auto column = design.columns[position];
   requireUnrelated(changed, column);
-  if (isIndexed(design, column.number)) fail(3280, "Il campo " + column.name + " fa parte di un indice");
-  if (design.columns.size() == 1) fail(3264, "La tabella " + design.name + " deve avere almeno un campo");
+  if (isIndexed(design, column.number))
+    throw runtime::Error(FieldInIndex, source::TableDef,
+                         "Il campo " + column.name + " fa parte di un indice");
+  if (design.columns.size() == 1)
+    throw runtime::Error(NoFieldDefined, source::TableDef,
+                         "La tabella " + design.name + " deve avere almeno un campo");
   design.columns.erase(design.columns.begin() + static_cast<std::ptrdiff_t>(position));
 
   Transaction whole(*this);
@@ -221,7 +229,8 @@ void Image::requireUnrelated(const Table& owner, const Column& column) {
       if ((file::sameName(relation.table, owner.name) && file::sameName(pair.column, column.name)) ||
           (file::sameName(relation.foreignTable, owner.name) &&
            file::sameName(pair.foreignColumn, column.name)))
-        fail(3303, "Il campo " + column.name + " fa parte della relazione " + relation.name);
+        throw runtime::Error(FieldInRelation, source::TableDef,
+                             "Il campo " + column.name + " fa parte della relazione " + relation.name);
 }
 
 }  // namespace jet::image

@@ -2,14 +2,14 @@
 
 #include <charconv>
 
-#include "jet/file/text_key.h"
+#include "jet/file/errors.h"
+#include "jet/file/text/text_key.h"
 #include "jet/image/decimal.h"
 
 namespace jet::image {
 
 namespace {
 
-constexpr char Source[] = "DAO.Database";
 // Cache of the scratch database; what is larger goes to a temporary file.
 constexpr char Settings[] =
     "PRAGMA cache_size = -24576; PRAGMA synchronous = OFF; PRAGMA temp_store = FILE;"
@@ -23,12 +23,12 @@ struct Limit {
 };
 
 constexpr Limit Limits[] = {
-    {"parser stack overflow", 3360, "Espressione troppo complessa"},
-    {"Expression tree is too large", 3360, "Espressione troppo complessa"},
-    {"too many", 3360, "Espressione troppo complessa"},
-    {"at most 64 tables", 3360, "Espressione troppo complessa"},
+    {"parser stack overflow", TooComplex, "Espressione troppo complessa"},
+    {"Expression tree is too large", TooComplex, "Espressione troppo complessa"},
+    {"too many", TooComplex, "Espressione troppo complessa"},
+    {"at most 64 tables", TooComplex, "Espressione troppo complessa"},
     {"integer overflow", runtime::Overflow, "Overflow"},
-    {"cannot open savepoint", 3211, "Tabella non ancora letta, e un'istruzione di modifica è in corso"},
+    {"cannot open savepoint", TableInUse, "Tabella non ancora letta, e un'istruzione di modifica è in corso"},
 };
 
 // Bits of SQLite's mask of optimisations, as its tests name them: the filter before an automatic index, and
@@ -51,30 +51,30 @@ int collate(void*, int lengthA, const void* a, int lengthB, const void* b) {
 runtime::Error errorFromSqlite(sqlite3* connection) {
   const std::string message = sqlite3_errmsg(connection);
   int number = 0;
-  const auto [end, error] = std::from_chars(message.data(), message.data() + message.size(), number);
-  if (error == std::errc() && end != message.data() + message.size() && *end == '|')
-    return runtime::Error(number, Source, std::string(end + 1));
+  const auto [end, fault] = std::from_chars(message.data(), message.data() + message.size(), number);
+  if (fault == std::errc() && end != message.data() + message.size() && *end == '|')
+    return runtime::Error(number, source::Database, std::string(end + 1));
   switch (sqlite3_errcode(connection)) {
     case SQLITE_CONSTRAINT:
-      return runtime::Error(3022, Source, "Valore doppio in un indice che non ammette duplicati");
+      return errorOf(DuplicateKey, source::Database);
     case SQLITE_FULL:
     case SQLITE_IOERR:
     case SQLITE_CANTOPEN:
-      return runtime::Error(3183, Source, "Spazio insufficiente sul disco temporaneo");
+      return errorOf(TemporarySpaceFull, source::Database);
     case SQLITE_NOMEM:
-      return runtime::Error(7, Source, "Memoria esaurita");
+      return runtime::Error(7, source::Database, "Memoria esaurita");
     case SQLITE_TOOBIG:
-      return runtime::Error(14, Source, "Spazio per le stringhe esaurito: un valore supera 1 GB");
+      return runtime::Error(14, source::Database, "Spazio per le stringhe esaurito: un valore supera 1 GB");
     case SQLITE_LOCKED:
-      return runtime::Error(3211, Source, "Tabella in uso da un altro recordset");
+      return runtime::Error(TableInUse, source::Database, "Tabella in uso da un altro recordset");
     default:
       break;
   }
   for (const Limit& limit : Limits)
     if (message.find(limit.words) != std::string::npos)
-      return runtime::Error(limit.number, Source, limit.description);
-  return runtime::Error(3000, Source,
-                        "Errore riservato: codice " + std::to_string(sqlite3_extended_errcode(connection)));
+      return runtime::Error(limit.number, source::Database, limit.description);
+  return errorOf(ReservedError, source::Database,
+                 "codice " + std::to_string(sqlite3_extended_errcode(connection)));
 }
 
 void registerOrders(sqlite3* connection) {
@@ -86,7 +86,7 @@ void registerOrders(sqlite3* connection) {
 
 void requireOrders(sqlite3* connection) {
   if (!Statement(connection, EqualTextsMeet).step())
-    throw runtime::Error(3000, Source,
+    throw runtime::Error(ReservedError, source::Database,
                          std::string("Errore riservato: SQLite ") + sqlite3_libversion() +
                              " non trova i testi uguali che hanno lunghezze diverse");
 }

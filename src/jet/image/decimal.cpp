@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "jet/file/errors.h"
 #include "runtime/error.h"
 
 namespace jet::image {
@@ -13,7 +14,7 @@ namespace {
 __extension__ using Magnitude = unsigned __int128;
 
 [[noreturn]] void notANumber(std::string_view text) {
-  throw runtime::Error(3421, "DAO.Field", "Errore di conversione del tipo di dati: " + std::string(text));
+  throw errorOf(ConversionFailed, source::Field, std::string(text));
 }
 
 /// Splits "-12.5e3" into digits and the power of ten of the last one.

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "jet/file/text.h"
+#include "jet/file/errors.h"
+#include "jet/file/text/text.h"
 #include "runtime/error.h"
 
 namespace jet::image {
@@ -15,12 +16,7 @@ using file::LogicalIndex;
 using file::RealIndex;
 
 constexpr std::size_t MaxColumns = 255, MaxIndexes = 32, MaxIndexColumns = 10, MaxNameLength = 64;
-constexpr int LastPosition = 0xFFFF;
 constexpr std::uint16_t DefaultTextSize = 255, DefaultBinarySize = 510;
-
-[[noreturn]] void fail(int number, std::string description) {
-  throw runtime::Error(number, "DAO.TableDef", std::move(description));
-}
 
 /// Bytes that the definition gives as a column's length.
 std::uint16_t definitionLength(ColumnType type, std::uint16_t size) {
@@ -37,7 +33,8 @@ std::vector<LogicalIndex>::iterator indexNamed(file::TableDefinition& table, std
   const auto found =
       std::find_if(table.logicalIndexes.begin(), table.logicalIndexes.end(),
                    [&](const LogicalIndex& index) { return file::sameName(index.name, name); });
-  if (found == table.logicalIndexes.end()) fail(3372, "Indice inesistente: " + std::string(name));
+  if (found == table.logicalIndexes.end())
+    throw runtime::Error(NoSuchIndex, source::TableDef, "Indice inesistente: " + std::string(name));
   return found;
 }
 
@@ -56,9 +53,10 @@ Column newColumn(std::string name, ColumnType type, std::uint16_t size, bool fix
 
 void addColumn(file::TableDefinition& table, Column column) {
   checkName(column.name);
-  if (table.find(column.name)) fail(3191, "Campo definito più di una volta: " + column.name);
+  if (table.find(column.name)) throw errorOf(DuplicateField, source::TableDef, column.name);
   if (column.autoNumber()) requireNoAutoNumber(table);
-  if (table.maxColumns >= MaxColumns) fail(3190, "Troppi campi nella tabella " + table.name);
+  if (table.maxColumns >= MaxColumns)
+    throw runtime::Error(TooManyFields, source::TableDef, "Troppi campi nella tabella " + table.name);
   column.number = table.maxColumns++;
   column.position = column.number;
   for (const auto& other : table.columns)
@@ -76,13 +74,15 @@ void addIndex(file::TableDefinition& table, const IndexDesign& design) {
   checkName(design.name);
   requireRoomForIndex(table);
   if (design.columns.empty() || design.columns.size() > MaxIndexColumns)
-    fail(3290, "Numero di campi non valido nell'indice " + design.name);
+    throw runtime::Error(CreateTableSyntax, source::TableDef,
+                         "Numero di campi non valido nell'indice " + design.name);
   for (const auto& part : design.columns) checkIndexable(table.columns[*table.findNumber(part.column)]);
   std::uint32_t number = 0;
   for (const auto& index : table.logicalIndexes) {
-    if (file::sameName(index.name, design.name)) fail(3284, "Indice già presente: " + design.name);
+    if (file::sameName(index.name, design.name)) throw errorOf(IndexExists, source::TableDef, design.name);
     if (design.primary && index.kind == LogicalIndex::Kind::Primary)
-      fail(3283, "Chiave primaria già presente nella tabella " + table.name);
+      throw runtime::Error(SecondPrimaryKey, source::TableDef,
+                           "Chiave primaria già presente nella tabella " + table.name);
     number = std::max(number, index.number + 1);
   }
   RealIndex real;
@@ -110,7 +110,9 @@ void removeIndex(file::TableDefinition& table, std::string_view name) {
     if (index.kind == LogicalIndex::Kind::Relation && index.side == LogicalIndex::Side::Primary)
       onlyForeign = false;
   }
-  if (!onlyForeign) fail(3281, "L'indice " + found->name + " è usato da una relazione");
+  if (!onlyForeign)
+    throw runtime::Error(IndexInRelation, source::TableDef,
+                         "L'indice " + found->name + " è usato da una relazione");
   removeLogical(table, static_cast<std::size_t>(found - table.logicalIndexes.begin()));
   const auto ordinary = [&](const LogicalIndex& index) {
     return index.real == real && index.kind != LogicalIndex::Kind::Relation;
@@ -134,25 +136,29 @@ void renameIndex(file::TableDefinition& table, std::string_view name, const std:
   checkName(newName);
   const auto renamed = indexNamed(table, name);
   if (renamed->kind == LogicalIndex::Kind::Relation)
-    fail(3281, "L'indice " + renamed->name + " è di una relazione");
+    throw runtime::Error(IndexInRelation, source::TableDef,
+                         "L'indice " + renamed->name + " è di una relazione");
   for (const auto& index : table.logicalIndexes)
     if (&index != &*renamed && file::sameName(index.name, newName))
-      fail(3284, "Indice già presente: " + newName);
+      throw errorOf(IndexExists, source::TableDef, newName);
   renamed->name = newName;
 }
 
 void requireRoomForIndex(const file::TableDefinition& table) {
-  if (table.realIndexes.size() >= MaxIndexes) fail(3626, "Troppi indici nella tabella " + table.name);
+  if (table.realIndexes.size() >= MaxIndexes)
+    throw runtime::Error(TooManyIndexes, source::TableDef, "Troppi indici nella tabella " + table.name);
 }
 
 void checkIndexable(const Column& column) {
   if (column.type == ColumnType::Ole || column.type == ColumnType::Raw)
-    fail(3290, "Il campo " + column.name + " non può stare in un indice");
+    throw runtime::Error(CreateTableSyntax, source::TableDef,
+                         "Il campo " + column.name + " non può stare in un indice");
 }
 
 void requireNoAutoNumber(const file::TableDefinition& table) {
   if (std::ranges::any_of(table.columns, &Column::autoNumber))
-    fail(3090, "La tabella " + table.name + " può avere un solo contatore");
+    throw runtime::Error(SecondAutoNumber, source::TableDef,
+                         "La tabella " + table.name + " può avere un solo contatore");
 }
 
 std::string indexNameOf(const file::TableDefinition& table, std::size_t real) {
@@ -175,7 +181,7 @@ void checkName(std::string_view name) {
       std::any_of(name.begin(), name.end(), [&](char c) {
         return static_cast<unsigned char>(c) < 0x20 || Forbidden.find(c) != std::string_view::npos;
       });
-  if (bad) fail(3125, "Nome non valido: " + std::string(name));
+  if (bad) throw errorOf(InvalidName, source::TableDef, std::string(name));
 }
 
 }  // namespace jet::image

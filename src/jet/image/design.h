@@ -8,6 +8,9 @@
 /// Building a table's definition column by column, index by index.
 namespace jet::image {
 
+/// The last place that a column can have in the order of `*`.
+inline constexpr int LastPosition = 0xFFFF;
+
 /// A column of `type` as a new table gets it. `size`: characters of a Text, bytes of a Binary. `fixed`: each
 /// value of a Text or Binary takes that much; the other types have it as they are.
 file::Column newColumn(std::string name, file::ColumnType type, std::uint16_t size = 0, bool fixed = false);

@@ -1,28 +1,21 @@
 // Tables and indexes made, renamed and dropped, with their catalogue rows.
+#include "jet/file/errors.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 #include "jet/image/row_codec.h"
 
 namespace jet::image {
 
-namespace {
-
-[[noreturn]] void fail(int number, std::string description) {
-  throw runtime::Error(number, "DAO.TableDefs", std::move(description));
-}
-
-}  // namespace
-
 Table& Image::changeable(std::uint32_t page) {
   requireWritable();
   auto& wanted = table(page);
-  if (wanted.link) fail(3057, "Operazione non consentita su una tabella collegata: " + wanted.name);
-  if (wanted.system()) fail(3111, "Impossibile modificare una tabella di sistema: " + wanted.name);
+  if (wanted.link) throw errorOf(NotForLinkedTables, source::TableDefs, wanted.name);
+  if (wanted.system()) throw errorOf(SystemTable, source::TableDefs, wanted.name);
   return wanted;
 }
 
 Table& Image::changeable(std::string_view name) {
-  return changeable(tableNamed(name, 3078).page);
+  return changeable(tableNamed(name, UnknownTable).page);
 }
 
 void Image::setDefinition(Table& changed, file::TableDefinition design) {
@@ -37,9 +30,10 @@ void Image::createTable(file::TableDefinition design, const file::PropertyBlock&
   requireWritable();
   checkName(design.name);
   if (const auto* other = find(design.name); other && other->system())
-    fail(3111, "Impossibile modificare una tabella di sistema: " + other->name);
+    throw errorOf(SystemTable, source::TableDefs, other->name);
   if (const auto other = findObject(design.name))
-    fail(other->type == file::ObjectType::Table ? 3010 : 3012, "Tabella già presente: " + design.name);
+    throw runtime::Error(other->type == file::ObjectType::Table ? TableExists : ObjectExists,
+                         source::TableDefs, "Tabella già presente: " + design.name);
   Transaction whole(*this);
   changeSystemTable(file::CatalogueTable);
   changeSystemTable(file::PermissionsTable);
@@ -61,11 +55,14 @@ void Image::createTable(file::TableDefinition design, const file::PropertyBlock&
 
 void Image::dropTable(std::string_view name) {
   requireWritable();
-  auto& gone = tableNamed(name, 3376);
-  if (gone.system()) fail(3111, "Impossibile eliminare una tabella di sistema: " + gone.name);
+  auto& gone = tableNamed(name, NoSuchTable);
+  if (gone.system())
+    throw runtime::Error(SystemTable, source::TableDefs,
+                         "Impossibile eliminare una tabella di sistema: " + gone.name);
   for (const auto& relation : relations())
     if (file::sameName(relation.table, gone.name) || file::sameName(relation.foreignTable, gone.name))
-      fail(3281, "La tabella " + gone.name + " è usata dalla relazione " + relation.name);
+      throw runtime::Error(IndexInRelation, source::TableDefs,
+                           "La tabella " + gone.name + " è usata dalla relazione " + relation.name);
   Transaction whole(*this);
   const auto page = gone.page;
   removeObject(page);
@@ -79,8 +76,8 @@ void Image::dropTable(std::string_view name) {
 
 void Image::renameTable(std::string_view name, const std::string& newName) {
   requireWritable();
-  auto& renamed = tableNamed(name, 3078);
-  if (renamed.system()) fail(3111, "Impossibile modificare una tabella di sistema: " + renamed.name);
+  auto& renamed = tableNamed(name, UnknownTable);
+  if (renamed.system()) throw errorOf(SystemTable, source::TableDefs, renamed.name);
   Transaction whole(*this);
   renameObject(renamed.page, newName);
   changeSystemTable(file::RelationshipsTable);
@@ -104,7 +101,9 @@ void Image::checkRows(Table& changed, const file::TableDefinition& design, std::
     for (const auto& part : real.columns) {
       auto query = connection_.prepare("SELECT 1 FROM " + tableName(changed.page) + " WHERE " +
                                        columnName(part.column) + " IS NULL LIMIT 1");
-      if (query.step()) fail(3058, "L'indice " + indexNameOf(design, index) + " non ammette un valore Null");
+      if (query.step())
+        throw runtime::Error(NullInIndex, source::TableDefs,
+                             "L'indice " + indexNameOf(design, index) + " non ammette un valore Null");
     }
   }
   makeIndexes(design, {}, true);

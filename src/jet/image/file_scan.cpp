@@ -4,7 +4,7 @@
 #include <charconv>
 #include <optional>
 
-#include "jet/file/table_reader.h"
+#include "jet/file/read/table_reader.h"
 #include "jet/image/image.h"
 #include "jet/image/row_codec.h"
 

@@ -29,7 +29,7 @@ void addIndexRules(const file::TableDefinition& design, std::vector<Rule>& rules
     for (const auto& part : design.realIndexes[i].columns) {
       const auto& column = design.columns[*design.findNumber(part.column)];
       rules.push_back(
-          {&column, newValue(column) + " IS NULL", 3058,
+          {&column, newValue(column) + " IS NULL", NullInIndex,
            "L'indice " + indexNameOf(design, i) + " non ammette un valore Null - campo " + column.name});
     }
   }
@@ -40,10 +40,11 @@ void addPropertyRules(const file::TableDefinition& design, const file::PropertyB
   for (const auto& column : design.columns) {
     const std::string name = design.name + "." + column.name;
     if (booleanProperty(block, column.name, "Required", false))
-      rules.push_back({&column, newValue(column) + " IS NULL", 3314, "Il campo " + name + " è richiesto"});
+      rules.push_back(
+          {&column, newValue(column) + " IS NULL", ValueRequired, "Il campo " + name + " è richiesto"});
     // Where nothing is said, empty texts are let in: rows that hold some must stay as they are.
     if (file::isText(column.type) && !booleanProperty(block, column.name, "AllowZeroLength", true))
-      rules.push_back({&column, "length(" + newValue(column) + ") = 0", 3315,
+      rules.push_back({&column, "length(" + newValue(column) + ") = 0", EmptyTextRefused,
                        "Il campo " + name + " non ammette un testo vuoto"});
   }
 }
@@ -58,8 +59,8 @@ void addValidation(const file::TableDefinition& design, const file::PropertyBloc
   if (text.empty())
     text = "Uno o più valori non rispettano la regola di convalida " + rule + " - " +
            (column ? "campo " + design.name + "." + owner : "tabella " + design.name);
-  rules.push_back(
-      {column, "NOT (" + compile(design, column, rule) + ")", column ? 3317 : 3316, std::move(text)});
+  rules.push_back({column, "NOT (" + compile(design, column, rule) + ")",
+                   column ? FieldRuleBroken : TableRuleBroken, std::move(text)});
 }
 
 /// One trigger for new rows, whose auto-numbers the engine fills in.
@@ -146,7 +147,7 @@ void Image::dropTriggersAround(const Table& table) {
     if (!file::sameName(relation.table, table.name) && !file::sameName(relation.foreignTable, table.name))
       continue;
     for (const auto& name : {relation.table, relation.foreignTable})
-      if (find(name)) dropTriggers(tableNamed(name, 3078));
+      if (find(name)) dropTriggers(tableNamed(name, UnknownTable));
   }
 }
 

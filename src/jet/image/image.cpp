@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "jet/file/table_reader.h"
+#include "jet/file/errors.h"
+#include "jet/file/read/table_reader.h"
 #include "jet/image/file_scan.h"
 #include "jet/image/linked_table.h"
 #include "jet/image/row_codec.h"
@@ -11,7 +12,6 @@ namespace jet::image {
 
 namespace {
 
-constexpr char Source[] = "DAO.Database";
 // Tables with fewer rows are loaded even where one pass over the file would do.
 constexpr std::uint32_t SmallTable = 2000;
 
@@ -91,12 +91,13 @@ const Table* Image::find(std::string_view name) const {
 Table& Image::table(std::uint32_t page) {
   for (auto& table : state_.tables)
     if (table.page == page) return table;
-  throw runtime::Error(3078, Source, "Tabella inesistente: numero " + std::to_string(page));
+  throw runtime::Error(UnknownTable, source::Database, "Tabella inesistente: numero " + std::to_string(page));
 }
 
 Table& Image::tableNamed(std::string_view name, int errorNumber) {
   const Table* found = find(name);
-  if (!found) throw runtime::Error(errorNumber, Source, "Tabella inesistente: " + std::string(name));
+  if (!found)
+    throw runtime::Error(errorNumber, source::Database, "Tabella inesistente: " + std::string(name));
   return const_cast<Table&>(*found);
 }
 
@@ -125,14 +126,14 @@ std::shared_ptr<const file::TableDefinition> Image::sharedDefinition(std::uint32
 
 void Image::requireWritable() const {
   if (source_->readOnly())
-    throw runtime::Error(3027, Source,
-                         "Impossibile aggiornare: database di sola lettura - " + source_->path());
+    throw errorOf(ReadOnly, source::Database, "database di sola lettura - " + source_->path());
 }
 
 void Image::makeRows(Table& table) {
   if (table.made) return;
   const auto& design = definition(table);
-  if (design.columns.empty()) throw runtime::Error(3343, Source, "Tabella senza campi: " + design.name);
+  if (design.columns.empty())
+    throw runtime::Error(UnrecognizedFormat, source::Database, "Tabella senza campi: " + design.name);
   std::string sql = "CREATE TABLE main." + tableName(table.page) + "(";
   for (const auto& column : design.columns)
     sql += columnName(column.number) + " " + columnDeclaration(column.type) + ",";
@@ -239,9 +240,9 @@ void Image::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>
   requireWritable();
   auto& wanted = table(page);
   if (wanted.link)
-    throw runtime::Error(3027, Source, "Impossibile aggiornare una tabella collegata: " + wanted.name);
-  if (wanted.system())
-    throw runtime::Error(3111, Source, "Impossibile modificare una tabella di sistema: " + wanted.name);
+    throw runtime::Error(ReadOnly, source::Database,
+                         "Impossibile aggiornare una tabella collegata: " + wanted.name);
+  if (wanted.system()) throw errorOf(SystemTable, source::Database, wanted.name);
   cascaded_.clear();
   std::vector<Readied> done;
   readyChange(wanted, compared, change, done);

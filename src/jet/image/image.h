@@ -11,10 +11,11 @@
 #include <unordered_map>
 #include <vector>
 
-#include "jet/file/catalogue.h"
-#include "jet/file/database_writer.h"
-#include "jet/file/page_file.h"
+#include "jet/file/errors.h"
+#include "jet/file/page/page_file.h"
 #include "jet/file/properties.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/write/database_writer.h"
 #include "jet/image/connection.h"
 #include "jet/image/design.h"
 #include "jet/image/relation_design.h"

@@ -80,8 +80,9 @@ std::string Image::partners(const Bond& bond, const std::string& changed, bool c
 
 void Image::guardAsChild(const Bond& bond, std::size_t number) {
   const std::string name = "k" + std::to_string(bond.child.page) + "_" + std::to_string(number);
-  const std::string refuse = raise(3201, "Serve una riga corrispondente nella tabella " + bond.parent.name +
-                                             " (relazione " + bond.name + ")");
+  const std::string refuse =
+      raise(RelatedRecordMissing, "Serve una riga corrispondente nella tabella " + bond.parent.name +
+                                      " (relazione " + bond.name + ")");
   std::string columns, condition;
   for (const auto column : bond.foreignColumns) {
     columns += (columns.empty() ? "" : ",") + columnName(column);
@@ -97,7 +98,8 @@ void Image::guardAsParent(const Bond& bond, std::size_t number) {
   const std::string name = "p" + std::to_string(bond.parent.page) + "_" + std::to_string(number);
   const std::string child = tableName(bond.child.page);
   const std::string refuse =
-      raise(3200, "La tabella " + bond.child.name + " ha righe corrispondenti (relazione " + bond.name + ")");
+      raise(RelatedRecordsExist,
+            "La tabella " + bond.child.name + " ha righe corrispondenti (relazione " + bond.name + ")");
   const std::string partner = partners(bond, "OLD", false);
   const std::string hasChildren = "EXISTS (SELECT 1 FROM " + child + " WHERE " + partner + ")";
   const std::string cascaded = "SELECT jet_cascaded(" + std::to_string(bond.child.page) + ");";

@@ -1,8 +1,8 @@
 #include "jet/image/linked_table.h"
 
-#include "jet/file/catalogue.h"
 #include "jet/file/errors.h"
-#include "jet/file/table_reader.h"
+#include "jet/file/read/catalogue.h"
+#include "jet/file/read/table_reader.h"
 #include "platform/disk.h"
 
 namespace jet::image {
@@ -26,7 +26,8 @@ LinkedTable findLinked(const std::string& path, const std::string& table) try {
     found.source = file::readDefinition(pages, object.id, object.name);
     return found;
   }
-  throw runtime::Error(3011, "DAO.TableDef", "Tabella \"" + table + "\" inesistente nel database " + path);
+  throw runtime::Error(ObjectNotFound, source::TableDef,
+                       "Tabella \"" + table + "\" inesistente nel database " + path);
 } catch (const platform::DiskError& error) {
   throw file::fromDisk(error);
 }

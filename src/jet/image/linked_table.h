@@ -4,7 +4,8 @@
 #include <string>
 
 #include "jet/file/definition.h"
-#include "jet/file/page_file.h"
+#include "jet/file/errors.h"
+#include "jet/file/page/page_file.h"
 
 namespace jet::image {
 

@@ -1,4 +1,5 @@
 // Links: tables that lie in other files, read from there when a statement needs them.
+#include "jet/file/errors.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 #include "jet/image/linked_table.h"
@@ -49,7 +50,7 @@ const file::TableDefinition& Image::linkedDefinition(Table& wanted) {
   if (wanted.linked && unchanged(*wanted.linked)) return *wanted.definition;
   const auto target = link(wanted.page);
   if (!target || !target->connect.empty())
-    throw runtime::Error(3170, "DAO.TableDef",
+    throw runtime::Error(ExternalDatabase, source::TableDef,
                          "Tabella collegata a un'origine non disponibile: " + wanted.name);
   auto found = findLinked(target->path, target->sourceTable);
   // The rows of the file as it was are of no use any more.

@@ -1,12 +1,11 @@
 // Objects of the catalogue and their properties.
+#include "jet/file/errors.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 
 namespace jet::image {
 
 namespace {
-
-constexpr char Source[] = "DAO.Database";
 
 // Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c7 Flags; of MSysQueries (t4): c0
 // ObjectId.
@@ -48,7 +47,7 @@ std::uint32_t Image::createObject(const std::string& name, file::ObjectType type
   checkName(name);
   const bool relation = type == file::ObjectType::Relation;
   const auto container = relation ? file::RelationshipsContainer : file::TablesContainer;
-  if (findObject(name, container)) throw runtime::Error(3012, Source, "Oggetto già presente: " + name);
+  if (findObject(name, container)) throw errorOf(ObjectExists, source::Database, name);
   changeSystemTable(file::CatalogueTable);
   changeSystemTable(file::PermissionsTable);
   // Objects without a page count upwards from the lowest negative number. One that a dropped object has left
@@ -65,7 +64,7 @@ std::uint32_t Image::createObject(const std::string& name, file::ObjectType type
 void Image::changeObject(std::uint32_t id, const std::string& name, std::uint32_t flags) {
   requireWritable();
   const auto other = findObject(name);
-  if (other && other->id != id) throw runtime::Error(3012, Source, "Oggetto già presente: " + name);
+  if (other && other->id != id) throw errorOf(ObjectExists, source::Database, name);
   Transaction whole(*this);
   renameObject(id, name);
   auto update = connection_.prepare("UPDATE t2 SET c7 = ?2 WHERE c0 = ?1");
@@ -84,8 +83,8 @@ void Image::renameObject(std::uint32_t id, const std::string& newName) {
   checkName(newName);
   const auto other = findObject(newName);
   if (other && other->id != id)
-    throw runtime::Error(other->type == file::ObjectType::Table ? 3010 : 3012, Source,
-                         "Oggetto già presente: " + newName);
+    throw runtime::Error(other->type == file::ObjectType::Table ? TableExists : ObjectExists,
+                         source::Database, "Oggetto già presente: " + newName);
   changeSystemTable(file::CatalogueTable);
   auto update = connection_.prepare("UPDATE t2 SET c2 = ?2 WHERE c0 = ?1");
   update.bind(1, signedId(id));

@@ -2,7 +2,8 @@
 
 #include <cstring>
 
-#include "jet/file/text.h"
+#include "jet/file/errors.h"
+#include "jet/file/text/text.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
 
@@ -64,7 +65,7 @@ Bytes encoded(ColumnType type, const Variant& value) {
       if (const auto* bytes = std::get_if<runtime::Bytes>(&value.value())) return *bytes;
       throw runtime::languageError(runtime::TypeMismatch);
     default:
-      throw runtime::Error(3259, "DAO.Property", "Tipo di dati non valido per una proprietà");
+      throw runtime::Error(InvalidDataType, source::Property, "Tipo di dati non valido per una proprietà");
   }
 }
 
@@ -90,8 +91,8 @@ file::PropertyItem propertyItem(std::string name, ColumnType type, const Variant
   try {
     item.data = encoded(type, value);
   } catch (const runtime::Error& error) {
-    if (error.number() == 3259) throw;
-    throw runtime::Error(3421, "DAO.Property", "Errore di conversione del tipo di dati: " + name);
+    if (error.number() == InvalidDataType) throw;
+    throw errorOf(ConversionFailed, source::Property, name);
   }
   item.name = std::move(name);
   return item;

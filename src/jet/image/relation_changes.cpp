@@ -1,18 +1,11 @@
 // Relations read, made and dropped: rows of MSysRelationships, the catalogue object, the indexes of both
 // tables.
+#include "jet/file/errors.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 #include "jet/image/row_codec.h"
 
 namespace jet::image {
-
-namespace {
-
-[[noreturn]] void fail(int number, std::string description) {
-  throw runtime::Error(number, "DAO.Relations", std::move(description));
-}
-
-}  // namespace
 
 std::vector<RelationDesign> Image::relations() {
   load(table(file::RelationshipsTable));
@@ -22,11 +15,14 @@ std::vector<RelationDesign> Image::relations() {
 void Image::createRelation(const RelationDesign& wanted) {
   requireWritable();
   checkName(wanted.name);
-  if (wanted.pairs.empty()) fail(3366, "La relazione " + wanted.name + " non ha campi");
+  if (wanted.pairs.empty())
+    throw runtime::Error(RelationWithoutFields, source::Relations,
+                         "La relazione " + wanted.name + " non ha campi");
   for (const auto& other : relations())
-    if (file::sameName(other.name, wanted.name)) fail(3012, "Relazione già presente: " + wanted.name);
-  auto& parent = tableNamed(wanted.table, 3078);
-  auto& child = tableNamed(wanted.foreignTable, 3078);
+    if (file::sameName(other.name, wanted.name))
+      throw runtime::Error(ObjectExists, source::Relations, "Relazione già presente: " + wanted.name);
+  auto& parent = tableNamed(wanted.table, UnknownTable);
+  auto& child = tableNamed(wanted.foreignTable, UnknownTable);
   RelationDesign relation = wanted;
   relation.table = parent.name;
   relation.foreignTable = child.name;
@@ -72,8 +68,9 @@ void Image::checkPartners(const RelationDesign& relation, Table& parent, Table& 
                                    "NOT EXISTS (SELECT 1 FROM " + tableName(parent.page) + " p WHERE " +
                                    equal + ") LIMIT 1");
   if (query.step())
-    fail(3201, "Relazione " + relation.name + ": la tabella " + child.name +
-                   " ha righe senza una riga corrispondente in " + parent.name);
+    throw runtime::Error(RelatedRecordMissing, source::Relations,
+                         "Relazione " + relation.name + ": la tabella " + child.name +
+                             " ha righe senza una riga corrispondente in " + parent.name);
 }
 
 void Image::dropRelation(std::string_view name) {
@@ -89,14 +86,14 @@ void Image::dropRelation(std::string_view name) {
     whole.keep();
     return;
   }
-  fail(3265, "Relazione inesistente: " + std::string(name));
+  throw runtime::Error(ItemNotFound, source::Relations, "Relazione inesistente: " + std::string(name));
 }
 
 void Image::release(const RelationDesign& relation) {
   // Tables of other files have nothing to take back, nor has a name that is a query's.
   if (!find(relation.table) || !find(relation.foreignTable)) return;
-  auto& parent = tableNamed(relation.table, 3078);
-  auto& child = tableNamed(relation.foreignTable, 3078);
+  auto& parent = tableNamed(relation.table, UnknownTable);
+  auto& child = tableNamed(relation.foreignTable, UnknownTable);
   if (parent.link || child.link) return;
   auto parentDesign = definition(parent);
   auto childDesign = definition(child);

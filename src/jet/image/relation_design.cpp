@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "jet/file/errors.h"
 #include "jet/image/design.h"
 #include "runtime/error.h"
 
@@ -16,16 +17,14 @@ using file::TableDefinition;
 
 using Numbers = std::vector<std::uint16_t>;
 
-[[noreturn]] void fail(int number, std::string description) {
-  throw runtime::Error(number, "DAO.Relations", std::move(description));
-}
-
 Numbers numbers(const TableDefinition& table, const RelationDesign& relation,
                 std::string RelationDesign::Pair::*side) {
   Numbers result;
   for (const auto& pair : relation.pairs) {
     const auto position = table.find(pair.*side);
-    if (!position) fail(3265, "Campo inesistente: " + table.name + "." + pair.*side);
+    if (!position)
+      throw runtime::Error(ItemNotFound, source::Relations,
+                           "Campo inesistente: " + table.name + "." + pair.*side);
     result.push_back(table.columns[*position].number);
   }
   return result;
@@ -36,8 +35,9 @@ void checkTypes(const TableDefinition& parent, const TableDefinition& child, con
   for (std::size_t i = 0; i < parents.size(); ++i)
     if (parent.columns[*parent.findNumber(parents[i])].type !=
         child.columns[*child.findNumber(foreigners[i])].type)
-      fail(3368, "La relazione " + relation.name + " lega campi di tipo diverso: " +
-                     relation.pairs[i].column + " e " + relation.pairs[i].foreignColumn);
+      throw runtime::Error(RelationTypesDiffer, source::Relations,
+                           "La relazione " + relation.name + " lega campi di tipo diverso: " +
+                               relation.pairs[i].column + " e " + relation.pairs[i].foreignColumn);
 }
 
 Numbers columnsOf(const RealIndex& index) {
@@ -130,12 +130,14 @@ void spellColumns(RelationDesign& relation, const TableDefinition& parent, const
 void addRelationEnds(TableDefinition& parent, TableDefinition& child, const RelationDesign& relation) {
   checkTypes(parent, child, relation);
   if (hasIndex(child, relation.name))
-    fail(3284, "La tabella " + child.name + " ha già un indice di nome " + relation.name);
+    throw runtime::Error(IndexExists, source::Relations,
+                         "La tabella " + child.name + " ha già un indice di nome " + relation.name);
   const auto parents = parentColumns(parent, relation), foreigners = foreignColumns(child, relation);
   const auto key = uniqueIndexOver(parent, parents);
   if (!key)
-    fail(3609, "La tabella " + parent.name + " non ha un indice univoco sui campi della relazione " +
-                   relation.name);
+    throw runtime::Error(
+        NoUniqueIndex, source::Relations,
+        "La tabella " + parent.name + " non ha un indice univoco sui campi della relazione " + relation.name);
   const auto parts = foreignParts(parent.realIndexes[*key], parents, foreigners);
   auto real = indexOver(child, parts);
   if (!real) {

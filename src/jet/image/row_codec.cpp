@@ -4,7 +4,8 @@
 #include <cstring>
 #include <limits>
 
-#include "jet/file/text.h"
+#include "jet/file/errors.h"
+#include "jet/file/text/text.h"
 #include "jet/image/decimal.h"
 
 namespace jet::image {
@@ -33,7 +34,7 @@ void store(std::vector<std::byte>& buffer, T value) {
 void checkSize(const file::TableDefinition& table, const file::Column& column, std::size_t size) {
   const std::size_t expected = file::valueSize(column.type);
   if (expected != 0 && size != expected)
-    throw runtime::Error(3343, "DAO.Database",
+    throw runtime::Error(UnrecognizedFormat, source::Database,
                          "Valore di lunghezza errata - tabella " + table.name + " - campo " + column.name);
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "jet/file/page_file.h"
+#include "jet/file/page/page_file.h"
 #include "jet/file/row.h"
 #include "jet/image/connection.h"
 

@@ -101,7 +101,7 @@ struct AggregateFunction {
   void (*finish)(sqlite3_context*);
 };
 
-constexpr AggregateFunction functions[] = {
+constexpr AggregateFunction aggregateFunctions[] = {
     {"jet_first", 2, stepExtreme<false>, finishExtreme},
     {"jet_last", 2, stepExtreme<true>, finishExtreme},
     {"jet_sum_decimal", 1, stepSum, finishSum},
@@ -114,7 +114,7 @@ constexpr AggregateFunction functions[] = {
 }  // namespace
 
 void registerAggregates(sqlite3* connection) {
-  for (const AggregateFunction& function : functions) {
+  for (const AggregateFunction& function : aggregateFunctions) {
     sqlite3_create_function_v2(connection, function.name, function.arguments,
                                SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, nullptr, function.step,
                                function.finish, nullptr);

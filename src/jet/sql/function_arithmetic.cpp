@@ -170,7 +170,7 @@ void absolute(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int64(context, std::abs(value));
 }
 
-constexpr SqliteFunction functions[] = {
+constexpr SqliteFunction arithmeticFunctions[] = {
     {"jet_check_long", 1, nullIfAnyIsNull<checkLong>},
     {"jet_check_whole", 1, nullIfAnyIsNull<checkWhole>},
     {"jet_check_date", 1, nullIfAnyIsNull<checkDate>},
@@ -195,7 +195,7 @@ constexpr SqliteFunction functions[] = {
 }  // namespace
 
 void registerArithmetic(sqlite3* connection) {
-  registerAll(connection, functions);
+  registerAll(connection, arithmeticFunctions);
 }
 
 }  // namespace jet::sql

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "jet/file/text.h"
+#include "jet/file/text/text.h"
 #include "jet/image/decimal.h"
 #include "jet/sql/decimal.h"
 #include "jet/sql/function_support.h"
@@ -12,8 +12,6 @@ namespace jet::sql {
 namespace {
 
 using runtime::Variant;
-
-constexpr char source[] = "DAO.Field";
 
 struct Pair {
   Type from, to;
@@ -38,7 +36,7 @@ void guard(sqlite3_context* context, const Pair& pair, int mismatch, Convert con
     convert();
   } catch (const runtime::Error& error) {
     if (error.number() != runtime::TypeMismatch) return returnError(context, error);
-    returnError(context, {mismatch, source,
+    returnError(context, {mismatch, source::Field,
                           std::string("Conversione non riuscita da ") + typeName(pair.from) + " a " +
                               typeName(pair.to)});
   } catch (const std::bad_alloc&) {
@@ -55,11 +53,11 @@ void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void checkLength(const Variant& value, Type type, std::size_t limit) {
-  constexpr int fieldTooSmall = 3163;
+  constexpr int fieldTooSmall = FieldTooSmall;
   const auto* bytes = std::get_if<runtime::Bytes>(&value.value());
   const std::size_t length = bytes ? bytes->size() : isText(type) ? file::utf16Length(value.toText()) : 0;
   if (length > limit) {
-    throw runtime::Error(fieldTooSmall, source,
+    throw runtime::Error(fieldTooSmall, source::Field,
                          "Il campo è troppo piccolo per i dati: " + std::to_string(length) + " invece di " +
                              std::to_string(limit));
   }
@@ -79,7 +77,7 @@ void storeDecimal(sqlite3_context* context, sqlite3_value* value, Type from, int
 
 /// jet_<from>_into_<to>(value[, size | precision, scale]): what a column keeps of an assigned value.
 void store(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  constexpr int conversionFailed = 3421;
+  constexpr int conversionFailed = ConversionFailed;
   const auto& pair = *static_cast<const Pair*>(sqlite3_user_data(context));
   if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
     return pair.to == Type::Boolean ? sqlite3_result_int(context, 0) : sqlite3_result_null(context);

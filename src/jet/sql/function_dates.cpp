@@ -17,11 +17,6 @@ void returnDate(sqlite3_context* context, Date value) {
   sqlite3_result_double(context, value.days);
 }
 
-/// Argument `index`, or `otherwise` where it is not given.
-int optional(int count, sqlite3_value** arguments, int index, int otherwise) {
-  return index < count ? sqlite3_value_int(arguments[index]) : otherwise;
-}
-
 void today(sqlite3_context* context, int, sqlite3_value**) {
   returnDate(context, runtime::dayOf(platform::clock().now()));
 }
@@ -61,24 +56,25 @@ void dateAdd(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 /// The first week of the year, which the language lets be told here too, has no part in it.
 void dateDiff(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  const int firstDay = optional(count, arguments, 3, 1);
+  const int firstDay = optionalArgument(count, arguments, 3, 1);
   sqlite3_result_int(
       context, runtime::dateDiff(textOf(arguments[0]), date(arguments[1]), date(arguments[2]), firstDay));
 }
 
 void datePart(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  const int firstDay = optional(count, arguments, 2, 1), firstWeek = optional(count, arguments, 3, 1);
+  const int firstDay = optionalArgument(count, arguments, 2, 1),
+            firstWeek = optionalArgument(count, arguments, 3, 1);
   sqlite3_result_int(context,
                      runtime::datePart(textOf(arguments[0]), date(arguments[1]), firstDay, firstWeek));
 }
 
 void weekday(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  sqlite3_result_int(context, runtime::weekday(date(arguments[0]), optional(count, arguments, 1, 1)));
+  sqlite3_result_int(context, runtime::weekday(date(arguments[0]), optionalArgument(count, arguments, 1, 1)));
 }
 
 void monthName(sqlite3_context* context, int count, sqlite3_value** arguments) {
   const int month = sqlite3_value_int(arguments[0]);
-  const bool isShort = optional(count, arguments, 1, 0) != 0;
+  const bool isShort = optionalArgument(count, arguments, 1, 0) != 0;
   returnText(context, isShort ? runtime::shortMonthName(month) : runtime::monthName(month));
 }
 
@@ -87,15 +83,15 @@ void weekdayName(sqlite3_context* context, int count, sqlite3_value** arguments)
   const int number = sqlite3_value_int(arguments[0]);
   if (number < 1 || number > 7) throw runtime::languageError(runtime::InvalidCall);
   // Day 1 was a Sunday, the first in the week that begins on Sunday.
-  const int sunday = runtime::weekday({1}, optional(count, arguments, 2, 0));
+  const int sunday = runtime::weekday({1}, optionalArgument(count, arguments, 2, 0));
   const int day = (number - sunday + 7) % 7 + 1;
-  const bool isShort = optional(count, arguments, 1, 0) != 0;
+  const bool isShort = optionalArgument(count, arguments, 1, 0) != 0;
   returnText(context, isShort ? runtime::shortWeekdayName(day) : runtime::weekdayName(day));
 }
 
 using Parts = runtime::DateParts;
 
-constexpr SqliteFunction functions[] = {
+constexpr SqliteFunction datesFunctions[] = {
     {"jet_date", 0, withErrors<today>},
     {"jet_time", 0, withErrors<timeOfDay>},
     {"jet_now", 0, withErrors<now>},
@@ -121,7 +117,7 @@ constexpr SqliteFunction functions[] = {
 }  // namespace
 
 void registerDateFunctions(sqlite3* connection) {
-  registerAll(connection, functions);
+  registerAll(connection, datesFunctions);
 }
 
 }  // namespace jet::sql

@@ -1,5 +1,6 @@
 #include <memory>
 
+#include "jet/file/errors.h"
 #include "jet/image/connection.h"
 #include "jet/sql/domain.h"
 #include "jet/sql/function_support.h"
@@ -25,7 +26,7 @@ void domainValue(sqlite3_context* context, int count, sqlite3_value** arguments)
       compile(domainStatement(textOf(arguments[1]), textOf(arguments[2]), textOf(arguments[3]),
                               count > 4 ? textOf(arguments[4]) : std::string_view()));
   if (!plan.parameters.empty())
-    throw runtime::Error(3061, "DAO.Database",
+    throw runtime::Error(TooFewParameters, source::Database,
                          "Troppo pochi parametri: manca " + plan.parameters.front().name);
   sqlite3* connection = sqlite3_context_db_handle(context);
   sqlite3_stmt* prepared = nullptr;

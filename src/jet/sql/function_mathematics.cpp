@@ -36,7 +36,7 @@ void nextRandom(sqlite3_context* context, int count, sqlite3_value** arguments) 
   sqlite3_result_double(context, static_cast<double>(random.next(static_cast<float>(argument))));
 }
 
-constexpr SqliteFunction functions[] = {
+constexpr SqliteFunction mathematicsFunctions[] = {
     {"jet_atn", 1, nullIfAnyIsNull<reckon<std::atan>>},   {"jet_cos", 1, nullIfAnyIsNull<reckon<std::cos>>},
     {"jet_sin", 1, nullIfAnyIsNull<reckon<std::sin>>},    {"jet_tan", 1, nullIfAnyIsNull<reckon<std::tan>>},
     {"jet_exp", 1, nullIfAnyIsNull<reckon<exponential>>}, {"jet_log", 1, nullIfAnyIsNull<reckon<logarithm>>},
@@ -46,7 +46,7 @@ constexpr SqliteFunction functions[] = {
 }  // namespace
 
 void registerMathematics(sqlite3* connection) {
-  registerAll(connection, functions);
+  registerAll(connection, mathematicsFunctions);
   // The row of numbers belongs to the open database.
   sqlite3_create_function_v2(connection, "jet_rnd", -1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
                              new runtime::Random, nullIfAnyIsNull<nextRandom>, nullptr, nullptr,

@@ -54,6 +54,12 @@ void nullIfAnyIsNull(sqlite3_context* context, int count, sqlite3_value** argume
   withErrors<body>(context, count, arguments);
 }
 
+/// Argument `index` as a whole number, or `otherwise` where it is not given.
+template <typename Whole>
+Whole optionalArgument(int count, sqlite3_value** arguments, int index, Whole otherwise) {
+  return index < count ? static_cast<Whole>(sqlite3_value_int64(arguments[index])) : otherwise;
+}
+
 /// A function as data, for one registration loop. `arguments` is -1 for any number.
 struct SqliteFunction {
   const char* name;

@@ -1,4 +1,4 @@
-#include "jet/file/text_key.h"
+#include "jet/file/text/text_key.h"
 #include "jet/sql/function_support.h"
 #include "platform/code_page.h"
 #include "runtime/like.h"
@@ -11,18 +11,13 @@ namespace {
 
 using runtime::languageError;
 
-std::int64_t number(sqlite3_value* value) {
+std::int64_t wholeNumber(sqlite3_value* value) {
   return sqlite3_value_int64(value);
-}
-
-/// Argument `index`, or `otherwise` where it is not given.
-std::int64_t optional(int count, sqlite3_value** arguments, int index, std::int64_t otherwise) {
-  return index < count ? number(arguments[index]) : otherwise;
 }
 
 /// Statements compare without regard to case unless told otherwise.
 runtime::Compare compareMode(int count, sqlite3_value** arguments, int index) {
-  return index < count ? runtime::compareMode(number(arguments[index])) : runtime::Compare::Text;
+  return index < count ? runtime::compareMode(wholeNumber(arguments[index])) : runtime::Compare::Text;
 }
 
 void lengthOf(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -30,17 +25,17 @@ void lengthOf(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void left(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, runtime::left(textOf(arguments[0]), number(arguments[1])));
+  returnText(context, runtime::left(textOf(arguments[0]), wholeNumber(arguments[1])));
 }
 
 void right(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, runtime::right(textOf(arguments[0]), number(arguments[1])));
+  returnText(context, runtime::right(textOf(arguments[0]), wholeNumber(arguments[1])));
 }
 
 void mid(sqlite3_context* context, int count, sqlite3_value** arguments) {
   const std::string_view text = textOf(arguments[0]);
-  returnText(context, count == 2 ? runtime::mid(text, number(arguments[1]))
-                                 : runtime::mid(text, number(arguments[1]), number(arguments[2])));
+  returnText(context, count == 2 ? runtime::mid(text, wholeNumber(arguments[1]))
+                                 : runtime::mid(text, wholeNumber(arguments[1]), wholeNumber(arguments[2])));
 }
 
 template <std::string_view (*piece)(std::string_view)>
@@ -54,18 +49,20 @@ void changed(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void inStr(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  returnLong(context, runtime::inStr(number(arguments[0]), textOf(arguments[1]), textOf(arguments[2]),
+  returnLong(context, runtime::inStr(wholeNumber(arguments[0]), textOf(arguments[1]), textOf(arguments[2]),
                                      compareMode(count, arguments, 3)));
 }
 
 void inStrRev(sqlite3_context* context, int count, sqlite3_value** arguments) {
   returnLong(context, runtime::inStrRev(textOf(arguments[0]), textOf(arguments[1]),
-                                        optional(count, arguments, 2, -1), compareMode(count, arguments, 3)));
+                                        optionalArgument<std::int64_t>(count, arguments, 2, -1),
+                                        compareMode(count, arguments, 3)));
 }
 
 void replace(sqlite3_context* context, int count, sqlite3_value** arguments) {
   returnText(context, runtime::replace(textOf(arguments[0]), textOf(arguments[1]), textOf(arguments[2]),
-                                       optional(count, arguments, 3, 1), optional(count, arguments, 4, -1),
+                                       optionalArgument<std::int64_t>(count, arguments, 3, 1),
+                                       optionalArgument<std::int64_t>(count, arguments, 4, -1),
                                        compareMode(count, arguments, 5)));
 }
 
@@ -102,7 +99,7 @@ void strComp(sqlite3_context* context, int count, sqlite3_value** arguments) {
 }
 
 void strConv(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, runtime::strConv(textOf(arguments[0]), number(arguments[1])));
+  returnText(context, runtime::strConv(textOf(arguments[0]), wholeNumber(arguments[1])));
 }
 
 void val(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -114,7 +111,7 @@ void str(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void space(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, runtime::space(number(arguments[0])));
+  returnText(context, runtime::space(wholeNumber(arguments[0])));
 }
 
 /// Character of code page 1252.
@@ -129,16 +126,16 @@ std::string character(std::int64_t code) {
 void string(sqlite3_context* context, int, sqlite3_value** arguments) {
   constexpr std::int64_t codes = 256;
   const bool isText = sqlite3_value_type(arguments[1]) == SQLITE_TEXT;
-  const std::string own = isText ? "" : character(number(arguments[1]) % codes);
-  returnText(context, runtime::repeated(number(arguments[0]), isText ? textOf(arguments[1]) : own));
+  const std::string own = isText ? "" : character(wholeNumber(arguments[1]) % codes);
+  returnText(context, runtime::repeated(wholeNumber(arguments[0]), isText ? textOf(arguments[1]) : own));
 }
 
 void chr(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, character(number(arguments[0])));
+  returnText(context, character(wholeNumber(arguments[0])));
 }
 
 void chrW(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, runtime::chrW(number(arguments[0])));
+  returnText(context, runtime::chrW(wholeNumber(arguments[0])));
 }
 
 void asc(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -152,8 +149,8 @@ void ascW(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void partition(sqlite3_context* context, int, sqlite3_value** arguments) {
-  returnText(context, runtime::partition(number(arguments[0]), number(arguments[1]), number(arguments[2]),
-                                         number(arguments[3])));
+  returnText(context, runtime::partition(wholeNumber(arguments[0]), wholeNumber(arguments[1]),
+                                         wholeNumber(arguments[2]), wholeNumber(arguments[3])));
 }
 
 /// The texts one after another, Nulls as empty ones; Null where all are.
@@ -168,7 +165,7 @@ void join(sqlite3_context* context, int count, sqlite3_value** arguments) {
   returnText(context, text);
 }
 
-constexpr SqliteFunction functions[] = {
+constexpr SqliteFunction textsFunctions[] = {
     {"jet_length", 1, nullIfAnyIsNull<lengthOf>},
     {"jet_left", 2, nullIfAnyIsNull<left>},
     {"jet_right", 2, nullIfAnyIsNull<right>},
@@ -202,7 +199,7 @@ constexpr SqliteFunction functions[] = {
 }  // namespace
 
 void registerTextFunctions(sqlite3* connection) {
-  registerAll(connection, functions);
+  registerAll(connection, textsFunctions);
 }
 
 }  // namespace jet::sql

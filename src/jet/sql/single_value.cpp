@@ -8,7 +8,7 @@ namespace {
 /// jet_single(rows, value): the value of a sub-query that gives `rows` rows. Error 3354 for more than one.
 void single(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (sqlite3_value_int64(arguments[0]) <= 1) return sqlite3_result_value(context, arguments[1]);
-  returnError(context, {SubqueryRows, "DAO.Database", "La sottoquery restituisce più di un record"});
+  returnError(context, {SubqueryRows, source::Database, "La sottoquery restituisce più di un record"});
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "jet/file/errors.h"
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/binder/crosstab.h"
 #include "jet/sql/parser/parser.h"

@@ -28,7 +28,7 @@ void findOptional(const bound::Source& source, bool optional, std::vector<bound:
 }  // namespace
 
 bound::Update Binder::update(const tree::Update& tree) {
-  constexpr int tooFewParameters = 3061;  // what an unknown name is to the engine, here too
+  constexpr int tooFewParameters = TooFewParameters;  // what an unknown name is to the engine, here too
   bound::Update update;
   update.from = changedFrom(tree.from);
   for (const tree::Assignment& assignment : tree.assignments) {

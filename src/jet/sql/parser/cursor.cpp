@@ -36,20 +36,20 @@ bool Cursor::acceptSymbol(std::string_view symbol) {
   return true;
 }
 
-void Cursor::expectWord(std::string_view word, StatementError error) {
+void Cursor::expectWord(std::string_view word, ErrorNumber error) {
   if (!acceptWord(word)) fail(error);
 }
 
-void Cursor::expectSymbol(std::string_view symbol, StatementError error) {
+void Cursor::expectSymbol(std::string_view symbol, ErrorNumber error) {
   if (!acceptSymbol(symbol)) fail(error);
 }
 
-std::string Cursor::expectName(StatementError error) {
+std::string Cursor::expectName(ErrorNumber error) {
   if (!peek().isName()) fail(error);
   return take().text;
 }
 
-unsigned Cursor::expectCount(StatementError error) {
+unsigned Cursor::expectCount(ErrorNumber error) {
   const Token& token = peek();
   unsigned count = 0;
   const char* end = token.text.data() + token.text.size();
@@ -59,7 +59,7 @@ unsigned Cursor::expectCount(StatementError error) {
   return count;
 }
 
-std::string Cursor::acceptAlias(bool requireAs, StatementError error) {
+std::string Cursor::acceptAlias(bool requireAs, ErrorNumber error) {
   static constexpr std::string_view closing[] = {"SET", "VALUES", "WITH", "PIVOT"};
   if (acceptWord("AS")) return expectName(error);
   if (requireAs || isReserved(peek())) return "";
@@ -67,7 +67,7 @@ std::string Cursor::acceptAlias(bool requireAs, StatementError error) {
   return peek().isName() ? take().text : "";
 }
 
-void Cursor::fail(StatementError error) const {
+void Cursor::fail(ErrorNumber error) const {
   const Token& token = peek();
   const std::string detail =
       token.kind == Token::Kind::End ? "l'istruzione finisce troppo presto" : "vicino a '" + token.text + "'";

@@ -22,17 +22,17 @@ class Cursor {
   bool atSymbol(std::string_view symbol) const { return peek().isSymbol(symbol); }
   bool acceptWord(std::string_view word);
   bool acceptSymbol(std::string_view symbol);
-  void expectWord(std::string_view word, StatementError error);
-  void expectSymbol(std::string_view symbol, StatementError error);
+  void expectWord(std::string_view word, ErrorNumber error);
+  void expectSymbol(std::string_view symbol, ErrorNumber error);
   /// A name in any writing; a bare reserved word counts, since only a name can stand here.
-  std::string expectName(StatementError error);
+  std::string expectName(ErrorNumber error);
   /// A whole number.
-  unsigned expectCount(StatementError error);
+  unsigned expectCount(ErrorNumber error);
   /// A name behind AS, or without AS one that is no reserved word; empty if there is none.
-  std::string acceptAlias(bool requireAs, StatementError error);
+  std::string acceptAlias(bool requireAs, ErrorNumber error);
 
   /// Names the token at the cursor.
-  [[noreturn]] void fail(StatementError error) const;
+  [[noreturn]] void fail(ErrorNumber error) const;
 
  private:
   std::vector<Token> tokens_;

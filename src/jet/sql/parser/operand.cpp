@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {
@@ -93,7 +94,7 @@ Expression Parser::name() {
 }
 
 /// The parts of a name behind its first one, with their separators.
-std::string Parser::path(StatementError error) {
+std::string Parser::path(ErrorNumber error) {
   std::string parts;
   while (cursor_.atSymbol(".") || cursor_.atSymbol("!")) {
     parts += cursor_.take().text;

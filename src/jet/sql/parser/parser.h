@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "jet/file/errors.h"
 #include "jet/sql/parser/cursor.h"
 #include "jet/sql/tree/statement.h"
 
@@ -52,7 +53,7 @@ class Parser {
   tree::Expression parenthesised();
   tree::Expression wordOperand();
   tree::Expression name();
-  std::string path(StatementError error);
+  std::string path(ErrorNumber error);
   tree::Expression call();
 
   // query.cpp, select.cpp
@@ -72,7 +73,7 @@ class Parser {
   // source.cpp
   std::vector<tree::Source> from();
   /// IN 'file': the database of the tables named before; empty where it isn't there.
-  std::string externalDatabase(StatementError error);
+  std::string externalDatabase(ErrorNumber error);
   tree::Source bracketedQuery();
   tree::Source source();
   tree::Source singleSource();
@@ -88,13 +89,13 @@ class Parser {
   tree::CreateTable createTable();
   tree::AlterTable alterTable();
   tree::SetDefault setDefault();
-  tree::ColumnDefinition columnDefinition(StatementError error);
+  tree::ColumnDefinition columnDefinition(ErrorNumber error);
   bool atConstraint() const;
   tree::Constraint constraint(bool ofColumn);
   tree::References references();
-  tree::TypeName typeName(StatementError error);
-  std::string typeWords(StatementError error);
-  std::vector<std::string> names(StatementError error);
+  tree::TypeName typeName(ErrorNumber error);
+  std::string typeWords(ErrorNumber error);
+  std::vector<std::string> names(ErrorNumber error);
   tree::CreateIndex createIndex(bool unique);
 
   /// Wraps `node`, whose highest operand has `depth` levels. Error 3360 above the limit.
@@ -127,7 +128,7 @@ class Parser {
   Into* into_ = nullptr;
   std::string ruledColumn_;  // while its rule is read
   /// What an unexpected word behind the statement is an error of: the clause read last.
-  StatementError clause_ = ExpressionSyntax;
+  ErrorNumber clause_ = ExpressionSyntax;
 };
 
 tree::Statement parse(std::string_view text);

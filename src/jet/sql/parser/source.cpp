@@ -1,3 +1,4 @@
+#include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {
@@ -44,7 +45,7 @@ Join Parser::join(JoinKind kind, Source left) {
   return Join{kind, std::move(left), std::move(right), expression()};
 }
 
-std::string Parser::externalDatabase(StatementError error) {
+std::string Parser::externalDatabase(ErrorNumber error) {
   if (!cursor_.acceptWord("IN")) return "";
   if (cursor_.peek().kind != Token::Kind::Text) cursor_.fail(error);
   std::string file = cursor_.take().text;

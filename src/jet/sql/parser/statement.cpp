@@ -1,3 +1,4 @@
+#include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {
@@ -66,7 +67,7 @@ SetDefault Parser::setDefault() {
   return set;
 }
 
-ColumnDefinition Parser::columnDefinition(StatementError error) {
+ColumnDefinition Parser::columnDefinition(ErrorNumber error) {
   ColumnDefinition column{cursor_.expectName(error), {}, false, {}, {}};
   column.type = typeName(ColumnDefinitionSyntax);
   while (true) {
@@ -88,7 +89,7 @@ ColumnDefinition Parser::columnDefinition(StatementError error) {
   }
 }
 
-TypeName Parser::typeName(StatementError error) {
+TypeName Parser::typeName(ErrorNumber error) {
   TypeName type;
   type.place = cursor_.place();
   type.name = typeWords(error);
@@ -106,7 +107,7 @@ TypeName Parser::typeName(StatementError error) {
 }
 
 /// LONG; CHARACTER VARYING, NATIONAL CHAR.
-std::string Parser::typeWords(StatementError error) {
+std::string Parser::typeWords(ErrorNumber error) {
   struct Pair {
     std::string_view first, second;
   };
@@ -126,7 +127,7 @@ std::string Parser::typeWords(StatementError error) {
   return words;
 }
 
-std::vector<std::string> Parser::names(StatementError error) {
+std::vector<std::string> Parser::names(ErrorNumber error) {
   std::vector<std::string> list;
   cursor_.expectSymbol("(", error);
   do list.push_back(cursor_.expectName(error));

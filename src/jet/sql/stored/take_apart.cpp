@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <map>
 
+#include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 #include "jet/sql/stored/from_rows.h"
 #include "jet/sql/stored/row_values.h"
