@@ -1,3 +1,4 @@
+// Command lines read, refused and explained alike by all programs.
 #include "apps/command_line.h"
 
 #include <CLI/CLI.hpp>

@@ -1,3 +1,4 @@
+// Where the suite's programs and databases lie, from the registry and the settings.
 #include "common/directories.h"
 
 #include "common/error_log.h"

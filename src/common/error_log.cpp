@@ -1,3 +1,4 @@
+// Records of error.log, their box, and the unattended log.
 #include "common/error_log.h"
 
 #include "common/globale.h"

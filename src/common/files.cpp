@@ -1,3 +1,4 @@
+// Whether a file can be read now, by the lock that a reader would need.
 #include "common/files.h"
 
 #include "platform/disk.h"

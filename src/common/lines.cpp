@@ -1,3 +1,4 @@
+// A text file's bytes as lines, and a line as key and value.
 #include "common/lines.h"
 
 #include "platform/code_page.h"

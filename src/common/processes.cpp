@@ -1,3 +1,4 @@
+// Child processes waited for with the window alive.
 #include "common/processes.h"
 
 #include <optional>

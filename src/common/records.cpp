@@ -1,3 +1,4 @@
+// Fields, tables and transactions of the open database; the state of an event.
 #include "common/records.h"
 
 #include "common/globale.h"

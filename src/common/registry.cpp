@@ -1,3 +1,4 @@
+// Registry values by their type, as texts and numbers.
 #include "common/registry.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// Searching, replacing and splitting, by characters and with or without regard to case.
 #include "common/text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A window's place on the screen and before others.
 #include "common/windows.h"
 
 #include "controls/desktop.h"

@@ -1,3 +1,4 @@
+// Boxes, questions and dialogs as lines of a stream, answered from the command line.
 #include "controls/batch_desktop.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What a click does to a button and to a check box.
 #include "controls/button.h"
 
 #include "controls/property_error.h"

@@ -1,3 +1,4 @@
+// The file dialog shown, and the name that it gave.
 #include "controls/common_dialog.h"
 
 #include "controls/desktop.h"

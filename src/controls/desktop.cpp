@@ -1,3 +1,4 @@
+// The desktop in force, and boxes asked of it with the suite's styles.
 #include "controls/desktop.h"
 
 #include "runtime/error.h"

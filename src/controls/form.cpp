@@ -1,3 +1,4 @@
+// How a window loads, works, refuses to leave and unloads.
 #include "controls/form.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Rows and selection of a list, and the click that a change of selection is.
 #include "controls/list_box.h"
 
 #include "controls/property_error.h"

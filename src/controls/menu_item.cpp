@@ -1,3 +1,4 @@
+// An entry's properties and its click.
 #include "controls/menu_item.h"
 
 namespace controls {

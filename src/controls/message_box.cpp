@@ -1,3 +1,4 @@
+// A style taken apart into buttons, icon and default.
 #include "controls/message_box.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The error of a value that a property can't have.
 #include "controls/property_error.h"
 
 namespace controls {

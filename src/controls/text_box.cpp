@@ -1,3 +1,4 @@
+// Text and selection in characters, and files dropped on the box.
 #include "controls/text_box.h"
 
 #include <algorithm>

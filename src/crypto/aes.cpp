@@ -1,3 +1,4 @@
+// Texts and blocks through the 32-byte-block cipher, in hexadecimal digits.
 #include <algorithm>
 
 #include "crypto/EncUtils.h"

@@ -1,3 +1,4 @@
+// Bytes to digits and back.
 #include "crypto/hexadecimal.h"
 
 #include "runtime/numbers.h"

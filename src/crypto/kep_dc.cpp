@@ -1,3 +1,4 @@
+// The suite's two-stage deciphering, and the keys of both stages.
 #include "common/text.h"
 #include "crypto/EncUtils.h"
 #include "runtime/error.h"

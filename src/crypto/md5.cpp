@@ -1,3 +1,4 @@
+// MD5 (RFC 1321).
 #include <array>
 
 #include "crypto/EncUtils.h"

@@ -1,3 +1,4 @@
+// The padding that MD5 and SHA-1 share.
 #include "crypto/message_blocks.h"
 
 #include <algorithm>

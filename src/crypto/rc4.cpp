@@ -1,3 +1,4 @@
+// RC4: its table of 256 bytes and the stream that it gives.
 #include <numeric>
 #include <utility>
 

@@ -1,3 +1,4 @@
+// Rijndael's rounds and key schedule for all its sizes (FIPS-197 for blocks of 4 columns).
 #include "crypto/rijndael.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SHA-1 (FIPS 180-1).
 #include <algorithm>
 #include <array>
 

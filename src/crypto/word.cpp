@@ -1,3 +1,4 @@
+// 32-bit words in signed numbers: additions, shifts and rotations as the suite calls them.
 #include <algorithm>
 #include <cmath>
 #include <functional>

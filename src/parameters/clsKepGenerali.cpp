@@ -1,3 +1,4 @@
+// The typed properties that need more than their shape.
 #include "parameters/clsKepGenerali.h"
 
 #include "common/text.h"

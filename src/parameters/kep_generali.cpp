@@ -1,3 +1,4 @@
+// Rows of KepGenerali read and written by name, with the box that an error shows.
 #include "parameters/kep_generali.h"
 
 #include "controls/desktop.h"

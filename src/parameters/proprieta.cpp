@@ -1,3 +1,4 @@
+// How each shape turns a row's texts into its value and back.
 #include "parameters/proprieta.h"
 
 #include "controls/desktop.h"

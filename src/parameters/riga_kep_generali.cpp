@@ -1,3 +1,4 @@
+// The queries that find, read and write one row of KepGenerali.
 #include "parameters/riga_kep_generali.h"
 
 #include <algorithm>

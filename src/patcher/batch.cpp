@@ -1,3 +1,4 @@
+// A patch driven from the command line, with the exit status that it earns.
 #include "patcher/batch.h"
 
 #include <ostream>

@@ -1,3 +1,4 @@
+// The window's controls and events, and what it does when it loads.
 #include "patcher/frmPatch.h"
 
 namespace patcher {

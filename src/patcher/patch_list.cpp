@@ -1,3 +1,4 @@
+// A line of PatchList.txt taken apart.
 #include "patcher/patch_list.h"
 
 #include "common/lines.h"

@@ -1,3 +1,4 @@
+// The clock in force, and waiting on it.
 #include "platform/clock.h"
 
 #include <chrono>

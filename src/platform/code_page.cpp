@@ -1,3 +1,4 @@
+// Code page 1252 to UTF-8 and back, by the table of its upper half.
 #include "platform/code_page.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Words with their quotes, split and joined.
 #include "platform/command_line.h"
 
 #include <algorithm>

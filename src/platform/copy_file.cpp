@@ -1,3 +1,4 @@
+// A file copied block by block into a replacement, and refused where it changes meanwhile.
 #include <vector>
 
 #include "platform/files.h"

@@ -1,3 +1,4 @@
+// Where calls to the disk are numbered, and may be made to fail, before the system gets them.
 #include "platform/disk.h"
 
 #include <atomic>

@@ -1,3 +1,4 @@
+// Whole files read, compared, written, renamed and removed.
 #include "platform/files.h"
 
 #include <vector>

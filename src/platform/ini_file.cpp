@@ -1,3 +1,4 @@
+// Sections and keys of a settings file, by the library that reads it.
 #include "platform/ini_file.h"
 
 #define SI_NO_CONVERSION

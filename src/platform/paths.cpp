@@ -1,3 +1,4 @@
+// The parts of a path that need no system.
 #include "platform/paths.h"
 
 #include <random>

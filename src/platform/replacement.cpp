@@ -1,3 +1,4 @@
+// A file written beside another and put in its place, or under a name that nobody has.
 #include <utility>
 
 #include "platform/files.h"

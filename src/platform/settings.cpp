@@ -1,3 +1,4 @@
+// A setting by application, section and key.
 #include "platform/settings.h"
 
 #include "platform/ini_file.h"

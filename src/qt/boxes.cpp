@@ -1,3 +1,4 @@
+// Message and input boxes with Italian buttons.
 #include "qt/boxes.h"
 
 #include <QApplication>

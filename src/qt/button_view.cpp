@@ -1,3 +1,4 @@
+// Buttons and check boxes on screen.
 #include "qt/button_view.h"
 
 #include "qt/guard.h"

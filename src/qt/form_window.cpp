@@ -1,3 +1,4 @@
+// A form's window: place, pointer, menu and the ways out of it.
 #include "qt/form_window.h"
 
 #include <QCloseEvent>

@@ -1,3 +1,4 @@
+// Errors that no procedure traps, in a box.
 #include "qt/guard.h"
 
 #include "controls/desktop.h"

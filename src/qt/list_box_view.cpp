@@ -1,3 +1,4 @@
+// A list on screen, in step with its model.
 #include "qt/list_box_view.h"
 
 #include <QKeyEvent>

@@ -1,3 +1,4 @@
+// How the controls of the main window are laid out.
 #include "qt/main_window.h"
 
 #include <QVBoxLayout>

@@ -1,3 +1,4 @@
+// Menus on screen.
 #include "qt/menu_view.h"
 
 #include "qt/guard.h"

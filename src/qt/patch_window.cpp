@@ -1,3 +1,4 @@
+// How the controls of the patch window are laid out.
 #include "qt/patch_window.h"
 
 #include <QVBoxLayout>

@@ -1,3 +1,4 @@
+// Boxes, dialogs, events and pointer by Qt.
 #include "qt/qt_desktop.h"
 
 #include <QApplication>

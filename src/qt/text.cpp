@@ -1,3 +1,4 @@
+// Captions and texts between the models and Qt.
 #include "qt/text.h"
 
 namespace qt {

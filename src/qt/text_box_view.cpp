@@ -1,3 +1,4 @@
+// Text boxes on screen, of one line and of many.
 #include "qt/text_box_view.h"
 
 #include <QDragEnterEvent>

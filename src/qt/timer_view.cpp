@@ -1,3 +1,4 @@
+// A timer by Qt's.
 #include "qt/timer_view.h"
 
 #include "qt/guard.h"

@@ -1,3 +1,4 @@
+// What all views keep in step with their control.
 #include "qt/view.h"
 
 #include <QWidget>

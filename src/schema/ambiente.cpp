@@ -1,3 +1,4 @@
+// What the phases ask of their surroundings: parameters, kinds of application, differences.
 #include "schema/ambiente.h"
 
 #include <algorithm>

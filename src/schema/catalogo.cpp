@@ -1,3 +1,4 @@
+// The queries of the reference's catalogue, as a table.
 #include "schema/catalogo.h"
 
 #include <array>

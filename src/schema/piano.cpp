@@ -1,3 +1,4 @@
+// The phases tried on a target that is never saved, and the lines that tell of changes.
 #include "schema/piano.h"
 
 #include <algorithm>

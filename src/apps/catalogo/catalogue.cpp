@@ -1,3 +1,4 @@
+// The catalogue's rows of a model, and what "Tutti" states otherwise.
 #include "apps/catalogo/catalogue.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Queries and reference tables taken along from a model.
 #include "apps/catalogo/contents.h"
 
 #include "jet/dao/database.h"

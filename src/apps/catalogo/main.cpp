@@ -1,3 +1,4 @@
+// aggnorvo-catalogo: writes a reference database from finished ones.
 #include <CLI/CLI.hpp>
 #include <iostream>
 

@@ -1,3 +1,4 @@
+// Fields, indexes and relations of a model as rows of the catalogue.
 #include "apps/catalogo/model.h"
 
 #include "jet/dao/database.h"

@@ -1,3 +1,4 @@
+// A call of the tool, from its options to the saved reference.
 #include "apps/catalogo/session.h"
 
 #include <ostream>

@@ -1,3 +1,4 @@
+// The catalogue's tables, made where the reference lacks them.
 #include "apps/catalogo/tables.h"
 
 #include "jet/dao/database.h"

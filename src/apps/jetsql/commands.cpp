@@ -1,3 +1,4 @@
+// The dot commands, as a table.
 #include "apps/jetsql/commands.h"
 
 #include <algorithm>

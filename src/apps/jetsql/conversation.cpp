@@ -1,3 +1,4 @@
+// Statements typed at a terminal, each saved as it has run.
 #include "apps/jetsql/conversation.h"
 
 #include <ostream>

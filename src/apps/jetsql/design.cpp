@@ -1,3 +1,4 @@
+// Tables, indexes and relations described as the statements that make them.
 #include "apps/jetsql/design.h"
 
 #include "jet/dao/constants.h"

@@ -1,3 +1,4 @@
+// Lines edited at a terminal, with a history that outlives the session.
 #include "apps/jetsql/edited_lines.h"
 
 #include <histedit.h>

@@ -1,3 +1,4 @@
+// An error as a line of text, with the place in the statement.
 #include "apps/jetsql/errors.h"
 
 #include <algorithm>

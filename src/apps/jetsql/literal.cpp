@@ -1,3 +1,4 @@
+// A parameter's answer, read as Jet SQL reads a literal.
 #include "apps/jetsql/literal.h"
 
 #include "jet/dao/database.h"

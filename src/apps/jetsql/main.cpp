@@ -1,3 +1,4 @@
+// jetsql: the engine's shell.
 #include <CLI/CLI.hpp>
 #include <iostream>
 

@@ -1,3 +1,4 @@
+// Rows as lines with tabs, or as objects of JSON.
 #include "apps/jetsql/output.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A script cut into statements and dot commands.
 #include "apps/jetsql/script.h"
 
 #include <algorithm>

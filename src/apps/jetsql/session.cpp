@@ -1,3 +1,4 @@
+// A call of the shell, from its options to its exit status.
 #include "apps/jetsql/session.h"
 
 #include <istream>

@@ -1,3 +1,4 @@
+// One statement or command carried out on the open database.
 #include "apps/jetsql/shell.h"
 
 #include "apps/jetsql/commands.h"

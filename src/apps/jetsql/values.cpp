@@ -1,3 +1,4 @@
+// Values as the shell prints them.
 #include "apps/jetsql/values.h"
 
 #include <algorithm>

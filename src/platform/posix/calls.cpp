@@ -1,3 +1,4 @@
+// System calls on descriptors, and their errors as disk faults.
 #include "platform/posix/calls.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// What the administrator's file tells of the computer.
 #include "platform/computer.h"
 
 #include <unistd.h>

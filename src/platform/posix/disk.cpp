@@ -1,3 +1,4 @@
+// Files and folders by POSIX calls: locks, rights, flushes.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>

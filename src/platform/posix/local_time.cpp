@@ -1,3 +1,4 @@
+// Local time by the C library.
 #include "platform/local_time.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// Who holds a lock, from /proc.
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// Paths between backslashes and slashes, links, and the user's folders.
 #include "platform/paths.h"
 
 #include <pwd.h>

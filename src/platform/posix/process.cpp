@@ -1,3 +1,4 @@
+// Child processes by fork and exec.
 #include "platform/process.h"
 
 #include <fcntl.h>

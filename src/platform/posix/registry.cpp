@@ -1,3 +1,4 @@
+// The registry that the administrator's file stands for.
 #include "platform/registry.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// Where the user's settings file lies.
 #include "platform/settings.h"
 
 #include "platform/paths.h"

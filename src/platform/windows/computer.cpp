@@ -1,3 +1,4 @@
+// Names and folders of the computer from the system.
 #include "platform/computer.h"
 
 #include <windows.h>

@@ -1,3 +1,4 @@
+// Files and folders by Win32 calls: sharing, locks, flushes.
 #include <windows.h>
 
 #include "platform/disk_system.h"

@@ -1,3 +1,4 @@
+// Local time by the system's time zone.
 #include "platform/local_time.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Who holds a file, from the restart manager.
 #include <windows.h>
 // The restart manager's header builds on the one above.
 #include <restartmanager.h>

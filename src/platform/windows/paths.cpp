@@ -1,3 +1,4 @@
+// Paths in the long form, links, and the user's folders.
 #include "platform/paths.h"
 
 #include <windows.h>

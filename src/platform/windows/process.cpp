@@ -1,3 +1,4 @@
+// Child processes by CreateProcess.
 #include "platform/process.h"
 
 #include <windows.h>

@@ -1,3 +1,4 @@
+// The running program: its path, its standard streams, another in its place.
 #include "platform/program.h"
 
 #include <windows.h>

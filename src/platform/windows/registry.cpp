@@ -1,3 +1,4 @@
+// The system's registry.
 #include "platform/registry.h"
 
 #include <windows.h>

@@ -1,3 +1,4 @@
+// A file put in another's place, which keeps a name until that is done.
 #include <windows.h>
 
 #include "platform/disk_system.h"
