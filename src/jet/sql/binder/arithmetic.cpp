@@ -48,7 +48,14 @@ Expression Binder::bind(const tree::Negation& node, const Place&) {
   if (auto* literal = std::get_if<bound::Literal>(&operand.node)) {
     if (auto* whole = std::get_if<std::int64_t>(&literal->value))
       return {Type::Long, bound::Literal{-*whole}};
-    if (auto* real = std::get_if<double>(&literal->value)) return {operand.type, bound::Literal{-*real}};
+    if (auto* real = std::get_if<double>(&literal->value)) {
+      std::string digits = literal->digits;
+      if (digits.starts_with('-'))
+        digits.erase(0, 1);
+      else if (!digits.empty())
+        digits.insert(0, 1, '-');
+      return {operand.type, bound::Literal{-*real, std::move(digits)}};
+    }
   }
   const Type zero = isWholeNumber(operand.type) ? Type::Long : operand.type;
   const Type type = isNumber(zero) || zero == Type::Null ? zero : Type::Double;

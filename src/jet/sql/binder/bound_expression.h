@@ -23,6 +23,7 @@ struct Query;
 /// A value in its type's form in the image; monostate: Null.
 struct Literal {
   std::variant<std::monostate, std::int64_t, double, std::string> value;
+  std::string digits{};  // of a Double written with more of them than it holds: all, as a Decimal has them
   bool operator==(const Literal&) const = default;
 };
 

@@ -108,7 +108,20 @@ Type arithmeticType(ArithmeticOperator op, Type left, Type right) {
   return left == Type::Single && right == Type::Single ? Type::Single : Type::Double;
 }
 
+namespace {
+
+/// A number with more digits than a Double holds as the Decimal that it is, where `type` keeps them.
+Expression exact(Expression expression, Type type) {
+  const auto* literal = std::get_if<Literal>(&expression.node);
+  if (!literal || literal->digits.empty() || (type != Type::Decimal && type != Type::Currency))
+    return expression;
+  return {Type::Decimal, Literal{literal->digits}};
+}
+
+}  // namespace
+
 Expression convert(Expression expression, Type type) {
+  expression = exact(std::move(expression), type);
   if (expression.type == type) return expression;
   if (const auto* literal = std::get_if<Literal>(&expression.node)) {
     if (auto converted = convertLiteral(*literal, expression.type, type)) return std::move(*converted);
@@ -118,7 +131,7 @@ Expression convert(Expression expression, Type type) {
 
 Expression store(Expression expression, const file::Column& column) {
   const Type type = typeOf(column.type);
-  bound::Store node{std::move(expression), 0, column.precision, column.scale};
+  bound::Store node{exact(std::move(expression), type), 0, column.precision, column.scale};
   const bool twoBytes = column.codePage == 0;  // Jet 4 keeps two bytes a character
   if (type == Type::Text) node.size = twoBytes ? column.length / 2u : column.length;
   if (type == Type::Binary) node.size = column.length;

@@ -1,8 +1,11 @@
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
 
+#include "jet/image/decimal.h"
 #include "jet/sql/binder/binder.h"
+#include "jet/sql/decimal.h"
 #include "jet/sql/parser/token.h"
 #include "jet/sql/syntax_error.h"
 
@@ -27,6 +30,17 @@ Expression basedNumber(std::string_view text, std::size_t position) {
           Literal{narrow ? std::int64_t{static_cast<std::int16_t>(bits)} : static_cast<std::int32_t>(bits)}};
 }
 
+/// The digits as a Decimal has them, where a Double would lose some and a Decimal does not; otherwise empty.
+std::string exactDigits(const std::string& digits) {
+  const auto count = std::ranges::count_if(digits, [](char c) { return c >= '0' && c <= '9'; });
+  if (count <= std::numeric_limits<double>::digits10) return {};
+  try {
+    return image::decimalText(parseDecimal(digits));
+  } catch (const runtime::Error&) {
+    return {};  // an exponent, or too many digits
+  }
+}
+
 /// A Long where the digits are whole and fit, otherwise a Double.
 Expression number(const std::string& digits, std::size_t position) {
   const char* end = digits.data() + digits.size();
@@ -37,7 +51,7 @@ Expression number(const std::string& digits, std::size_t position) {
   if (std::from_chars(digits.data(), end, value).ec != std::errc{}) {
     throw SyntaxError(runtime::Overflow, "Overflow: " + digits, position);
   }
-  return {Type::Double, Literal{value}};
+  return {Type::Double, Literal{value, exactDigits(digits)}};
 }
 
 }  // namespace
