@@ -45,6 +45,7 @@ int runPatch(const std::string& folder, std::ostream& out, std::ostream& err) {
     return PatchErrors;
   }
   if (const std::string& report = form.txt.text(); !report.empty() && report.back() != '\n') out << std::endl;
+  if (!out.flush()) err << "Lo standard output non si può scrivere." << std::endl;
   return form.ErroriPatch > 0 || desktop.boxesShown() > 0 ? PatchErrors : PatchDone;
 }
 

@@ -54,7 +54,12 @@ void copiaDati(jet::dao::Database& db, const std::string& tabella, const jet::da
   const auto copia =
       db.CreateQueryDef("", "UPDATE [" + tabella + "] SET [" + a.Name() + "]=[" + da.Name() + "]");
   // A value that doesn't convert must end the run: left out in silence it would be lost.
-  copia->Execute(jet::dao::dbFailOnError);
+  try {
+    copia->Execute(jet::dao::dbFailOnError);
+  } catch (runtime::Error& errore) {
+    errore.addPlace("tabella " + tabella + ", campo " + da.Name());
+    throw;
+  }
   copia->Close();
   if (puoArrotondare(da.Type(), a.Type())) rifiutaArrotondati(db, tabella, da, a);
 }

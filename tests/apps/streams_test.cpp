@@ -81,6 +81,13 @@ TEST_F(Streams, ThatAreClosedAreNoFiles) {
   }
 }
 
+TEST_F(Streams, ThatAreFullAreToldOf) {
+  std::ofstream(folder_.systemPath("PatchList.txt")) << "Norvo-PRG=albo\n";
+  const auto patched = runCommand(AGGNORVO " --patch " + word("") + " --program-dir " + word("") +
+                                  " --settings " + word("nessuna.ini") + " >/dev/full");
+  EXPECT_EQ(patched.errors, "Lo standard output non si può scrivere.\n");
+}
+
 /// What each descriptor of a running process leads to.
 std::string at(pid_t process, int descriptor) {
   std::error_code failure;
