@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "common/globale.h"
 #include "common/text.h"
 #include "parameters/kep_generali.h"
 #include "runtime/numbers.h"
@@ -28,8 +27,8 @@ runtime::Variant parametro(const Ambiente& ambiente, const std::string& nome) {
   return valore;
 }
 
-bool applicazioneSenzaIscritti() {
-  return compreso(ApplicazioniSenzaIscritti, common::ApplicazioneCorrente);
+bool applicazioneSenzaIscritti(const Ambiente& ambiente) {
+  return compreso(ApplicazioniSenzaIscritti, ambiente.applicazione);
 }
 
 bool haPagineWeb(const Ambiente& ambiente) {
@@ -38,7 +37,7 @@ bool haPagineWeb(const Ambiente& ambiente) {
 }
 
 bool tabellaWebEsclusa(const Ambiente& ambiente, const std::string& tabella) {
-  return compreso(TabelleWeb, tabella) && (applicazioneSenzaIscritti() || !haPagineWeb(ambiente));
+  return compreso(TabelleWeb, tabella) && (applicazioneSenzaIscritti(ambiente) || !haPagineWeb(ambiente));
 }
 
 }  // namespace schema

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "common/globale.h"
 #include "common/text.h"
 
 namespace schema {
@@ -28,9 +27,9 @@ constexpr std::array Testi = {
 
 }  // namespace
 
-Interrogazione::Interrogazione(jet::dao::Database& riferimento, Domanda domanda)
-    : query_(riferimento.CreateQueryDef("", Testi[static_cast<std::size_t>(domanda)])) {
-  query_->Parameters(0).setValue(common::NomeApplicazione);
+Interrogazione::Interrogazione(const Ambiente& ambiente, Domanda domanda)
+    : query_(ambiente.riferimento->CreateQueryDef("", Testi[static_cast<std::size_t>(domanda)])) {
+  query_->Parameters(0).setValue(ambiente.applicazione);
 }
 
 Interrogazione::~Interrogazione() {

@@ -6,6 +6,7 @@
 
 #include "jet/dao/database.h"
 #include "runtime/variant.h"
+#include "schema/ambiente.h"
 
 /// The tables of the reference database that say how a database of each application must look.
 namespace schema {
@@ -26,7 +27,7 @@ enum class Domanda {
 /// is the engine's error.
 class Interrogazione {
  public:
-  Interrogazione(jet::dao::Database& riferimento, Domanda domanda);
+  Interrogazione(const Ambiente& ambiente, Domanda domanda);
   ~Interrogazione();
   Interrogazione(const Interrogazione&) = delete;
   Interrogazione& operator=(const Interrogazione&) = delete;

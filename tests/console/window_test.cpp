@@ -201,7 +201,7 @@ TEST(Exit, DuringARunWaitsForItsEndAndThenSaysWhatCameOfIt) {
     bool left = false, delayed = false;
     window.form.unloadDelayed.connect([&] { delayed = true; });
     window.desktop.setEventsHook([&] {
-      if (left || !window.form.busy() || !window.form.DbDestinazione) return;
+      if (left || !window.form.busy() || !window.form.DbDestinazione()) return;
       left = true;
       window.form.cmdEsci.press();
       window.form.cmdSelezionaDB.setVisible(true);
