@@ -1,3 +1,4 @@
+// Table Norvi, the registered paths and the list of the patch.
 #include "console/applications.h"
 
 #include "common/files.h"

@@ -1,3 +1,4 @@
+// One command line: choice, run or plan or list, exit status.
 #include "console/batch.h"
 
 #include <algorithm>

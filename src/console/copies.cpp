@@ -1,3 +1,4 @@
+// Names with the time in them, and the copy that waits for a free one.
 #include "console/copies.h"
 
 #include "controls/desktop.h"

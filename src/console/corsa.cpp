@@ -1,3 +1,4 @@
+// The names of a run and the kinds of its errors.
 #include "console/corsa.h"
 
 #include <algorithm>

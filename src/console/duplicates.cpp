@@ -1,3 +1,4 @@
+// Groups of equal rows, thinned out one row at a time until none is left.
 #include "console/duplicates.h"
 
 #include "common/text.h"

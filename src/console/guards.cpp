@@ -1,3 +1,4 @@
+// The looks that a run takes at its file before anything else.
 #include "console/guards.h"
 
 #include "common/files.h"

@@ -1,3 +1,4 @@
+// The table of long names, and the walk that shortens them.
 #include "console/long_field_names.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Boxes with an answer, and the wait between two tries.
 #include "console/questions.h"
 
 #include <cmath>

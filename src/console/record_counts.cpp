@@ -1,3 +1,4 @@
+// Records counted by a statement of the target.
 #include "console/record_counts.h"
 
 #include "common/text.h"

@@ -1,3 +1,4 @@
+// The summary's box, and its file.
 #include "console/summary.h"
 
 #include "controls/desktop.h"

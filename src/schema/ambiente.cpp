@@ -1,3 +1,4 @@
+// Parameters of the target that several phases go by.
 #include "schema/ambiente.h"
 
 #include <algorithm>

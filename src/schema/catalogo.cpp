@@ -1,3 +1,4 @@
+// The texts of the questions, and how the answers are compared.
 #include "schema/catalogo.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// The questions that the phases ask of the reference database.
 #pragma once
 
 #include <cstdint>

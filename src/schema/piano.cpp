@@ -1,3 +1,4 @@
+// The phases let loose on a target that is not saved, and the changes collected.
 #include "schema/piano.h"
 
 #include <algorithm>
