@@ -6,7 +6,6 @@
 #include <functional>
 #include <iostream>
 
-#include "common/globale.h"
 #include "jet/dao/engine.h"
 #include "office_file.h"
 #include "platform/disk.h"
@@ -52,6 +51,7 @@ class Reading : public platform::DiskObserver {
 class Desk {
  public:
   Desk(const std::string& target, const std::string& reference) {
+    environment.applicazione = "ordcommec";
     environment.riferimento = workspace_.OpenDatabase(reference, false, true);
     environment.destinazione = workspace_.OpenDatabase(target, true);
     environment.percorsoRiferimento = reference;
@@ -139,7 +139,6 @@ void rebuiltField(const std::string& folder, const Rebuild& field, bool loaded) 
 void run(const std::string& systemFolder, long rows) {
   std::filesystem::create_directories(systemFolder);
   const std::string folder = platform::fromSystemPath(std::filesystem::absolute(systemFolder).string());
-  common::NomeApplicazione = "ordcommec";
   equalDatabase(folder, 60, 25);
   if (!std::filesystem::exists(systemFolder + "/office.mdb")) makeOffice(folder + "\\office.mdb", rows);
   for (const Rebuild& field : {Rebuild{"ds_nominativo", dbText, 120}, Rebuild{"cd_matr", dbDouble, 8}})

@@ -1,3 +1,4 @@
+// What the whole suite sees, and nothing else is global.
 #pragma once
 
 #include <string>
@@ -11,11 +12,12 @@ class Settings;
 /// What the whole suite sees: texts, the open database, where the program lies and its settings.
 namespace common {
 
-/// The application chosen for the next run, as table Norvi writes it.
+/// The application of the last run, as table Norvi writes it; a run sets it (console/aggiornamento.h). A
+/// database that is picked by hand afterwards counts as one of the same.
 inline std::string NomeApplicazione;
-/// The application of the run that is under way, copied from NomeApplicazione when it begins.
+/// The same from the moment when a run knows it: what the migrations and the register's link go by.
 inline std::string ApplicazioneCorrente;
-/// The database that a run has open; nothing outside a run.
+/// The database that a run has open; nothing outside a run, which sets it.
 inline jet::dao::DatabasePtr DatabaseAperto;
 /// The directory of the executable, or what stands for it, without a closing backslash; each program sets it.
 inline std::string DirProgramma;

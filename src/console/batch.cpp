@@ -1,11 +1,17 @@
+// One command line: choice, run or plan or list, exit status.
 #include "console/batch.h"
 
 #include <algorithm>
 #include <ostream>
+#include <vector>
 
-#include "common/globale.h"
 #include "common/text.h"
-#include "console/frmAggMain.h"
+#include "console/aggiornamento.h"
+#include "console/applications.h"
+#include "console/pending_error.h"
+#include "console/summary.h"
+#include "controls/text_box.h"
+#include "jet/dao/engine.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "schema/piano.h"
@@ -13,64 +19,83 @@
 namespace console {
 namespace {
 
-/// The main window on a desktop without an operator, loaded for as long as this lives.
-class BatchWindow {
+/// The program on a desktop without an operator: its reference database, open as long as this lives, and the
+/// applications that it finds.
+class Program {
  public:
-  BatchWindow(const ProgramOptions& options, controls::BatchDesktop::Answer answer, std::ostream& err)
-      : program_(options),
-        desktop_(err, answer),
-        scope_(desktop_),
-        form({program_.settings(), program_.folder()}) {
-    common::NomeApplicazione.clear();
-    form.load();
-    // A missing one has its box.
-    if (form.ErroreAvvio)
-      err << "Database di riferimento non utilizzabile: " << platform::toSystemPath(form.PercorsoRiferimento)
-          << ": " << inUnaRiga(*form.ErroreAvvio) << std::endl;
+  Program(const ProgramOptions& options, controls::BatchDesktop::Answer answer, std::ostream& err)
+      : scope_(options), desktop_(err, answer), desktopScope_(desktop_) {
+    if (Check_Percorso(referencePath).empty()) {
+      desktop_.msgBox("Database mancante");
+      return;
+    }
+    try {
+      load();
+    } catch (const runtime::Error& error) {
+      reference = nullptr;
+      err << "Database di riferimento non utilizzabile: " << platform::toSystemPath(referencePath) << ": "
+          << inUnaRiga(error) << std::endl;
+    }
   }
-  ~BatchWindow() { form.unload(); }
+  ~Program() {
+    PendingError errors;
+    errors.attempt([] { jet::dao::DBEngine::Workspaces(0)->Close(); });
+  }
+
+  schema::Ambiente ambiente() const {
+    schema::Ambiente given;
+    given.riferimento = reference;
+    given.percorsoRiferimento = referencePath;
+    return given;
+  }
 
  private:
-  ProgramScope program_;
+  void load() {
+    reference = jet::dao::DBEngine::OpenDatabase(referencePath, false, true);
+    const auto norvi = reference->OpenRecordset("Norvi", jet::dao::dbOpenTable, jet::dao::dbReadOnly);
+    ofPatch = applicazioneDellaPatch(folder);
+    elencaApplicazioni(*norvi, scope_.settings(),
+                       [this](const Applicazione& each) { applications.push_back(each); });
+    norvi->Close();
+  }
+
+  ProgramScope scope_;
   controls::BatchDesktop desktop_;
-  controls::DesktopScope scope_;
+  controls::DesktopScope desktopScope_;
 
  public:
-  frmAggMain form;
+  const std::string folder = scope_.folder();
+  const std::string referencePath = folder + "\\AggNorvo.mdb";
+  jet::dao::DatabasePtr reference;  // nothing if it can't be used
+  std::string ofPatch;              // the application that the patch was built for
+  std::vector<Applicazione> applications;
 };
 
-/// The application as table Norvi writes it.
-std::optional<std::string> knownApplication(const frmAggMain& form, const std::string& name) {
-  const auto norvi = form.DbRiferimento->OpenRecordset("Norvi", jet::dao::dbOpenTable, jet::dao::dbReadOnly);
-  for (; !norvi->atEnd(); norvi->MoveNext()) {
-    const runtime::Variant norvo = norvi->value("norvo");
-    if (!norvo.isNull() && common::StessoTesto(norvo.toText(), name)) return norvo.toText();
-  }
-  return std::nullopt;
-}
-
-/// Makes the operator's choice in the window. Returns why it can't be made; empty if it is made.
-std::string choose(frmAggMain& form, const BatchOptions& options) {
-  std::string name;
+/// Makes the choice that the options tell. Returns why it can't be made; empty if it is made.
+std::string choose(const Program& program, const BatchOptions& options, Scelta& choice) {
+  const auto& all = program.applications;
+  choice.proposta = program.ofPatch;
   if (options.app) {
-    const auto known = knownApplication(form, *options.app);
-    if (!known) return "Applicazione sconosciuta: " + *options.app;
-    name = *known;
+    const auto known = std::ranges::find_if(
+        all, [&](const Applicazione& each) { return common::StessoTesto(each.nome, *options.app); });
+    if (known == all.end()) return "Applicazione sconosciuta: " + *options.app;
+    choice.applicazione = known->nome;
   }
   if (options.database) {
-    form.txtAltroDB.setText(platform::fromSystemPath(*options.database));
-    common::NomeApplicazione = name;
+    choice.database = platform::fromSystemPath(*options.database);
+    choice.aMano = true;
     return {};
   }
-  if (options.app) {
-    const auto installed =
-        std::find_if(form.ColNomi.begin(), form.ColNomi.end(),
-                     [&](const std::string& row) { return common::StessoTesto(row, name); });
-    if (installed == form.ColNomi.end())
-      return "Applicazione non installata, il suo database non è registrato o non esiste: " + name;
-    form.lstDatabase.setListIndex(static_cast<int>(installed - form.ColNomi.begin()) + 1);
+  const std::string name = options.app ? choice.applicazione : program.ofPatch;
+  for (const Applicazione& each : all) {
+    if (!each.presente || !common::StessoTesto(each.nome, name)) continue;
+    choice.applicazione = each.nome;
+    choice.database = each.percorso;
+    if (options.app) break;  // of the patch's the last one counts, as in the window
   }
-  return form.lstDatabase.listIndex() < 1 ? form.lstDatabase.list(0) : std::string();
+  if (!choice.database.empty()) return {};
+  return options.app ? "Applicazione non installata, il suo database non è registrato o non esiste: " + name
+                     : "Specificare l'applicazione:";
 }
 
 const char* sentenceOf(Esito end) {
@@ -92,8 +117,7 @@ const char* sentenceOf(Esito end) {
 /// Says in one line why a run didn't begin or didn't end well, where no box has said it.
 void explain(const Corsa& run, std::ostream& err) {
   if (run.esito == Esito::NonScelta)
-    err << "Database inesistente o non leggibile: "
-        << platform::toSystemPath(run.database) << std::endl;
+    err << "Database inesistente o non leggibile: " << platform::toSystemPath(run.database) << std::endl;
   if (run.esito == Esito::SenzaNome)
     err << "Nome dell'applicazione non indicato: aggiornamento non eseguito." << std::endl;
   if (run.causa) err << sentenceOf(run.esito) << ": " << inUnaRiga(*run.causa) << std::endl;
@@ -115,29 +139,35 @@ bool isAsItWas(const Corsa& run) {
   }
 }
 
-int update(frmAggMain& form, std::ostream& out, std::ostream& err) {
-  controls::streamText(form.txtRiepilogo, out);
+int update(const Program& program, const Scelta& choice, std::ostream& out, std::ostream& err) {
+  controls::TextBox summary("txtRiepilogo");
+  controls::streamText(summary, out);
+  schema::Ambiente ambiente = program.ambiente();
+  ambiente.scrivi = [&](std::string text, schema::Voce voce) {
+    ScriviRiepilogo(summary, text, voce != schema::Voce::Seguito);
+  };
+  Aggiornamento run(choice, ambiente, [&] { SalvaRiepilogo(summary, program.folder, "AggNorvo"); });
   try {
-    form.cmdAggiorna_Click();
+    run.esegui();
   } catch (const std::exception& failure) {
     err << "Errore imprevisto: " << failure.what() << std::endl;
-    return form.UltimaCorsa.databaseAperto ? FailedChanged : FailedUnchanged;
+    return run.corsa().databaseAperto ? FailedChanged : FailedUnchanged;
   }
-  const std::string& summary = form.txtRiepilogo.text();
-  if (!summary.empty() && summary.back() != '\n') out << std::endl;
-  explain(form.UltimaCorsa, err);
+  if (!summary.text().empty() && !summary.text().ends_with('\n')) out << std::endl;
+  explain(run.corsa(), err);
   arrived(out, err);  // the run stands, and its summary has a file of its own
-  return exitStatus(form.UltimaCorsa);
+  return exitStatus(run.corsa());
 }
 
-int showPlan(frmAggMain& form, std::ostream& out, std::ostream& err) {
+int showPlan(const Program& program, const Scelta& choice, std::ostream& out, std::ostream& err) {
   schema::Piano plan;
-  form.PrevediAggiornamento(plan);
+  Aggiornamento run(choice, program.ambiente());
+  run.prevedi(plan);
   for (const std::string& change : plan.modifiche) out << change << '\n';
   const bool shown = arrived(out, err);
   for (const std::string& line : plan.errori) err << line << std::endl;
-  explain(form.UltimaCorsa, err);
-  const int status = exitStatus(form.UltimaCorsa);
+  explain(run.corsa(), err);
+  const int status = exitStatus(run.corsa());
   if (status != Done) return status;
   if (!shown) return FailedUnchanged;
   return plan.modifiche.empty() ? Done : WouldChange;
@@ -152,24 +182,27 @@ int exitStatus(const Corsa& run) {
 }
 
 int runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) {
-  BatchWindow window(options, options.answer, err);
-  frmAggMain& form = window.form;
-  if (!form.DbRiferimento) return Refused;
-  if (const std::string refusal = choose(form, options); !refusal.empty()) {
+  const Program program(options, options.answer, err);
+  if (!program.reference) return Refused;
+  Scelta choice;
+  if (const std::string refusal = choose(program, options, choice); !refusal.empty()) {
     err << refusal << std::endl;
     return Refused;
   }
-  return options.plan ? showPlan(form, out, err) : update(form, out, err);
+  return options.plan ? showPlan(program, choice, out, err) : update(program, choice, out, err);
 }
 
 int runList(const ProgramOptions& options, std::ostream& out, std::ostream& err) {
-  BatchWindow window(options, controls::BatchDesktop::Answer::Default, err);
-  const frmAggMain& form = window.form;
-  if (!form.DbRiferimento) return Refused;
-  for (std::size_t row = 0; row < form.ColNomi.size(); ++row)
-    out << form.ColNomi[row] << '\t' << platform::toSystemPath(form.ColPercorsi[row]) << '\n';
-  for (const auto& [name, path] : form.NonTrovati)
-    err << name << ": il database registrato non c'è: " << platform::toSystemPath(path) << std::endl;
+  const Program program(options, controls::BatchDesktop::Answer::Default, err);
+  if (!program.reference) return Refused;
+  for (const Applicazione& each : program.applications) {
+    if (each.presente) out << each.nome << '\t' << platform::toSystemPath(each.percorso) << '\n';
+  }
+  for (const Applicazione& each : program.applications) {
+    if (!each.presente && !each.percorso.empty())
+      err << each.nome << ": il database registrato non c'è: " << platform::toSystemPath(each.percorso)
+          << std::endl;
+  }
   return arrived(out, err) ? Done : FailedUnchanged;
 }
 

@@ -1,3 +1,4 @@
+// The update without a window, driven from the command line.
 #pragma once
 
 #include <iosfwd>
@@ -7,7 +8,6 @@
 #include "console/program_options.h"
 #include "controls/batch_desktop.h"
 
-/// The update without a window: the same form that the operator uses, driven from the command line.
 namespace console {
 
 struct Corsa;

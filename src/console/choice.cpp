@@ -1,42 +1,11 @@
-// The choice of a database, and the questions before a run.
-#include <cmath>
-
+// The choice of a database in the window.
 #include "common/files.h"
 #include "common/globale.h"
 #include "common/text.h"
 #include "console/frmAggMain.h"
-#include "console/pending_error.h"
 #include "controls/desktop.h"
-#include "jet/file/errors.h"
-#include "platform/clock.h"
 
 namespace console {
-namespace {
-
-/// Error numbers that mean a database open in another program.
-bool apertoAltrove(int numero) {
-  return numero == runtime::PermissionDenied || numero == jet::OpenedElsewhere;
-}
-
-/// Closes a database that is only read, whatever happened meanwhile.
-struct Chiusura {
-  jet::dao::DatabasePtr db;
-  ~Chiusura() {
-    PendingError errori;
-    errori.attempt([this] { db->Close(); });
-  }
-};
-
-/// The value of row AppName in the database's parameters; empty if it has none.
-std::string nomeInDatabase(const std::string& percorso) {
-  const Chiusura aperto{jet::dao::DBEngine::OpenDatabase(percorso)};
-  const auto righe = aperto.db->OpenRecordset("SELECT * FROM KEPGenerali WHERE Nome IN ('AppName')");
-  if (righe->atEnd()) return {};
-  const runtime::Variant valore = righe->value("Valore");
-  return valore.isNull() ? std::string() : common::SenzaSpazi(valore.toText());
-}
-
-}  // namespace
 
 void frmAggMain::abilitaAggiorna(bool abilita) {
   mnuFileAggiorna.setEnabled(abilita);
@@ -102,64 +71,22 @@ void frmAggMain::scegliDatabase(const std::string& percorso) {
   if (!busy()) PercorsoDatabase = percorso;
 }
 
-void frmAggMain::LeggiDatabaseScelto() {
+Scelta frmAggMain::LeggiDatabaseScelto() {
+  Scelta scelta;
+  scelta.aMano = !txtAltroDB.text().empty();
   const std::string altro = common::SenzaSpazi(txtAltroDB.text());
-  if (!altro.empty()) {
-    PercorsoDatabase = common::PercorsoInterno(altro);
-    return;
-  }
   const int riga = lstDatabase.listIndex();
-  const bool scelta = riga >= 1;
-  PercorsoDatabase = scelta ? ColPercorsi.at(static_cast<std::size_t>(riga) - 1) : std::string();
-  common::NomeApplicazione = scelta ? ColNomi.at(static_cast<std::size_t>(riga) - 1) : std::string();
-}
-
-void frmAggMain::ChiediApplicazione(std::string& nome) {
-  nome.clear();
-  try {
-    common::NomeApplicazione = NomeProgrammaPatch;
-    if (common::NomeApplicazione.empty()) common::NomeApplicazione = nomeInDatabase(PercorsoDatabase);
-    common::NomeApplicazione =
-        controls::desktop().inputBox("Inserire il nome della applicazione a cui si riferisce il database",
-                                     "Nome applicazione", common::NomeApplicazione);
-    nome = common::NomeApplicazione;
-  } catch (const runtime::Error&) {
-    nome.clear();
+  if (!altro.empty()) {
+    scelta.database = common::PercorsoInterno(altro);
+    scelta.applicazione = common::NomeApplicazione;  // that of the run before
+  } else if (riga >= 1) {
+    scelta.database = ColPercorsi.at(static_cast<std::size_t>(riga) - 1);
+    scelta.applicazione = ColNomi.at(static_cast<std::size_t>(riga) - 1);
   }
-}
-
-void frmAggMain::VerificaDatabaseChiuso(bool& annulla) {
-  annulla = false;
-  for (;;) {
-    try {
-      jet::dao::DBEngine::Workspaces(0)->OpenDatabase(PercorsoDatabase, true)->Close();
-      return;
-    } catch (const runtime::Error& errore) {
-      // Any other error is met again, and reported, where the run opens the database.
-      if (!apertoAltrove(errore.number())) return;
-    }
-    const auto risposta = controls::desktop().msgBox(
-        "Il database è aperto da un altro programma. Si desidera riprovare con l'aggiornamento ?",
-        controls::vbYesNoCancel | controls::vbInformation, "Attenzione database aperto!");
-    controls::desktop().doEvents();
-    if (risposta != controls::vbYes) {
-      annulla = true;
-      return;
-    }
-    WaitFor(5);
-  }
-}
-
-void frmAggMain::WaitFor(int secondi) {
-  constexpr int giorno = 86400;
-  const double inizio = platform::clock().timer();
-  const auto passati = [&] {
-    return static_cast<int>(std::nearbyint(platform::clock().timer() + giorno - inizio)) % giorno;
-  };
-  while (passati() < secondi) {
-    controls::desktop().doEvents();
-    platform::clock().rest(20);
-  }
+  scelta.proposta = NomeProgrammaPatch;
+  scelta.sorvegliata = !PathImpostato;
+  PercorsoDatabase = scelta.database;
+  return scelta;
 }
 
 }  // namespace console

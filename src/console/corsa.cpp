@@ -1,12 +1,11 @@
+// The names of a run and the kinds of its errors.
 #include "console/corsa.h"
 
 #include <algorithm>
 
-#include "console/frmAggMain.h"
+#include "console/copies.h"
 #include "controls/batch_desktop.h"
 #include "jet/file/errors.h"
-#include "platform/clock.h"
-#include "runtime/format.h"
 
 namespace console {
 
@@ -16,14 +15,10 @@ std::string inUnaRiga(const runtime::Error& errore) {
   return controls::oneLine(numero + errore.description());
 }
 
-std::string oraPerNomi() {
-  return runtime::format(platform::clock().now(), "yyyymmddhhnnss");
-}
-
 Corsa::Corsa(const std::string& percorso)
     : database(percorso),
       inizio(oraPerNomi()),
-      compattato(frmAggMain::EstraiCartella(percorso) + "New" + frmAggMain::EstraiNomeFile(percorso)) {}
+      compattato(EstraiCartella(percorso) + "New" + EstraiNomeFile(percorso)) {}
 
 bool diDisegno(int numero) {
   // The engine numbers what it can't make of a statement from 3061 to 3146.

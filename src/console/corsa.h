@@ -1,3 +1,4 @@
+// What one run of the update has, and how it ended.
 #pragma once
 
 #include <array>
@@ -37,14 +38,16 @@ bool diDisegno(int numero);
 /// "errore 3022: ...", or the description alone of an error without a number.
 std::string inUnaRiga(const runtime::Error& errore);
 
-/// The present time as the names of copies carry it: "yyyymmddhhnnss".
-std::string oraPerNomi();
-
 /// One run of the update: the paths and values that belong to it alone, and how it ended.
 struct Corsa {
   Corsa() = default;
   /// Of the target at `percorso`, beginning now.
   explicit Corsa(const std::string& percorso);
+
+  /// It came to the point where it reads and copies the target.
+  bool cominciata() const { return esito > Esito::ApertoAltrove; }
+  /// It came to its normal end, even if without compaction.
+  bool terminata() const { return esito == Esito::Completata || esito == Esito::NonCompattata; }
 
   std::string database;         // the target
   std::string inizio;           // the time of the start

@@ -1,6 +1,7 @@
-// The clean-up of the list of municipalities before a run.
+// Groups of equal rows, thinned out one row at a time until none is left.
+#include "console/duplicates.h"
+
 #include "common/text.h"
-#include "console/frmAggMain.h"
 
 namespace console {
 namespace {
@@ -31,31 +32,33 @@ bool eliminaPrimo(jet::dao::Database& db, jet::dao::Recordset& gruppi) {
 
 }  // namespace
 
-void frmAggMain::EliminaComuniDuplicati(bool& esito) {
-  esito = false;
+bool EliminaComuniDuplicati(const schema::Ambiente& ambiente) {
   try {
-    const auto gruppi = DbDestinazione->OpenRecordset(
+    jet::dao::Database& db = *ambiente.destinazione;
+    const auto gruppi = db.OpenRecordset(
         "SELECT ISTAT, Comune, PROVINCIA, COUNT(*) AS Conta FROM italia_comuni GROUP BY ISTAT, Comune, "
         "PROVINCIA "
         "HAVING COUNT(*) > 1",
         jet::dao::dbOpenSnapshot);
-    if (!gruppi->atEnd()) ScriviRiepilogo("Tabella italia_comuni: eliminazione comuni duplicati ....", true);
+    if (!gruppi->atEnd())
+      ambiente.scrivi("Tabella italia_comuni: eliminazione comuni duplicati ....", schema::Voce::Modifica);
     while (!gruppi->atEnd()) {
       bool eliminati = false;
       for (; !gruppi->atEnd(); gruppi->MoveNext())
-        if (eliminaPrimo(*DbDestinazione, *gruppi)) eliminati = true;
+        if (eliminaPrimo(db, *gruppi)) eliminati = true;
       // Rows with a Null are a group, but no row equals a Null: without this they would be asked for for
       // ever.
       if (!eliminati) break;
       gruppi->Requery();
-      if (gruppi->atEnd()) ScriviRiepilogo("fatto", false);
+      if (gruppi->atEnd()) ambiente.scrivi("fatto", schema::Voce::Seguito);
     }
     gruppi->Close();
-    esito = true;
+    return true;
   } catch (const runtime::Error& errore) {
-    trattieni(errore);
-    ScriviRiepilogo("- errore " + std::to_string(errore.number()) + "-", true);
-    ScriviRiepilogo(std::string(errore.description()), true);
+    ambiente.trattieni(errore);
+    ambiente.scrivi("- errore " + std::to_string(errore.number()) + "-", schema::Voce::Errore);
+    ambiente.scrivi(errore.description(), schema::Voce::Errore);
+    return false;
   }
 }
 

@@ -1,3 +1,4 @@
+// How the window is made, comes and goes.
 #include "console/frmAggMain.h"
 
 #include "common/text.h"
@@ -66,6 +67,7 @@ void frmAggMain::Form_Initialize() {
 }
 
 void frmAggMain::Form_Unload() {
+  corsa_ = nullptr;  // only one that an unforeseen error has broken off is still there
   try {
     if (Ws) Ws->Close();
   } catch (const runtime::Error&) {

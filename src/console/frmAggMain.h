@@ -1,14 +1,13 @@
+// The main window: the choice of a database, its update and the running summary.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "console/corsa.h"
+#include "console/aggiornamento.h"
 #include "controls/button.h"
 #include "controls/common_dialog.h"
 #include "controls/form.h"
@@ -23,14 +22,9 @@ namespace platform {
 class Settings;
 }
 
-namespace schema {
-struct Ambiente;
-struct Piano;
-}  // namespace schema
-
 namespace console {
 
-class PendingError;
+struct Applicazione;
 
 /// What the window takes from the program that it runs in.
 struct Programma {
@@ -41,7 +35,7 @@ struct Programma {
   std::function<void(const std::string& cartella)> mostraPatch = [](const std::string&) {};
 };
 
-/// The main window: the choice of a database, its update and the running summary.
+/// The window. It holds the choice and the summary; what it is asked to do with them an Aggiornamento does.
 ///
 /// Settings read: (program name, "DU"): "DEBUG" and "OTHERDB", on when "KEP"; "ANALISIDB", the path of the
 /// developers' analysis database, without which the box of the descriptions stays hidden; (application,
@@ -72,9 +66,10 @@ class frmAggMain : public controls::Form {
   std::string PercorsoAnalisiDB;
   std::string PercorsoDatabase;  // target of the next run
   std::shared_ptr<jet::dao::Workspace> Ws;
-  jet::dao::DatabasePtr DbRiferimento;   // open from start-up on
-  jet::dao::DatabasePtr DbDestinazione;  // open only during a run
-  jet::dao::RecordsetPtr RsNorvi;        // open only during start-up
+  jet::dao::DatabasePtr DbRiferimento;  // open from start-up on
+  /// The target; open only during a run.
+  jet::dao::DatabasePtr DbDestinazione() const;
+  jet::dao::RecordsetPtr RsNorvi;  // open only during start-up
   std::string PercorsoProgramma;
   std::string PercorsoRiferimento;
   std::vector<std::string> ColPercorsi;  // element n - 1 belongs to row n of lstDatabase; row 0 is its prompt
@@ -87,11 +82,7 @@ class frmAggMain : public controls::Form {
   bool PathImpostato = false;
   std::string NomeProgrammaPatch;  // key "Norvo-Prg" of PatchList.txt
 
-  // For the programs; the operator reads the summary.
-  Corsa UltimaCorsa;
-  std::optional<runtime::Error> ErroreAvvio;  // what ended the loading early
-  /// Applications whose database is registered but isn't there: name and path.
-  std::vector<std::pair<std::string, std::string>> NonTrovati;
+  Corsa UltimaCorsa;  // how the last run ended
 
   // Life of the window.
   void Form_Initialize();  // called by the constructor
@@ -118,41 +109,26 @@ class frmAggMain : public controls::Form {
   void mnuFileEsci_Click();
   void Timer1_Timer();
 
-  // The run.
+  // The run. What changes the target does nothing outside of one.
   /// Updates the chosen database from its backup to its compaction; UltimaCorsa tells how it ended. Does
   /// nothing while a run lasts: events are let through during it, and a second click must not reach a
   /// half-updated file.
   void EseguiAggiornamento();
-  /// Tells what the phases over the target's structure and contents would change, and writes nothing
-  /// anywhere; UltimaCorsa tells how the run would end, and why.
-  void PrevediAggiornamento(schema::Piano& piano);
-  void LeggiDatabaseScelto();
+  /// What the next run is to update; sets PercorsoDatabase.
+  Scelta LeggiDatabaseScelto();
   void ChiediApplicazione(std::string& nome);
   /// Sets `annulla` if the database is open elsewhere and the operator gave up.
   void VerificaDatabaseChiuso(bool& annulla);
-  /// Lets events run for this number of seconds, over midnight too.
   void WaitFor(int secondi);
-  /// Removes rows of italia_comuni that agree in ISTAT, Comune and PROVINCIA, the earliest DataFine first.
   void EliminaComuniDuplicati(bool& esito);
-  /// Gives the fields whose names are too long their short ones; where the short one is there, deletes the
-  /// long.
   void RinominaCampiLunghi(const std::string& tabella, bool& esito);
-  /// -1 if the table can't be counted.
   void ContaRecords(const jet::dao::DatabasePtr& db, const std::string& tabella, std::int32_t& conteggio);
-  /// Counts again and reports a difference in the summary.
   void ControllaRecords(const jet::dao::DatabasePtr& db, const std::string& tabella, std::int32_t attesi,
                         bool& uguale);
 
   // The summary.
-  /// Appends to the summary, on a new line if `aCapo` (then `testo` comes back with the line end in front),
-  /// and lets events run.
   void ScriviRiepilogo(std::string& testo, const bool& aCapo);
-  void ScriviRiepilogo(std::string&& testo, const bool& aCapo) { ScriviRiepilogo(testo, aCapo); }
-  /// Saves the box's text, in code page 1252, as a file of its own beside the executable; a failure shows a
-  /// box.
   void SalvaRiepilogo(const controls::TextBox& casella, bool& esito);
-  /// The part of a path up to and with its last backslash, and the part behind it; empty for what is not a
-  /// text.
   static std::string EstraiCartella(const runtime::Variant& percorso);
   static std::string EstraiNomeFile(const runtime::Variant& percorso);
 
@@ -160,40 +136,15 @@ class frmAggMain : public controls::Form {
   void definisciControlli();
   void collegaEventi();
   std::string impostazione(const std::string& chiave) const;  // section "DU" of the program
-  void elencaApplicazioni();
+  void aggiungiApplicazione(const Applicazione& trovata);
   void abilitaAggiorna(bool abilita);
   void scegliDatabase(const std::string& percorso);
-
+  schema::Ambiente ambiente();
   void congedo();  // what the operator is told or shown on leaving
-  void esegui(Corsa& corsa);
-  Corsa nuovaCorsa();  // with SenzaNome where nothing forbids to go on
-  bool sceltoRiferimento() const;
-  void rifiuta(const Corsa& corsa);  // in the summary
-  void intesta(const Corsa& corsa);
-  bool applicazioneScelta();  // asks for it where the database was picked by hand
-  bool aggiornamentoVietato() const;
-  void copiaDiSicurezza(Corsa& corsa);
-  /// Copies `percorso` beside itself under `nome`, `ora` ("yyyymmddhhnnss") and ".mdb", and returns that
-  /// path. While another file has the name it waits for the next second.
-  std::string copiaConOra(const std::string& percorso, const std::string& nome, std::string ora);
-  bool transazioneRichiesta();
-  void rinominaCampi();
-  void contaTabelle(Corsa& corsa);
-  schema::Ambiente ambienteDellaCorsa();
-  void aggiungiQuery(const schema::Ambiente& ambiente);
-  void aggiornaTabelle(const schema::Ambiente& ambiente);
-  void trattieni(const runtime::Error& errore);  // one that was passed over
-  void chiudiDestinazione();
-  void annullaAggiornamento(Corsa& corsa, const runtime::Error& errore);
-  void prevediFasi(schema::Piano& piano);
-  void compattaEControlla(Corsa& corsa);
-  bool tabelleComplete(const Corsa& corsa);
-  void ripristina(Corsa& corsa, PendingError& errori);
-  void concludi();
-  void scriviErrore(int numero, const std::string& descrizione);
 
   Programma programma_;
-  bool uscitaRichiesta_ = false;  // during a run
+  std::unique_ptr<Aggiornamento> corsa_;  // the run that is under way
+  bool uscitaRichiesta_ = false;          // during it
 };
 
 }  // namespace console

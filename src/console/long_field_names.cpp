@@ -1,10 +1,10 @@
-// Names of fields that later versions of the suite have shortened.
+// The table of long names, and the walk that shortens them.
+#include "console/long_field_names.h"
+
 #include <array>
-#include <optional>
 
 #include "common/records.h"
 #include "common/text.h"
-#include "console/frmAggMain.h"
 
 namespace console {
 namespace {
@@ -36,23 +36,23 @@ std::optional<CampoLungo> primoCampoLungo(jet::dao::TableDef& tabella) {
 
 }  // namespace
 
-void frmAggMain::RinominaCampiLunghi(const std::string& tabella, bool& esito) {
-  esito = false;
+std::optional<runtime::Error> RinominaCampiLunghi(const schema::Ambiente& ambiente,
+                                                  const std::string& tabella) {
   try {
-    const auto definizione = DbDestinazione->TableDefs(tabella);
+    auto db = ambiente.destinazione;
+    const auto definizione = db->TableDefs(tabella);
     while (auto lungo = primoCampoLungo(*definizione)) {
       const std::string nome = lungo->campo.Name();
-      ScriviRiepilogo("Tabella " + tabella + " - campo " + nome + " in modifica", true);
-      if (common::EsisteCampo(tabella, lungo->nuovo, DbDestinazione)) {
+      ambiente.scrivi("Tabella " + tabella + " - campo " + nome + " in modifica", schema::Voce::Modifica);
+      if (common::EsisteCampo(tabella, lungo->nuovo, db)) {
         definizione->Fields().Delete(nome);
       } else {
         lungo->campo.setName(lungo->nuovo);
       }
     }
-    esito = true;
+    return std::nullopt;
   } catch (const runtime::Error& errore) {
-    // The summary shows only that it failed: the run stops at it without a number.
-    UltimaCorsa.causa = errore;
+    return errore;
   }
 }
 

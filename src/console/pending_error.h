@@ -1,3 +1,4 @@
+// Errors as the language of the suite passes them over.
 #pragma once
 
 #include <optional>

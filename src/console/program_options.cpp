@@ -1,3 +1,4 @@
+// Options looked at, and put in force.
 #include "console/program_options.h"
 
 #include "common/files.h"

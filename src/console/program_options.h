@@ -1,3 +1,4 @@
+// What every program of the suite is told about its surroundings.
 #pragma once
 
 #include <memory>

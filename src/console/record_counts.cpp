@@ -1,38 +1,34 @@
-// The counts of the control tables, by which a compacted file is judged.
+// Records counted by a statement of the target.
+#include "console/record_counts.h"
+
 #include "common/text.h"
-#include "console/frmAggMain.h"
 #include "runtime/numbers.h"
 
 namespace console {
 
-void frmAggMain::ContaRecords(const jet::dao::DatabasePtr& db, const std::string& tabella,
-                              std::int32_t& conteggio) {
-  conteggio = -1;
-  if (!db) return;
+std::int32_t ContaRecords(const jet::dao::DatabasePtr& db, const std::string& tabella) {
+  if (!db) return -1;
   try {
     const auto domanda = db->CreateQueryDef("", "SELECT count(*) AS CountRecords FROM " + tabella);
     const auto righe = domanda->OpenRecordset(jet::dao::dbOpenSnapshot);
     const std::int32_t trovati = righe->atEnd() ? 0 : righe->Fields(std::size_t{0}).Value().toLong();
     righe->Close();
     domanda->Close();
-    conteggio = trovati;
+    return trovati;
   } catch (const runtime::Error&) {
-    conteggio = -1;
+    return -1;
   }
 }
 
-void frmAggMain::ControllaRecords(const jet::dao::DatabasePtr& db, const std::string& tabella,
-                                  std::int32_t attesi, bool& uguale) {
-  std::int32_t trovati = 0;
-  ContaRecords(db, tabella, trovati);
-  uguale = trovati == attesi;
-  if (uguale) return;
+std::optional<std::string> ControllaRecords(const schema::Ambiente& ambiente, const std::string& tabella,
+                                            std::int32_t attesi) {
+  const std::int32_t trovati = ContaRecords(ambiente.destinazione, tabella);
+  if (trovati == attesi) return std::nullopt;
   const std::string differenza =
       "Tabella " + common::SenzaSpazi(tabella) + ": mancano " + runtime::str(attesi - trovati) + " records!";
-  UltimaCorsa.causa = runtime::Error(0, "", differenza);
-  ScriviRiepilogo("", true);
-  ScriviRiepilogo(std::string(differenza), true);
-  ScriviRiepilogo("", true);
+  for (const std::string& testo : {std::string(), differenza, std::string()})
+    ambiente.scrivi(testo, schema::Voce::Errore);
+  return differenza;
 }
 
 }  // namespace console

@@ -1,13 +1,10 @@
 // How the window comes up: the reference database, the applications found on this computer.
-#include "common/files.h"
 #include "common/text.h"
 #include "common/windows.h"
+#include "console/applications.h"
 #include "console/frmAggMain.h"
-#include "console/patch_list.h"
 #include "console/pending_error.h"
 #include "controls/desktop.h"
-#include "platform/files.h"
-#include "platform/settings.h"
 
 namespace console {
 
@@ -32,9 +29,9 @@ void frmAggMain::Form_Load() {
     chkAggiornaDescrizioni.setVisible(!Check_Percorso(PercorsoAnalisiDB).empty());
     chkAggiornaDescrizioni.setValue(controls::Unchecked);
 
-    const std::string patch = PercorsoProgramma + "\\PatchList.txt";
-    if (common::EsisteFile(patch)) NomeProgrammaPatch = nomeProgramma(platform::readWholeFile(patch));
-    elencaApplicazioni();
+    NomeProgrammaPatch = applicazioneDellaPatch(PercorsoProgramma);
+    elencaApplicazioni(*RsNorvi, programma_.impostazioni,
+                       [this](const Applicazione& trovata) { aggiungiApplicazione(trovata); });
     if (lstDatabase.listCount() < 2) {
       txtAltroDB.setVisible(true);
       cmdSelezionaDB.setVisible(true);
@@ -44,8 +41,7 @@ void frmAggMain::Form_Load() {
     RsNorvi->Close();
     RsNorvi = nullptr;
     setMousePointer(controls::MousePointer::Default);
-  } catch (const runtime::Error& errore) {
-    ErroreAvvio = errore;
+  } catch (const runtime::Error&) {
     // The window stays up with what it had reached, and nothing of the reference database stays open.
     PendingError errori;
     if (RsNorvi) errori.attempt([this] { RsNorvi->Close(); });
@@ -55,34 +51,21 @@ void frmAggMain::Form_Load() {
   }
 }
 
-void frmAggMain::elencaApplicazioni() {
-  for (; !RsNorvi->atEnd(); RsNorvi->MoveNext()) {
-    const std::string norvo = RsNorvi->value("norvo").toText();
-    const std::string percorso =
-        common::PercorsoInterno(programma_.impostazioni.get(norvo, "DBSECTION", "dbpath"));
-    if (percorso.empty()) continue;
-    if (Check_Percorso(percorso).empty()) {
-      NonTrovati.emplace_back(norvo, percorso);
-      continue;
-    }
-    const std::string nome = common::Maiuscolo(norvo);
-    lstDatabase.addItem(nome + (ModoDebug ? " (" + percorso + ")" : " "));
-    if (nome == common::Maiuscolo(NomeProgrammaPatch)) lstDatabase.setListIndex(lstDatabase.listCount() - 1);
-    ColNomi.push_back(norvo);
-    ColPercorsi.push_back(percorso);
-  }
+void frmAggMain::aggiungiApplicazione(const Applicazione& trovata) {
+  if (!trovata.presente) return;
+  const std::string nome = common::Maiuscolo(trovata.nome);
+  lstDatabase.addItem(nome + (ModoDebug ? " (" + trovata.percorso + ")" : " "));
+  if (nome == common::Maiuscolo(NomeProgrammaPatch)) lstDatabase.setListIndex(lstDatabase.listCount() - 1);
+  ColNomi.push_back(trovata.nome);
+  ColPercorsi.push_back(trovata.percorso);
 }
 
 std::string frmAggMain::Check_Percorso(const std::string& percorso) const {
-  try {
-    return platform::fileExists(percorso) ? percorso : std::string();
-  } catch (const runtime::Error&) {
-    return {};
-  }
+  return console::Check_Percorso(percorso);
 }
 
 std::string frmAggMain::Check_Percorso1(const std::string& percorso) const {
-  return Check_Percorso(percorso);
+  return console::Check_Percorso(percorso);
 }
 
 }  // namespace console

@@ -1,10 +1,9 @@
-// What the phases ask of their surroundings: parameters, kinds of application, differences.
+// Parameters of the target that several phases go by.
 #include "schema/ambiente.h"
 
 #include <algorithm>
 #include <array>
 
-#include "common/globale.h"
 #include "common/text.h"
 #include "parameters/kep_generali.h"
 #include "runtime/numbers.h"
@@ -29,8 +28,8 @@ runtime::Variant parametro(const Ambiente& ambiente, const std::string& nome) {
   return valore;
 }
 
-bool applicazioneSenzaIscritti() {
-  return compreso(ApplicazioniSenzaIscritti, common::ApplicazioneCorrente);
+bool applicazioneSenzaIscritti(const Ambiente& ambiente) {
+  return compreso(ApplicazioniSenzaIscritti, ambiente.applicazione);
 }
 
 bool haPagineWeb(const Ambiente& ambiente) {
@@ -39,7 +38,7 @@ bool haPagineWeb(const Ambiente& ambiente) {
 }
 
 bool tabellaWebEsclusa(const Ambiente& ambiente, const std::string& tabella) {
-  return compreso(TabelleWeb, tabella) && (applicazioneSenzaIscritti() || !haPagineWeb(ambiente));
+  return compreso(TabelleWeb, tabella) && (applicazioneSenzaIscritti(ambiente) || !haPagineWeb(ambiente));
 }
 
 }  // namespace schema

@@ -105,8 +105,8 @@ void eliminaCampo(const Ambiente& ambiente, jet::dao::TableDef& tabella, const s
 }  // namespace
 
 void CreaEModificaCampi(const Ambiente& ambiente) {
-  Interrogazione tabelle(*ambiente.riferimento, Domanda::Tabelle);
-  Interrogazione campi(*ambiente.riferimento, Domanda::CampiTabella);
+  Interrogazione tabelle(ambiente, Domanda::Tabelle);
+  Interrogazione campi(ambiente, Domanda::CampiTabella);
   for (const auto righe = tabelle.righe(); !righe->atEnd(); righe->MoveNext()) {
     const std::string nome = righe->value("Tabella").toText();
     if (!tabellaWebEsclusa(ambiente, nome)) Tabella(ambiente, nome).aggiorna(*campi.righe({nome}));
@@ -114,8 +114,8 @@ void CreaEModificaCampi(const Ambiente& ambiente) {
 }
 
 void EliminaCampi(const Ambiente& ambiente) {
-  Interrogazione tabelle(*ambiente.riferimento, Domanda::TabelleDaRidurre);
-  Interrogazione campi(*ambiente.riferimento, Domanda::CampiDaEliminare);
+  Interrogazione tabelle(ambiente, Domanda::TabelleDaRidurre);
+  Interrogazione campi(ambiente, Domanda::CampiDaEliminare);
   for (const auto righe = tabelle.righe(); !righe->atEnd(); righe->MoveNext()) {
     const std::string nome = righe->value("Tabella").toText();
     if (!ambiente.destinazione->TableDefs().contains(nome)) continue;

@@ -1,3 +1,4 @@
+// A field, as a rebuilding keeps it.
 #pragma once
 
 #include <cstdint>

@@ -1,9 +1,8 @@
-// The queries of the reference's catalogue, as a table.
+// The texts of the questions, and how the answers are compared.
 #include "schema/catalogo.h"
 
 #include <array>
 
-#include "common/globale.h"
 #include "common/text.h"
 
 namespace schema {
@@ -29,9 +28,9 @@ constexpr std::array Testi = {
 
 }  // namespace
 
-Interrogazione::Interrogazione(jet::dao::Database& riferimento, Domanda domanda)
-    : query_(riferimento.CreateQueryDef("", Testi[static_cast<std::size_t>(domanda)])) {
-  query_->Parameters(0).setValue(common::NomeApplicazione);
+Interrogazione::Interrogazione(const Ambiente& ambiente, Domanda domanda)
+    : query_(ambiente.riferimento->CreateQueryDef("", Testi[static_cast<std::size_t>(domanda)])) {
+  query_->Parameters(0).setValue(ambiente.applicazione);
 }
 
 Interrogazione::~Interrogazione() {

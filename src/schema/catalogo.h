@@ -1,3 +1,4 @@
+// The questions that the phases ask of the reference database.
 #pragma once
 
 #include <cstdint>
@@ -6,6 +7,7 @@
 
 #include "jet/dao/database.h"
 #include "runtime/variant.h"
+#include "schema/ambiente.h"
 
 /// The tables of the reference database that say how a database of each application must look.
 namespace schema {
@@ -26,7 +28,7 @@ enum class Domanda {
 /// is the engine's error.
 class Interrogazione {
  public:
-  Interrogazione(jet::dao::Database& riferimento, Domanda domanda);
+  Interrogazione(const Ambiente& ambiente, Domanda domanda);
   ~Interrogazione();
   Interrogazione(const Interrogazione&) = delete;
   Interrogazione& operator=(const Interrogazione&) = delete;

@@ -1,3 +1,4 @@
+// Reference contents: the tables ADD_ and INS_ of the reference.
 #pragma once
 
 #include <string>

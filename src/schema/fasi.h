@@ -1,3 +1,4 @@
+// The phases of an update, as a run calls them.
 #pragma once
 
 #include <string>

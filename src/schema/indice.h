@@ -1,3 +1,4 @@
+// An index, as a rebuilding keeps it.
 #pragma once
 
 #include "schema/campo.h"

@@ -67,8 +67,8 @@ void aggiornaIndice(const Ambiente& ambiente, jet::dao::Recordset& riga, Interro
 }  // namespace
 
 void AggiornaIndici(const Ambiente& ambiente) {
-  Interrogazione indici(*ambiente.riferimento, Domanda::Indici);
-  Interrogazione campi(*ambiente.riferimento, Domanda::CampiIndice);
+  Interrogazione indici(ambiente, Domanda::Indici);
+  Interrogazione campi(ambiente, Domanda::CampiIndice);
   for (const auto righe = indici.righe(); !righe->atEnd(); righe->MoveNext())
     aggiornaIndice(ambiente, *righe, campi);
 }

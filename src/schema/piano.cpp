@@ -1,4 +1,4 @@
-// The phases tried on a target that is never saved, and the lines that tell of changes.
+// The phases let loose on a target that is not saved, and the changes collected.
 #include "schema/piano.h"
 
 #include <algorithm>

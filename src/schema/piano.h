@@ -1,3 +1,4 @@
+// What the phases would change.
 #pragma once
 
 #include <string>

@@ -1,3 +1,4 @@
+// A collection of records that is asked by name.
 #pragma once
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// A relation, as a rebuilding keeps it.
 #pragma once
 
 #include "schema/campo.h"

@@ -53,8 +53,8 @@ void aggiornaRelazione(const Ambiente& ambiente, jet::dao::Recordset& riga, Inte
 }  // namespace
 
 void AggiornaRelazioni(const Ambiente& ambiente) {
-  Interrogazione relazioni(*ambiente.riferimento, Domanda::Relazioni);
-  Interrogazione campi(*ambiente.riferimento, Domanda::CampiRelazione);
+  Interrogazione relazioni(ambiente, Domanda::Relazioni);
+  Interrogazione campi(ambiente, Domanda::CampiRelazione);
   for (const auto righe = relazioni.righe(); !righe->atEnd(); righe->MoveNext())
     aggiornaRelazione(ambiente, *righe, campi);
 }

@@ -1,3 +1,4 @@
+// The rebuilding of a field.
 #pragma once
 
 #include <string>

@@ -40,6 +40,11 @@ std::vector<std::string> oldInstallation() {
   return linesOf(CASES "/old_installation.sql");
 }
 
+std::vector<std::string> with(std::vector<std::string> statements, const std::vector<std::string>& more) {
+  statements.insert(statements.end(), more.begin(), more.end());
+  return statements;
+}
+
 std::string contentOf(const std::string& path) {
   const auto db = jet::dao::DBEngine::OpenDatabase(path, true, true);
   std::string content;
@@ -81,7 +86,7 @@ Office::Office(const std::string& dataFolder)
       settings(folder.path("impostazioni.ini")) {
   std::filesystem::create_directories(platform::toSystemPath(program));
   std::filesystem::create_directories(platform::toSystemPath(data));
-  makeDatabase(program + "\\AggNorvo.mdb", reference());
+  makeReference(reference());
   makeTarget(oldInstallation());
   writeSettings(registered("collgeometri", target));
 }
@@ -97,6 +102,11 @@ std::vector<std::string> Office::dataFiles() const {
 void Office::makeTarget(const std::vector<std::string>& statements) {
   std::filesystem::remove(platform::toSystemPath(target));
   makeDatabase(target, statements);
+}
+
+void Office::makeReference(const std::vector<std::string>& statements) {
+  std::filesystem::remove(platform::toSystemPath(program + "\\AggNorvo.mdb"));
+  makeDatabase(program + "\\AggNorvo.mdb", statements);
 }
 
 void Office::writeSettings(const std::string& content) {

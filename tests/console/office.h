@@ -1,3 +1,4 @@
+// An office with its program, its databases and its settings, for whoever tests a run.
 #pragma once
 
 #include <functional>
@@ -23,6 +24,7 @@ std::vector<std::string> reference();
 /// Statements of an old installation: parameters, the six control tables, a member with accents, a long field
 /// name.
 std::vector<std::string> oldInstallation();
+std::vector<std::string> with(std::vector<std::string> statements, const std::vector<std::string>& more);
 /// Names of the fields and all rows of every user table, for comparing two files by content.
 std::string contentOf(const std::string& path);
 /// First value of the first row.
@@ -38,6 +40,7 @@ class Office {
   std::vector<std::string> dataFiles() const;
   /// Gives the target these statements' content.
   void makeTarget(const std::vector<std::string>& statements);
+  void makeReference(const std::vector<std::string>& statements);
   /// Writes the settings: lines as they stand in the file.
   void writeSettings(const std::string& content);
   void writePatchList(const std::string& content);

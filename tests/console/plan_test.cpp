@@ -25,12 +25,8 @@ console::BatchOptions planOf(const Office& office) {
 TEST(Plan, ForeseesWhatTheRunDoes) {
   support::CaseFile(CASES "/plans.cases").expectResults([](const support::Case& each) {
     Office office;
-    auto target = office::oldInstallation(), reference = office::reference();
-    for (const std::string& statement : each.all("design")) target.push_back(statement);
-    for (const std::string& statement : each.all("reference")) reference.push_back(statement);
-    office.makeTarget(target);
-    platform::removeFile(office.program + "\\AggNorvo.mdb");
-    office::makeDatabase(office.program + "\\AggNorvo.mdb", reference);
+    office.makeTarget(office::with(office::oldInstallation(), each.all("design")));
+    office.makeReference(office::with(office::reference(), each.all("reference")));
     const std::string before = platform::readWholeFile(office.target);
 
     const office::Printed plan = office::batch(planOf(office));

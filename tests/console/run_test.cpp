@@ -24,6 +24,7 @@ using console::Esito;
 using office::contentOf;
 using office::Office;
 using office::Window;
+using office::with;
 using platform::DiskCall;
 using platform::DiskError;
 using platform::DiskFault;
@@ -46,11 +47,6 @@ class OnDisk : public platform::DiskObserver {
 
 bool names(const DiskCall& call, const std::string& part) {
   return call.path.find(part) != std::string::npos;
-}
-
-std::vector<std::string> with(std::vector<std::string> statements, const std::vector<std::string>& more) {
-  statements.insert(statements.end(), more.begin(), more.end());
-  return statements;
 }
 
 const char* const Duplicate = "INSERT INTO italia_comuni VALUES ('066049', 'L''Aquila', 'AQ', #12/31/2010#)";
@@ -209,54 +205,29 @@ TEST(Run, BeginsOnADatabaseThatIsOpenElsewhereOnlyWhenItIsFree) {
   }
 }
 
-TEST(Run, IsForbiddenByTheMarkerAboveADbFolder) {
-  struct {
-    const char* folder;
-    const char* marker;
-    bool path;
-    bool forbidden;
-  } const cases[] = {{"studio\\DB", "studio\\NoAggNorvo.txt", false, true},
-                     {"studio\\dbase\\anno", "studio\\NoAggNorvo.txt", false, true},
-                     {"studio\\DB", "studio\\DB\\NoAggNorvo.txt", false, false},
-                     {"studio\\dati", "studio\\NoAggNorvo.txt", false, false},
-                     {"studio\\DB", "studio\\NoAggNorvo.txt", true, false}};
-  for (const auto& test : cases) {
-    SCOPED_TRACE(test.folder);
-    Office office(test.folder);
-    platform::writeWholeFile(office.folder.path(test.marker), "");
-    Window window(office);
-    if (test.path) window.form.Path(office.program);
-    window.update();
-    EXPECT_EQ(window.desktop.ended, test.forbidden);
-    EXPECT_EQ(platform::fileExists(office.backup), !test.forbidden);
-    ASSERT_EQ(window.desktop.boxes.size(), test.forbidden ? 1u : 0u);
-    for (const auto& box : window.desktop.boxes) EXPECT_THAT(box.text, EndsWith("'Controllo Aggiornamenti'"));
-  }
+/// How a run begins: the boxes and questions, then whether it does, or ends the program.
+std::string beginningOf(const support::Case& each) {
+  Office office(each.one("folder", "dati"));
+  office.writePatchList(each.one("patch"));
+  if (!each.one("marker").empty()) platform::writeWholeFile(office.folder.path(each.one("marker")), "");
+  Window window(office);
+  if (each.one("path") == "set") window.form.Path(office.program);
+  for (const std::string& answer : each.all("answer"))
+    window.desktop.expectInput(answer == "-" ? std::nullopt : std::optional(answer));
+  window.update(each.one("application"));
+  std::string told;
+  for (const auto& input : window.desktop.inputs) told += input.title + ": " + input.text + ", ";
+  for (const auto& box : window.desktop.boxes) told += box.text.substr(box.text.find('\n') + 1) + ", ";
+  EXPECT_EQ(window.form.AggiornamentoEseguito, platform::fileExists(office.backup));
+  return told +
+         (window.desktop.ended                ? "ended"
+          : window.form.AggiornamentoEseguito ? "done"
+                                              : "not done") +
+         " as [" + common::NomeApplicazione + "]";
 }
 
-TEST(Run, AsksForTheApplicationOfAnUnknownDatabase) {
-  struct {
-    const char* patch;
-    std::optional<std::string> answer;
-    const char* offered;
-    const char* applied;
-  } const cases[] = {{"", std::nullopt, "collgeometri", "collgeometri"},
-                     {"Norvo-Prg=ordmedici", std::nullopt, "ordmedici", "ordmedici"},
-                     {"", "PROTOCOLLO", "collgeometri", "PROTOCOLLO"},
-                     {"", "", "collgeometri", ""}};
-  for (const auto& test : cases) {
-    Office office;
-    office.writePatchList(test.patch);
-    Window window(office);
-    window.desktop.expectInput(test.answer);
-    window.update("");
-    ASSERT_EQ(window.desktop.inputs.size(), 1u);
-    EXPECT_EQ(window.desktop.inputs[0].title, "Nome applicazione");
-    EXPECT_EQ(window.desktop.inputs[0].text, test.offered);
-    EXPECT_EQ(common::NomeApplicazione, test.applied);
-    EXPECT_EQ(window.form.AggiornamentoEseguito, *test.applied != '\0');
-    EXPECT_EQ(platform::fileExists(office.backup), *test.applied != '\0');
-  }
+TEST(Run, BeginsOrNotAsItShould) {
+  support::CaseFile(CASES "/beginnings.cases").expectResults(beginningOf);
 }
 
 TEST(Run, IsNotStartedTwiceAndKeepsItsTargetAndItsWindow) {

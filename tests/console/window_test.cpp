@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "common/globale.h"
 #include "office.h"
 #include "platform/files.h"
 #include "support/case_file.h"
@@ -49,9 +48,7 @@ TEST(StartUp, ListsWhatIsInstalledAndSelectsTheApplicationOfThePatch) {
 
 TEST(StartUp, SelectsTheLaterOfTwoRowsThatDifferInCase) {
   Office office;
-  platform::removeFile(office.program + "\\AggNorvo.mdb");
-  office::makeDatabase(office.program + "\\AggNorvo.mdb",
-                       {"CREATE TABLE Norvi (norvo TEXT(30))", "INSERT INTO Norvi VALUES ('collgeometri')",
+  office.makeReference({"CREATE TABLE Norvi (norvo TEXT(30))", "INSERT INTO Norvi VALUES ('collgeometri')",
                         "INSERT INTO Norvi VALUES ('CollGeometri')"});
   office.writePatchList("Norvo-Prg=COLLGEOMETRI");
   Window window(office);
@@ -102,13 +99,11 @@ TEST(Choice, ByHandIsOfferedBySettingAndKeepsItsText) {
   form.chkAltroDatabase.toggle();
   EXPECT_TRUE(form.cmdAggiorna.enabled());
   form.txtAltroDB.setText("  ");
-  form.LeggiDatabaseScelto();
+  EXPECT_EQ(form.LeggiDatabaseScelto().applicazione, "collgeometri");
   EXPECT_EQ(form.PercorsoDatabase, office.target);
-  EXPECT_EQ(common::NomeApplicazione, "collgeometri");
   form.lstDatabase.setListIndex(0);
-  form.LeggiDatabaseScelto();
+  EXPECT_EQ(form.LeggiDatabaseScelto().applicazione, "");
   EXPECT_EQ(form.PercorsoDatabase, "");
-  EXPECT_EQ(common::NomeApplicazione, "");
   EXPECT_FALSE(form.mnuFileAggiorna.enabled());
 }
 
@@ -201,7 +196,7 @@ TEST(Exit, DuringARunWaitsForItsEndAndThenSaysWhatCameOfIt) {
     bool left = false, delayed = false;
     window.form.unloadDelayed.connect([&] { delayed = true; });
     window.desktop.setEventsHook([&] {
-      if (left || !window.form.busy() || !window.form.DbDestinazione) return;
+      if (left || !window.form.busy() || !window.form.DbDestinazione()) return;
       left = true;
       window.form.cmdEsci.press();
       window.form.cmdSelezionaDB.setVisible(true);

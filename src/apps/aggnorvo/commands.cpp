@@ -1,3 +1,4 @@
+// Each command with its help, its options and what it calls.
 #include "apps/aggnorvo/commands.h"
 
 #include <CLI/CLI.hpp>

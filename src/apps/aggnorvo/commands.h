@@ -1,3 +1,4 @@
+// The commands of the program without a window.
 #pragma once
 
 #include <memory>

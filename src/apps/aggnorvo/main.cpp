@@ -1,3 +1,4 @@
+// The program: its commands, or the window beside it.
 #include <CLI/CLI.hpp>
 #include <iostream>
 

@@ -1,3 +1,4 @@
+// The texts of the shared options.
 #include "apps/aggnorvo/options.h"
 
 #include <CLI/CLI.hpp>

@@ -1,3 +1,4 @@
+// The options that the program and its window share.
 #pragma once
 
 #include "console/program_options.h"

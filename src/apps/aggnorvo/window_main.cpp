@@ -1,3 +1,4 @@
+// The program of the window.
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <cstdlib>
