@@ -1,6 +1,7 @@
 #include "runtime/variant.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "runtime/date.h"
@@ -48,6 +49,20 @@ std::string plainOrMismatch(const std::string& text) {
   return *plain;
 }
 
+/// Beyond 53 bits the product itself would be rounded: there the whole part is multiplied as a whole number.
+std::int64_t scaledDouble(double number, std::int64_t factor) {
+  constexpr double exact = 9007199254740992.0;  // 2^53
+  const double product = number * static_cast<double>(factor);
+  if (factor == 1 || !(std::abs(product) > exact)) return roundHalfEven(product);
+  const double whole = std::trunc(number);
+  const std::int64_t fraction = roundHalfEven((number - whole) * static_cast<double>(factor));
+  std::int64_t result = 0;
+  if (__builtin_mul_overflow(roundHalfEven(whole), factor, &result) ||
+      __builtin_add_overflow(result, fraction, &result))
+    throw languageError(Overflow);
+  return result;
+}
+
 /// The value times 10^decimals as a whole number, halves to even; the one rule of Byte, Integer, Long and
 /// Currency.
 std::int64_t scaled(const Variant::Value& value, int decimals) {
@@ -63,7 +78,7 @@ std::int64_t scaled(const Variant::Value& value, int decimals) {
           [&](float number) {
             return roundHalfEven(static_cast<double>(number) * static_cast<double>(factor));
           },
-          [&](double number) { return roundHalfEven(number * static_cast<double>(factor)); },
+          [&](double number) { return scaledDouble(number, factor); },
           [&](Currency money) {
             return decimals == 4 ? money.tenThousandths : plainToInteger(currencyText(money, '.'), decimals);
           },

@@ -37,7 +37,7 @@ file::TableDefinition makeTable(std::uint32_t page, const CreateTable& create) {
 
 std::string shown(sqlite3_stmt* statement, int column, Type type) {
   if (sqlite3_column_type(statement, column) == SQLITE_NULL) return "Null";
-  return readValue(sqlite3_column_value(statement, column), type).toText();
+  return decodeValue(image::RowColumn{statement, column}, type).toText();
 }
 
 /// On the pages from 10 on.

@@ -1,3 +1,4 @@
+// Rows of the system tables: objects, permissions, properties, relations.
 #include "jet/image/catalogue_rows.h"
 
 #include <array>
@@ -15,6 +16,10 @@ using Bytes = std::vector<std::byte>;
 // c7 Flags, c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2 ACM, c3 FInheritable. Of MSysRelationships
 // (t5): c0 szRelationship, c1 grbit, c2 ccolumn, c3 icolumn, c4 szObject, c5 szColumn, c6 szReferencedObject,
 // c7 szReferencedColumn; "referenced" is the parent's side.
+constexpr char Objects[] = "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 ORDER BY rowid";
+constexpr char ObjectNamed[] =
+    "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 AND c1 = ?2 AND c2 = ?3";
+constexpr char ObjectById[] = "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 AND c0 = ?2";
 constexpr char InsertObject[] =
     "INSERT INTO t2 (c0, c1, c2, c3, c4, c5, c6, c7) VALUES (?1, ?2, ?3, ?4, ?5, ?5, ?6, ?7)";
 constexpr char InsertPermission[] = "INSERT INTO t3 (c0, c1, c2, c3) VALUES (?1, ?2, ?3, 0)";
@@ -29,12 +34,20 @@ constexpr char OwnerOfDatabase[] = "SELECT c6 FROM t2 WHERE c0 = ?1";
 constexpr std::array CreatorFromAdmin = {std::byte{0x03 ^ 0x02}, std::byte{0x01 ^ 0x04}};
 
 Bytes blob(const Statement& statement, int column) {
-  const auto* data = static_cast<const std::byte*>(sqlite3_column_blob(statement.handle(), column));
-  return Bytes(data, data + sqlite3_column_bytes(statement.handle(), column));
+  const auto bytes = statement.bytes(column);
+  return Bytes(bytes.begin(), bytes.end());
 }
 
-void bindBlob(Statement& statement, int parameter, const Bytes& value) {
-  sqlite3_bind_blob64(statement.handle(), parameter, value.data(), value.size(), SQLITE_TRANSIENT);
+DatedObject datedObject(const Statement& row) {
+  DatedObject object;
+  object.id = static_cast<std::uint32_t>(row.integer(0));
+  object.parent = static_cast<std::uint32_t>(row.integer(1));
+  object.name = row.text(2);
+  object.type = static_cast<file::ObjectType>(row.integer(3));
+  object.flags = static_cast<std::uint32_t>(row.integer(4));
+  object.created = {row.real(5)};
+  object.updated = {row.real(6)};
+  return object;
 }
 
 /// The user Admin's id as this file keeps it: the owner of the database object.
@@ -78,6 +91,30 @@ std::vector<Permission> inherited(const Connection& connection, std::uint32_t co
 
 }  // namespace
 
+std::vector<DatedObject> readObjects(const Connection& connection, file::ObjectType type) {
+  std::vector<DatedObject> objects;
+  auto rows = connection.prepare(Objects);
+  rows.bind(1, static_cast<std::int64_t>(type));
+  while (rows.step()) objects.push_back(datedObject(rows));
+  return objects;
+}
+
+std::optional<DatedObject> readObject(const Connection& connection, file::ObjectType type,
+                                      std::uint32_t container, std::string_view name) {
+  auto rows = connection.prepare(ObjectNamed);
+  rows.bind(1, static_cast<std::int64_t>(type));
+  rows.bind(2, signedId(container));
+  rows.bind(3, name);
+  return rows.step() ? std::optional(datedObject(rows)) : std::nullopt;
+}
+
+std::optional<DatedObject> readObject(const Connection& connection, file::ObjectType type, std::uint32_t id) {
+  auto rows = connection.prepare(ObjectById);
+  rows.bind(1, static_cast<std::int64_t>(type));
+  rows.bind(2, signedId(id));
+  return rows.step() ? std::optional(datedObject(rows)) : std::nullopt;
+}
+
 void insertObject(const Connection& connection, const file::CatalogueObject& object) {
   const Bytes admin = adminId(connection);
   auto insert = connection.prepare(InsertObject);
@@ -85,15 +122,15 @@ void insertObject(const Connection& connection, const file::CatalogueObject& obj
   insert.bind(2, signedId(object.parent));
   insert.bind(3, std::string_view(object.name));
   insert.bind(4, static_cast<std::int64_t>(object.type));
-  sqlite3_bind_double(insert.handle(), 5, platform::clock().now().days);
-  bindBlob(insert, 6, admin);
+  insert.bind(5, platform::clock().now().days);
+  insert.bind(6, admin);
   insert.bind(7, signedId(object.flags));
   insert.run();
 
   auto permit = connection.prepare(InsertPermission);
   for (const auto& permission : inherited(connection, object.parent, admin)) {
     permit.bind(1, signedId(object.id));
-    bindBlob(permit, 2, permission.id);
+    permit.bind(2, permission.id);
     permit.bind(3, permission.mask);
     permit.run();
   }
@@ -110,7 +147,7 @@ void deleteObject(const Connection& connection, std::uint32_t id) {
 void touchObject(const Connection& connection, std::uint32_t id) {
   auto update = connection.prepare("UPDATE t2 SET c5 = ?2 WHERE c0 = ?1");
   update.bind(1, signedId(id));
-  sqlite3_bind_double(update.handle(), 2, platform::clock().now().days);
+  update.bind(2, platform::clock().now().days);
   update.run();
 }
 
@@ -129,7 +166,7 @@ void writeProperties(const Connection& connection, std::uint32_t id, const file:
   if (properties.empty())
     update.bindNull(2);
   else
-    bindBlob(update, 2, properties.encode());
+    update.bind(2, properties.encode());
   update.run();
 }
 

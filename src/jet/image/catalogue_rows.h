@@ -10,6 +10,7 @@
 #include "jet/file/read/catalogue.h"
 #include "jet/image/connection.h"
 #include "jet/image/relation_design.h"
+#include "runtime/variant.h"
 
 /// Rows of the system tables that tell of an object, changed in the image like any rows. The system tables
 /// they name must be loaded; the caller marks them as changed.
@@ -19,6 +20,18 @@ namespace jet::image {
 inline std::int64_t signedId(std::uint32_t id) {
   return static_cast<std::int32_t>(id);
 }
+
+/// An object and the times of its making and of its last change of design.
+struct DatedObject : file::CatalogueObject {
+  runtime::Date created, updated;
+};
+/// The column of MSysObjects by which an object of a name is looked for.
+constexpr std::uint16_t ObjectParentColumn = 1;
+/// All objects of a type in the order of the rows, or the one of them that has the name or the id.
+std::vector<DatedObject> readObjects(const Connection& connection, file::ObjectType type);
+std::optional<DatedObject> readObject(const Connection& connection, file::ObjectType type,
+                                      std::uint32_t container, std::string_view name);
+std::optional<DatedObject> readObject(const Connection& connection, file::ObjectType type, std::uint32_t id);
 
 /// Adds an object with its permissions, as its container hands them down.
 void insertObject(const Connection& connection, const file::CatalogueObject& object);

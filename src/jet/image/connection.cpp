@@ -1,3 +1,4 @@
+// The scratch database behind an open file, and SQLite's errors told as the engine's.
 #include "jet/image/connection.h"
 
 #include <charconv>
@@ -119,19 +120,8 @@ void Statement::run() {
   reset();
 }
 
-void Statement::bind(int parameter, std::string_view value) {
-  requireBound(handle_.get(), sqlite3_bind_text64(handle_.get(), parameter, value.data() ? value.data() : "",
-                                                  value.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
-}
-
 void requireBound(sqlite3_stmt* statement, int result) {
   if (result != SQLITE_OK && result != SQLITE_RANGE) throw errorFromSqlite(sqlite3_db_handle(statement));
-}
-
-std::string Statement::text(int column) const {
-  const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(handle_.get(), column));
-  return data ? std::string(data, static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column)))
-              : std::string();
 }
 
 Connection::Connection() {
@@ -150,6 +140,10 @@ Connection::Connection() {
 void Connection::execute(const std::string& sql) const {
   if (sqlite3_exec(handle_.get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
     throw errorFromSqlite(handle_.get());
+}
+
+void Connection::dropIfPossible(const std::string& sql) const noexcept {
+  sqlite3_exec(handle_.get(), sql.c_str(), nullptr, nullptr, nullptr);
 }
 
 }  // namespace jet::image

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "jet/image/stored_value.h"
 #include "runtime/error.h"
 
 namespace jet::image {
@@ -39,14 +40,22 @@ class Statement {
   /// Runs a statement without rows and makes it ready for the next bindings.
   void run();
 
-  void bind(int parameter, std::int64_t value) { sqlite3_bind_int64(handle_.get(), parameter, value); }
-  /// The text is copied.
-  void bind(int parameter, std::string_view value);
-  void bindNull(int parameter) { sqlite3_bind_null(handle_.get(), parameter); }
+  /// Where a codec puts a value, and where it takes one from.
+  Parameter parameter(int number) const { return {handle_.get(), number}; }
+  RowColumn column(int number) const { return {handle_.get(), number}; }
+  int parameters() const { return sqlite3_bind_parameter_count(handle_.get()); }
 
-  std::int64_t integer(int column) const { return sqlite3_column_int64(handle_.get(), column); }
-  std::string text(int column) const;
-  bool null(int column) const { return sqlite3_column_type(handle_.get(), column) == SQLITE_NULL; }
+  void bind(int number, std::int64_t value) { parameter(number).integer(value); }
+  void bind(int number, double value) { parameter(number).real(value); }
+  void bind(int number, std::string_view value) { parameter(number).text(value); }
+  void bind(int number, std::span<const std::byte> value) { parameter(number).bytes(value); }
+  void bindNull(int number) { parameter(number).null(); }
+
+  std::int64_t integer(int number) const { return column(number).integer(); }
+  double real(int number) const { return column(number).real(); }
+  std::string text(int number) const { return std::string(column(number).text()); }
+  std::span<const std::byte> bytes(int number) const { return column(number).bytes(); }
+  bool null(int number) const { return column(number).storage() == Storage::Null; }
 
   sqlite3_stmt* handle() const { return handle_.get(); }
   explicit operator bool() const { return handle_ != nullptr; }
@@ -67,6 +76,12 @@ class Connection {
   sqlite3* handle() const { return handle_.get(); }
   Statement prepare(std::string_view sql) const { return Statement(handle_.get(), sql); }
   void execute(const std::string& sql) const;
+  /// Drops what may be gone already, or may be in use: then it goes with the connection.
+  void dropIfPossible(const std::string& sql) const noexcept;
+  /// Rows that the last statement has changed, and those that all of them have, with what triggers did.
+  std::int64_t changes() const { return sqlite3_changes64(handle_.get()); }
+  std::int64_t totalChanges() const { return sqlite3_total_changes64(handle_.get()); }
+  std::int64_t lastInsertedRow() const { return sqlite3_last_insert_rowid(handle_.get()); }
 
  private:
   struct Close {

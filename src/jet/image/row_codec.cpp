@@ -1,3 +1,4 @@
+// Fields between the file's form and the image's: the one place that knows both.
 #include "jet/image/row_codec.h"
 
 #include <cmath>
@@ -38,45 +39,22 @@ void checkSize(const file::TableDefinition& table, const file::Column& column, s
                          "Valore di lunghezza errata - tabella " + table.name + " - campo " + column.name);
 }
 
-/// Where a decoded value goes: a parameter of a statement, or the result of a virtual table.
-struct BindTarget {
-  sqlite3_stmt* statement;
-  int parameter;
-  void null() { sqlite3_bind_null(statement, parameter); }
-  void integer(std::int64_t v) { sqlite3_bind_int64(statement, parameter, v); }
-  void real(double v) { sqlite3_bind_double(statement, parameter, v); }
-  void text(const std::string& v) {
+/// A parameter for one run of a statement: the text and the bytes stand until then, and are not copied.
+struct PassingParameter : Parameter {
+  void text(std::string_view v) const {
     requireBound(statement,
-                 sqlite3_bind_text64(statement, parameter, v.data(), v.size(), SQLITE_STATIC, SQLITE_UTF8));
+                 sqlite3_bind_text64(statement, number, v.data(), v.size(), SQLITE_STATIC, SQLITE_UTF8));
   }
-  void blob(std::span<const std::byte> v) {
-    if (v.empty())
-      sqlite3_bind_zeroblob(statement, parameter, 0);
-    else
-      requireBound(statement, sqlite3_bind_blob64(statement, parameter, v.data(), v.size(), SQLITE_STATIC));
-  }
-};
-
-struct ResultTarget {
-  sqlite3_context* context;
-  void null() { sqlite3_result_null(context); }
-  void integer(std::int64_t v) { sqlite3_result_int64(context, v); }
-  void real(double v) { sqlite3_result_double(context, v); }
-  void text(const std::string& v) {
-    sqlite3_result_text64(context, v.data(), v.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-  }
-  void blob(std::span<const std::byte> v) {
-    if (v.empty())
-      sqlite3_result_zeroblob(context, 0);
-    else
-      sqlite3_result_blob64(context, v.data(), v.size(), SQLITE_TRANSIENT);
+  void bytes(std::span<const std::byte> v) const {
+    if (v.empty()) return Parameter::bytes(v);
+    requireBound(statement, sqlite3_bind_blob64(statement, number, v.data(), v.size(), SQLITE_STATIC));
   }
 };
 
 /// What is no number would become a Null in SQLite: it keeps its bytes instead.
 template <typename Target>
 void giveReal(Target target, double value, std::span<const std::byte> bytes) {
-  if (std::isnan(value)) return target.blob(bytes);
+  if (std::isnan(value)) return target.bytes(bytes);
   target.real(value);
 }
 
@@ -113,7 +91,7 @@ void give(Target target, const file::Header& header, const file::TableDefinition
     case ColumnType::Ole:
     case ColumnType::Guid:
     case ColumnType::Raw:
-      return target.blob(field.bytes);
+      return target.bytes(field.bytes);
   }
 }
 
@@ -132,14 +110,9 @@ T narrowed(std::int64_t value, const file::TableDefinition& table, const file::C
 
 /// A number, or what is kept of one that is none.
 template <typename Real>
-Real realOf(sqlite3_stmt* statement, int column) {
-  Real value;
-  if (sqlite3_column_type(statement, column) == SQLITE_BLOB &&
-      sqlite3_column_bytes(statement, column) == sizeof value) {
-    std::memcpy(&value, sqlite3_column_blob(statement, column), sizeof value);
-    return value;
-  }
-  return static_cast<Real>(sqlite3_column_double(statement, column));
+Real realOf(const RowColumn& source) {
+  if (source.storage() != Storage::Bytes) return static_cast<Real>(source.real());
+  return source.bytes().size() == sizeof(Real) ? load<Real>(source.bytes()) : Real{};
 }
 
 }  // namespace
@@ -169,12 +142,12 @@ const char* columnDeclaration(ColumnType type) {
 
 void FieldBinder::bind(sqlite3_stmt* statement, const file::Row& row) {
   for (std::size_t i = 0; i < table_.columns.size(); ++i)
-    give(BindTarget{statement, static_cast<int>(i + 1)}, header_, table_, table_.columns[i], row[i],
+    give(PassingParameter{{statement, static_cast<int>(i + 1)}}, header_, table_, table_.columns[i], row[i],
          texts_[i]);
 }
 
 void FieldBinder::result(sqlite3_context* context, const file::Row& row, std::size_t column) {
-  give(ResultTarget{context}, header_, table_, table_.columns[column], row[column], texts_[column]);
+  give(Result{context}, header_, table_, table_.columns[column], row[column], texts_[column]);
 }
 
 ImageRows::ImageRows(const Connection& connection, file::TableDefinition table)
@@ -194,46 +167,41 @@ bool ImageRows::next(file::Row& row) {
 
 file::FieldBytes ImageRows::encode(std::size_t index) {
   const auto& column = table_.columns[index];
-  const int at = static_cast<int>(index);
-  sqlite3_stmt* statement = statement_.handle();
+  const RowColumn source = statement_.column(static_cast<int>(index));
   auto& buffer = buffers_[index];
   if (column.type == ColumnType::Boolean) {
-    store(buffer, static_cast<std::uint8_t>(sqlite3_column_int64(statement, at) != 0 ? 1 : 0));
+    store(buffer, static_cast<std::uint8_t>(source.integer() != 0 ? 1 : 0));
     return {false, buffer};
   }
-  if (statement_.null(at)) return {};
-  const auto text = [&] {
-    const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(statement, at));
-    return std::string_view(data, static_cast<std::size_t>(sqlite3_column_bytes(statement, at)));
-  };
+  if (source.storage() == Storage::Null) return {};
   switch (column.type) {
     case ColumnType::Byte:
-      store(buffer, narrowed<std::uint8_t>(statement_.integer(at), table_, column));
+      store(buffer, narrowed<std::uint8_t>(source.integer(), table_, column));
       break;
     case ColumnType::Integer:
-      store(buffer, narrowed<std::int16_t>(statement_.integer(at), table_, column));
+      store(buffer, narrowed<std::int16_t>(source.integer(), table_, column));
       break;
     case ColumnType::Long:
-      store(buffer, narrowed<std::int32_t>(statement_.integer(at), table_, column));
+      store(buffer, narrowed<std::int32_t>(source.integer(), table_, column));
       break;
     case ColumnType::Currency:
-      store(buffer, statement_.integer(at));
+      store(buffer, source.integer());
       break;
     case ColumnType::Single:
-      store(buffer, realOf<float>(statement, at));
+      store(buffer, realOf<float>(source));
       break;
     case ColumnType::Double:
     case ColumnType::Date:
-      store(buffer, realOf<double>(statement, at));
+      store(buffer, realOf<double>(source));
       break;
     case ColumnType::Numeric:
       buffer.resize(17);
-      decimalToBytes(parseDecimal(text(), column.scale, DecimalFieldDigits),
+      decimalToBytes(parseDecimal(source.text(), column.scale, DecimalFieldDigits),
                      std::span<std::byte, 17>(buffer.data(), 17));
       break;
     case ColumnType::Text:
     case ColumnType::Memo: {
-      const auto value = text();
+      const auto value = source.text();
       const bool compress = column.type == ColumnType::Text ? column.extraFlags & file::Column::Compressed
                                                             : value.size() <= CompressedMemoLength;
       buffer.clear();
@@ -241,16 +209,11 @@ file::FieldBytes ImageRows::encode(std::size_t index) {
       break;
     }
     default: {
-      const auto* data = static_cast<const std::byte*>(sqlite3_column_blob(statement, at));
-      buffer.assign(data, data + sqlite3_column_bytes(statement, at));
+      const auto value = source.bytes();
+      buffer.assign(value.begin(), value.end());
     }
   }
   return {false, buffer};
-}
-
-double realValue(sqlite3_stmt* statement, int column) {
-  if (sqlite3_column_type(statement, column) == SQLITE_BLOB) return std::numeric_limits<double>::quiet_NaN();
-  return sqlite3_column_double(statement, column);
 }
 
 std::string tableName(std::uint32_t page) {

@@ -46,8 +46,6 @@ class ImageRows : public file::RowSource {
   std::vector<std::vector<std::byte>> buffers_;
 };
 
-/// A Single, Double or Date of the image; NaN for the bytes of what is no number.
-double realValue(sqlite3_stmt* statement, int column);
 /// "t<page>", the table's name in the image.
 std::string tableName(std::uint32_t page);
 /// "c<number>"

@@ -1,9 +1,6 @@
-#include <algorithm>
+// Conversions between types: what an expression converts to, and what a column keeps.
 #include <array>
 
-#include "jet/file/text/text.h"
-#include "jet/image/decimal.h"
-#include "jet/sql/decimal.h"
 #include "jet/sql/function_support.h"
 #include "jet/sql/syntax_error.h"
 
@@ -49,30 +46,7 @@ void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
   const auto& pair = *static_cast<const Pair*>(sqlite3_user_data(context));
   if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return sqlite3_result_null(context);
   guard(context, pair, TypesDiffer,
-        [&] { returnValue(context, readValue(arguments[0], pair.from), pair.to); });
-}
-
-void checkLength(const Variant& value, Type type, std::size_t limit) {
-  constexpr int fieldTooSmall = FieldTooSmall;
-  const auto* bytes = std::get_if<runtime::Bytes>(&value.value());
-  const std::size_t length = bytes ? bytes->size() : isText(type) ? file::utf16Length(value.toText()) : 0;
-  if (length > limit) {
-    throw runtime::Error(fieldTooSmall, source::Field,
-                         "Il campo è troppo piccolo per i dati: " + std::to_string(length) + " invece di " +
-                             std::to_string(limit));
-  }
-}
-
-/// Rounded to the column's scale; error 6 where its digits do not hold the number.
-void storeDecimal(sqlite3_context* context, sqlite3_value* value, Type from, int precision, int scale) {
-  const std::string digits = image::decimalText(toDecimal(readValue(value, from)));
-  const runtime::Decimal number = image::parseDecimal(digits, static_cast<std::uint8_t>(scale));
-  const std::string text = image::decimalText(number);
-  const auto count = std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; });
-  if (count - (text.starts_with("0.") || text.starts_with("-0.")) > precision) {
-    throw runtime::languageError(runtime::Overflow);
-  }
-  returnText(context, text);
+        [&] { encodeValue(image::Result{context}, decodeValue(image::Argument{arguments[0]}, pair.from), pair.to); });
 }
 
 /// jet_<from>_into_<to>(value[, size | precision, scale]): what a column keeps of an assigned value.
@@ -82,20 +56,16 @@ void store(sqlite3_context* context, int count, sqlite3_value** arguments) {
   if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
     return pair.to == Type::Boolean ? sqlite3_result_int(context, 0) : sqlite3_result_null(context);
   }
+  ColumnRule rule{pair.to};
+  if (count == 2) rule.size = static_cast<std::size_t>(sqlite3_value_int(arguments[1]));
+  if (count == 3) rule.precision = sqlite3_value_int(arguments[1]), rule.scale = sqlite3_value_int(arguments[2]);
   // A text never has more characters than bytes: most need not be read, however many rows there are.
   if (isText(pair.from) && isText(pair.to) && count == 2 &&
       sqlite3_value_bytes(arguments[0]) <= sqlite3_value_int(arguments[1])) {
     return sqlite3_result_value(context, arguments[0]);
   }
   guard(context, pair, conversionFailed, [&] {
-    if (pair.to == Type::Decimal && count == 3) {
-      return storeDecimal(context, arguments[0], pair.from, sqlite3_value_int(arguments[1]),
-                          sqlite3_value_int(arguments[2]));
-    }
-    Variant value = readValue(arguments[0], pair.from);
-    if (isText(pair.to) && value.kind() == Variant::Kind::Boolean) value = value.toBoolean() ? "-1" : "0";
-    if (count == 2) checkLength(value, pair.to, static_cast<std::size_t>(sqlite3_value_int(arguments[1])));
-    returnValue(context, value, pair.to);
+    encodeAssigned(image::Result{context}, decodeValue(image::Argument{arguments[0]}, pair.from), rule);
   });
 }
 

@@ -1,3 +1,4 @@
+// Domain aggregates: a statement run inside a statement.
 #include <memory>
 
 #include "jet/file/errors.h"
@@ -11,12 +12,11 @@ namespace {
 
 /// The value as a statement of the wanted type has it; a Variant has no money and no decimals.
 void returnAs(sqlite3_context* context, sqlite3_stmt* row, Type type, Type wanted) {
-  sqlite3_value* value = sqlite3_column_value(row, 0);
+  const image::RowColumn source{row, 0};
   const bool asDouble = wanted == Type::Variant && (type == Type::Currency || type == Type::Decimal);
-  if (sqlite3_column_type(row, 0) == SQLITE_NULL) return sqlite3_result_null(context);
-  if (asDouble) return sqlite3_result_double(context, readValue(value, type).toDouble());
-  if (type == wanted || wanted == Type::Variant) return sqlite3_result_value(context, value);
-  returnValue(context, readValue(value, type), wanted);
+  const bool asItIs = type == wanted || (wanted == Type::Variant && !asDouble);
+  if (asItIs) return image::copyValue(source, image::Result{context});
+  encodeValue(image::Result{context}, decodeValue(source, type), wanted);
 }
 
 /// (type of the result, aggregate, expression, domain[, criteria])

@@ -6,16 +6,12 @@
 #include <string_view>
 
 #include "jet/sql/type.h"
+#include "jet/sql/value_codec.h"
 #include "runtime/error.h"
 #include "runtime/variant.h"
 
 /// What the SQLite functions of this folder have in common.
 namespace jet::sql {
-
-/// Value of static type `type` as the image keeps it. A Guid is its text.
-runtime::Variant readValue(sqlite3_value* value, Type type);
-/// `value` as `type`, in the image's form, as the result. Error 6 or 13 where it can't be that.
-void returnValue(sqlite3_context* context, const runtime::Variant& value, Type type);
 
 /// The type that a statement tells a function of by its number.
 inline Type typeArgument(sqlite3_value* value) {

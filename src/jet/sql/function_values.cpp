@@ -1,3 +1,4 @@
+// Functions that look at a value: formats, kinds, digits, choices.
 #include "jet/sql/function_support.h"
 #include "runtime/format.h"
 #include "runtime/inspection.h"
@@ -11,8 +12,7 @@ using runtime::Variant;
 
 /// The value of two arguments: the number of its type, and it.
 Variant typedValue(sqlite3_value** arguments) {
-  const bool null = sqlite3_value_type(arguments[1]) == SQLITE_NULL;
-  return readValue(arguments[1], null ? Type::Null : typeArgument(arguments[0]));
+  return decodeValue(image::Argument{arguments[1]}, typeArgument(arguments[0]));
 }
 
 /// (type, value[, pattern[, first day[, first week]]])

@@ -1,3 +1,4 @@
+// Registration of the functions that statements call, and what they share.
 #include "jet/sql/functions.h"
 
 #include "jet/sql/function_support.h"
@@ -21,12 +22,11 @@ void returnError(sqlite3_context* context, const runtime::Error& error) {
 }
 
 std::string_view textOf(sqlite3_value* value) {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-  return {text ? text : "", static_cast<std::size_t>(sqlite3_value_bytes(value))};
+  return image::Argument{value}.text();
 }
 
 void returnText(sqlite3_context* context, std::string_view text) {
-  sqlite3_result_text64(context, text.data() ? text.data() : "", text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+  image::Result{context}.text(text);
 }
 
 void returnLong(sqlite3_context* context, std::int64_t value) {

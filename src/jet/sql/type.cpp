@@ -1,60 +1,60 @@
+// The types of expressions beside those of columns.
 #include "jet/sql/type.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <array>
 
 namespace jet::sql {
 
+namespace {
+
+struct TypeRow {
+  Type type;
+  const char* name;
+  file::ColumnType column;
+};
+
+/// In the order of Type; from Boolean on each has a column type of its own.
+constexpr std::array<TypeRow, typeCount> Types = {{
+    {Type::Variant, "Variant", file::ColumnType::Text},
+    {Type::Null, "Null", file::ColumnType::Text},
+    {Type::Boolean, "Boolean", file::ColumnType::Boolean},
+    {Type::Byte, "Byte", file::ColumnType::Byte},
+    {Type::Integer, "Integer", file::ColumnType::Integer},
+    {Type::Long, "Long", file::ColumnType::Long},
+    {Type::Currency, "Currency", file::ColumnType::Currency},
+    {Type::Single, "Single", file::ColumnType::Single},
+    {Type::Double, "Double", file::ColumnType::Double},
+    {Type::Date, "Date", file::ColumnType::Date},
+    {Type::Decimal, "Decimal", file::ColumnType::Numeric},
+    {Type::Text, "Text", file::ColumnType::Text},
+    {Type::Memo, "Memo", file::ColumnType::Memo},
+    {Type::Guid, "Guid", file::ColumnType::Guid},
+    {Type::Binary, "Binary", file::ColumnType::Binary},
+    {Type::Ole, "Ole", file::ColumnType::Ole},
+}};
+
+constexpr bool isInOrder() {
+  for (unsigned i = 0; i < typeCount; ++i)
+    if (Types[i].type != static_cast<Type>(i)) return false;
+  return true;
+}
+static_assert(isInOrder());
+
+}  // namespace
+
 Type typeOf(file::ColumnType column) {
-  using file::ColumnType;
-  switch (column) {
-    case ColumnType::Boolean:
-      return Type::Boolean;
-    case ColumnType::Byte:
-      return Type::Byte;
-    case ColumnType::Integer:
-      return Type::Integer;
-    case ColumnType::Long:
-      return Type::Long;
-    case ColumnType::Currency:
-      return Type::Currency;
-    case ColumnType::Single:
-      return Type::Single;
-    case ColumnType::Double:
-      return Type::Double;
-    case ColumnType::Date:
-      return Type::Date;
-    case ColumnType::Text:
-      return Type::Text;
-    case ColumnType::Memo:
-      return Type::Memo;
-    case ColumnType::Guid:
-      return Type::Guid;
-    case ColumnType::Numeric:
-      return Type::Decimal;
-    case ColumnType::Ole:
-      return Type::Ole;
-    case ColumnType::Binary:
-    case ColumnType::Raw:
-      return Type::Binary;
-  }
-  return Type::Binary;
+  const auto* own = std::find_if(Types.begin() + static_cast<int>(Type::Boolean), Types.end(),
+                                 [column](const TypeRow& row) { return row.column == column; });
+  return own != Types.end() ? own->type : Type::Binary;  // the engine's own block of bytes
 }
 
 file::ColumnType columnTypeOf(Type type) {
-  using file::ColumnType;
-  constexpr ColumnType columns[typeCount] = {
-      ColumnType::Text,    ColumnType::Text, ColumnType::Boolean,  ColumnType::Byte,
-      ColumnType::Integer, ColumnType::Long, ColumnType::Currency, ColumnType::Single,
-      ColumnType::Double,  ColumnType::Date, ColumnType::Numeric,  ColumnType::Text,
-      ColumnType::Memo,    ColumnType::Guid, ColumnType::Binary,   ColumnType::Ole};
-  return columns[static_cast<std::size_t>(type)];
+  return Types[static_cast<std::size_t>(type)].column;
 }
 
 const char* typeName(Type type) {
-  static constexpr const char* names[typeCount] = {"Variant",  "Null",   "Boolean", "Byte", "Integer", "Long",
-                                                   "Currency", "Single", "Double",  "Date", "Decimal", "Text",
-                                                   "Memo",     "Guid",   "Binary",  "Ole"};
-  return names[static_cast<std::size_t>(type)];
+  return Types[static_cast<std::size_t>(type)].name;
 }
 
 }  // namespace jet::sql

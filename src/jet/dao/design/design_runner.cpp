@@ -238,7 +238,7 @@ std::int64_t DesignRunner::run(const sql::SelectInto& into, const Answers& answe
   insert.run();
   for (std::size_t i = 0; i < into.rows.columns.size(); ++i)
     if (into.rows.columns[i].type == sql::Type::Long) requireLongs(page, image_.definition(page).columns[i]);
-  const auto count = sqlite3_changes64(image_.connection().handle());
+  const auto count = image_.connection().changes();
   image_.markChanged(page);
   whole.keep();
   return count;

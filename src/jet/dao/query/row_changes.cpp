@@ -159,7 +159,7 @@ std::int64_t RowChanges::runWhole(const Answers& answers) {
   if (!whole_) whole_ = image_.connection().prepare(plan_.sql);
   bindAnswers(whole_, plan_, answers);
   whole_.run();
-  const std::int64_t affected = sqlite3_changes64(image_.connection().handle());
+  const std::int64_t affected = image_.connection().changes();
   if (affected > 0) noteChange();
   return affected;
 }
@@ -176,12 +176,12 @@ std::int64_t RowChanges::runRowByRow(const Answers& answers, bool failOnError) {
   }
   std::int64_t affected = 0;
   while (rows.next()) {
-    const auto before = sqlite3_total_changes64(connection.handle());
+    const auto before = connection.totalChanges();
     connection.execute("SAVEPOINT jet_row");
     try {
       for (auto& step : steps) step.run();
       connection.execute("RELEASE jet_row");
-      affected += sqlite3_total_changes64(connection.handle()) > before;
+      affected += connection.totalChanges() > before;
     } catch (const runtime::Error& error) {
       if (failOnError || !refusesRow(error.number())) throw;
       connection.execute("ROLLBACK TO jet_row; RELEASE jet_row");

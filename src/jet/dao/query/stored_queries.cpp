@@ -1,19 +1,14 @@
+// Stored queries: objects of the catalogue, and their rows in MSysQueries.
 #include "jet/dao/query/stored_queries.h"
 
 #include <algorithm>
-
-#include "jet/image/catalogue_rows.h"
 
 namespace jet::dao {
 
 namespace {
 
-// Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c4 DateCreate, c5 DateUpdate, c7 Flags.
-// Of MSysQueries (t4): c0 ObjectId, c1 Attribute, c2 Order, c3 Name1, c4 Name2, c5 Expression, c6 Flag,
+// Columns of MSysQueries (t4): c0 ObjectId, c1 Attribute, c2 Order, c3 Name1, c4 Name2, c5 Expression, c6 Flag,
 // c7 LvExtra, which the older format doesn't have.
-constexpr char Objects[] = "SELECT c0, c2, c7, c4, c5 FROM t2 WHERE c3 = 5 ORDER BY rowid";
-constexpr char ObjectByName[] = "SELECT c0, c2, c7, c4, c5 FROM t2 WHERE c1 = ?2 AND c2 = ?1 AND c3 = 5";
-constexpr char ObjectById[] = "SELECT c0, c2, c7, c4, c5 FROM t2 WHERE c0 = ?1 AND c3 = 5";
 constexpr char RowsOf[] = "SELECT c1, c2, c3, c4, c5, c6 FROM t4 WHERE c0 = ?1";
 constexpr char RowsWithSizes[] = "SELECT c1, c2, c3, c4, c5, c6, c7 FROM t4 WHERE c0 = ?1";
 constexpr char InsertRow[] =
@@ -22,7 +17,7 @@ constexpr char InsertRow[] =
 constexpr char DeleteKnownRows[] = "DELETE FROM t4 WHERE c0 = ?1 AND (c1 <= 11 OR c1 = 255)";
 constexpr char DeleteRows[] = "DELETE FROM t4 WHERE c0 = ?1";
 
-constexpr std::uint16_t ObjectIdColumn = 0, ParentIdColumn = 1, SizeColumn = 7;
+constexpr std::uint16_t ObjectIdColumn = 0, SizeColumn = 7;
 
 using image::signedId;
 
@@ -30,21 +25,14 @@ std::optional<std::string> text(const image::Statement& row, int column) {
   return row.null(column) ? std::nullopt : std::optional(row.text(column));
 }
 
-QueryObject object(const image::Statement& row) {
-  const auto date = [&](int column) { return runtime::Date{sqlite3_column_double(row.handle(), column)}; };
-  return {static_cast<std::uint32_t>(row.integer(0)), row.text(1), static_cast<std::uint32_t>(row.integer(2)),
-          date(3), date(4)};
-}
-
-std::optional<QueryObject> oneObject(image::Statement rows) {
-  return rows.step() ? std::optional(object(rows)) : std::nullopt;
+std::optional<QueryObject> queryObject(std::optional<image::DatedObject> object) {
+  return object ? std::optional(QueryObject{std::move(*object)}) : std::nullopt;
 }
 
 /// Big endian.
 std::uint32_t orderOf(const image::Statement& row, int column) {
-  const auto* data = static_cast<const unsigned char*>(sqlite3_column_blob(row.handle(), column));
   std::uint32_t order = 0;
-  for (int i = 0; i < sqlite3_column_bytes(row.handle(), column); ++i) order = order << 8 | data[i];
+  for (const std::byte byte : row.bytes(column)) order = order << 8 | std::to_integer<unsigned>(byte);
   return order;
 }
 
@@ -69,7 +57,7 @@ void insertRow(image::Statement& insert, std::uint32_t id, const sql::QueryRow& 
       static_cast<unsigned char>(row.order >> 8), static_cast<unsigned char>(row.order)};
   insert.bind(1, signedId(id));
   insert.bind(2, std::int64_t{row.attribute});
-  sqlite3_bind_blob(insert.handle(), 3, order, sizeof order, SQLITE_TRANSIENT);
+  insert.bind(3, std::as_bytes(std::span(order)));
   bindOptional(insert, 4, row.name1);
   bindOptional(insert, 5, row.name2);
   bindOptional(insert, 6, row.expression);
@@ -105,23 +93,20 @@ sql::StoredQuery passThrough(sql::StoredQuery query, const std::string& newText)
 std::vector<QueryObject> queryObjects(image::Image& image) {
   image.prepareToRead(file::CatalogueTable, {});
   std::vector<QueryObject> objects;
-  for (auto rows = image.connection().prepare(Objects); rows.step();) objects.push_back(object(rows));
+  for (auto& object : image::readObjects(image.connection(), file::ObjectType::Query))
+    objects.push_back({std::move(object)});
   return objects;
 }
 
 std::optional<QueryObject> findQueryObject(image::Image& image, std::string_view name) {
-  image.prepareToRead(file::CatalogueTable, {ParentIdColumn});
-  auto rows = image.connection().prepare(ObjectByName);
-  rows.bind(1, name);
-  rows.bind(2, std::int64_t{file::TablesContainer});
-  return oneObject(std::move(rows));
+  image.prepareToRead(file::CatalogueTable, {image::ObjectParentColumn});
+  return queryObject(
+      image::readObject(image.connection(), file::ObjectType::Query, file::TablesContainer, name));
 }
 
 std::optional<QueryObject> findQueryObject(image::Image& image, std::uint32_t id) {
   image.prepareToRead(file::CatalogueTable, {});
-  auto rows = image.connection().prepare(ObjectById);
-  rows.bind(1, signedId(id));
-  return oneObject(std::move(rows));
+  return queryObject(image::readObject(image.connection(), file::ObjectType::Query, id));
 }
 
 sql::StoredQuery readQuery(image::Image& image, const QueryObject& object) {

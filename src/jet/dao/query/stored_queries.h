@@ -6,19 +6,14 @@
 #include <string_view>
 #include <vector>
 
+#include "jet/image/catalogue_rows.h"
 #include "jet/image/image.h"
 #include "jet/sql/stored/stored_query.h"
-#include "runtime/date.h"
 
 /// The stored queries of an image: rows of the catalogue and of MSysQueries.
 namespace jet::dao {
 
-struct QueryObject {
-  std::uint32_t id = 0;
-  std::string name;
-  std::uint32_t flags = 0;
-  runtime::Date created, updated;
-
+struct QueryObject : image::DatedObject {
   sql::QueryKind kind() const { return static_cast<sql::QueryKind>(flags & sql::QueryKindBits); }
 };
 

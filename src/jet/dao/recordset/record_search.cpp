@@ -38,10 +38,8 @@ RecordSearch::RecordSearch(std::shared_ptr<Session> session, const std::vector<F
 RecordSearch::~RecordSearch() {
   last_ = {};
   if (session_->released()) return;
-  // What can't be dropped goes with the connection.
-  const std::string drop =
-      "DROP VIEW IF EXISTS temp." + image::tableName(table_.page) + "; DROP TABLE IF EXISTS " + scratch();
-  sqlite3_exec(session_->image().connection().handle(), drop.c_str(), nullptr, nullptr, nullptr);
+  session_->image().connection().dropIfPossible("DROP VIEW IF EXISTS temp." + image::tableName(table_.page) +
+                                                "; DROP TABLE IF EXISTS " + scratch());
 }
 
 std::string RecordSearch::scratch() const {

@@ -94,11 +94,7 @@ const runtime::Variant* RowEditor::value(std::size_t field) const {
 
 runtime::Variant RowEditor::converted(std::size_t field, const runtime::Variant& value) {
   const auto& info = fields_[field];
-  if (!echo_) echo_ = session_->image().connection().prepare("SELECT ?1");
-  echo_.reset();
-  bindField(echo_, 1, value, column(*info.part, info.column), info.sourceTable);
-  echo_.step();
-  return fromImage(echo_, 0, info.type);
+  return asStored(value, column(*info.part, info.column), info.sourceTable);
 }
 
 void RowEditor::set(std::size_t field, const runtime::Variant& value) {
@@ -201,7 +197,7 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
   statement.run();
   image.markChanged(pages_[part]);
   mode_ = dbEditNone;
-  return {part, sqlite3_last_insert_rowid(image.connection().handle())};
+  return {part, image.connection().lastInsertedRow()};
 }
 
 void RowEditor::remove(std::size_t part, std::int64_t rowid) {

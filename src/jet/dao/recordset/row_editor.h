@@ -61,7 +61,6 @@ class RowEditor {
   std::vector<std::optional<Edit>> edits_;  // by field
   std::optional<std::vector<Default>> defaults_;
   std::optional<std::uint64_t> addDesign_;  // Image::generation() when add() was last made ready
-  image::Statement echo_;
   std::string lastSql_;
   std::uint64_t lastDesign_ = 0;  // Image::generation() when it was made ready
   image::Statement last_;

@@ -14,9 +14,7 @@ SnapshotRecordset::Rows::Rows(std::shared_ptr<Session> owner, std::string column
 
 SnapshotRecordset::Rows::~Rows() {
   if (session->released()) return;
-  // A scratch table that can't be dropped goes with the connection.
-  sqlite3_exec(session->image().connection().handle(), ("DROP TABLE IF EXISTS " + table).c_str(), nullptr,
-               nullptr, nullptr);
+  session->image().connection().dropIfPossible("DROP TABLE IF EXISTS " + table);
 }
 
 void SnapshotRecordset::Rows::count() {

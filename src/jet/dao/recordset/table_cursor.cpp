@@ -47,9 +47,9 @@ std::optional<std::int64_t> TableCursor::run(const std::string& condition, std::
     sql += image::columnName(columns_[i].column) + (columns_[i].ascending == forward ? ", " : " DESC, ");
   auto& statement = prepared(sql + (forward ? "rowid LIMIT 1" : "rowid DESC LIMIT 1"));
   for (std::size_t i = 0; i < key_.size(); ++i)
-    if (key_[i]) sqlite3_bind_value(statement.handle(), static_cast<int>(i + 1), key_[i].get());
+    image::copyValue(key_[i], statement.parameter(static_cast<int>(i + 1)));
   const int place = static_cast<int>(columns_.size() + 1);
-  if (sqlite3_bind_parameter_count(statement.handle()) >= place) statement.bind(place, rowid_);
+  if (statement.parameters() >= place) statement.bind(place, rowid_);
   std::optional<std::int64_t> found;
   if (statement.step()) found = statement.integer(0);
   statement.reset();
@@ -73,8 +73,7 @@ std::optional<std::int64_t> TableCursor::beyond(std::size_t columns, bool forwar
   const std::string name = image::columnName(columns_[at].column);
   const std::string same = equals(at);
   const bool up = columns_[at].ascending == forward;
-  const bool null = !key_[at] || sqlite3_value_type(key_[at].get()) == SQLITE_NULL;
-  if (null) return up ? run(same + name + " IS NOT NULL", at, forward) : std::nullopt;
+  if (key_[at].isNull()) return up ? run(same + name + " IS NOT NULL", at, forward) : std::nullopt;
   const std::string parameter = " ?" + std::to_string(columns);
   if (const auto found = run(same + name + (up ? " >" : " <") + parameter, at, forward)) return found;
   return up ? std::nullopt : run(same + name + " IS NULL", columns, forward);
@@ -100,15 +99,12 @@ std::optional<std::int64_t> TableCursor::seek(std::string_view comparison,
     throw runtime::Error(InvalidArgument, source::Recordset,
                          "Argomento non valido per Seek: " + std::string(comparison));
   prepareTable();
-  auto echo = image_.connection().prepare("SELECT ?1");
   const auto& table = image_.definition(page_);
   for (std::size_t i = 0; i < columns_.size(); ++i) {
-    key_[i].reset();
+    key_[i].null();
     if (i >= keys.size()) continue;
-    echo.reset();
-    bindValue(echo, 1, keys[i], sql::typeOf(table.columns[*table.findNumber(columns_[i].column)].type));
-    echo.step();
-    key_[i].reset(sqlite3_value_dup(sqlite3_column_value(echo.handle(), 0)));
+    const auto& column = table.columns[*table.findNumber(columns_[i].column)];
+    key_[i] = storedValue(keys[i], sql::typeOf(column.type));
   }
   const bool forward = sign != '<';
   if (orEqual) {
@@ -134,7 +130,7 @@ void TableCursor::readKey() {
   statement.bind(1, rowid_);
   if (statement.step())
     for (std::size_t i = 0; i < key_.size(); ++i)
-      key_[i].reset(sqlite3_value_dup(sqlite3_column_value(statement.handle(), static_cast<int>(i))));
+      image::copyValue(statement.column(static_cast<int>(i)), key_[i]);
   statement.reset();
 }
 

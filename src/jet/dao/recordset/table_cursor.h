@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -35,11 +34,6 @@ class TableCursor {
   void standOn(std::int64_t rowid);
 
  private:
-  struct ReleaseValue {
-    void operator()(sqlite3_value* value) const { sqlite3_value_free(value); }
-  };
-  using Value = std::unique_ptr<sqlite3_value, ReleaseValue>;
-
   std::optional<std::int64_t> edge(bool forward);
   std::optional<std::int64_t> neighbour(bool forward);
   std::optional<std::int64_t> equal(std::size_t columns, bool forward);
@@ -56,7 +50,7 @@ class TableCursor {
   std::vector<file::IndexColumn> columns_;
   std::int64_t rowid_ = 0;
   std::optional<std::uint64_t> readyDesign_;  // Image::generation() when the table was made ready
-  std::vector<Value> key_;                    // of the row where it stands: values of columns_
+  std::vector<image::StoredValue> key_;       // of the row where it stands: values of columns_
   std::map<std::string, image::Statement> statements_;
 };
 

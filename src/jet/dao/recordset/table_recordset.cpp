@@ -105,7 +105,7 @@ std::int64_t TableRecordset::RecordCount() const {
   requireOpen();
   auto& image = session_->image();
   if (file_) return image.definition(page_).rows;
-  const std::int64_t changes = sqlite3_total_changes64(image.connection().handle());
+  const std::int64_t changes = image.connection().totalChanges();
   if (changes != countedChanges_) {
     image.prepareToRead(page_, {});
     auto query = image.connection().prepare("SELECT count(*) FROM " + image::tableName(page_));
