@@ -9,6 +9,7 @@
 #include "jet/file/properties.h"
 #include "jet/file/read/catalogue.h"
 #include "jet/image/connection.h"
+#include "jet/image/linked_table.h"
 #include "jet/image/relation_design.h"
 
 /// Rows of the system tables that tell of an object, changed in the image like any rows. The system tables
@@ -20,12 +21,25 @@ inline std::int64_t signedId(std::uint32_t id) {
   return static_cast<std::int32_t>(id);
 }
 
+/// Objects of this type in the order of the catalogue.
+std::vector<file::CatalogueObject> readObjects(const Connection& connection, file::ObjectType type);
+std::optional<file::CatalogueObject> readObject(const Connection& connection, std::string_view name,
+                                                std::uint32_t container);
+/// The lowest free id for an object without a page: they count upwards from the lowest negative number. One
+/// that a dropped object has left is taken first: a relation that is made anew leaves no gap.
+std::uint32_t freeObjectId(const Connection& connection);
 /// Adds an object with its permissions, as its container hands them down.
 void insertObject(const Connection& connection, const file::CatalogueObject& object);
 /// Removes an object and its permissions.
 void deleteObject(const Connection& connection, std::uint32_t id);
+void renameObject(const Connection& connection, std::uint32_t id, std::string_view newName);
+void setObjectFlags(const Connection& connection, std::uint32_t id, std::uint32_t flags);
 /// Sets the time of the object's last change of design.
 void touchObject(const Connection& connection, std::uint32_t id);
+
+/// What the object of a linked table leads to.
+std::optional<Link> readLink(const Connection& connection, std::uint32_t id);
+void writeLink(const Connection& connection, std::uint32_t id, const Link& link);
 
 /// The object's property block; empty if it has none.
 file::PropertyBlock readProperties(const Connection& connection, const file::Format& format,
