@@ -36,8 +36,8 @@ TEST(Columns, AddedOnesLeaveTheRowsInTheirPages) {
     image.addColumn(desk.page("t"), newColumn("lungo", ColumnType::Ole));
     image.addColumn(desk.page("fissa"), newColumn("testo", ColumnType::Text));
     image.moveColumn(desk.page("t"), "vero", 0);
-    EXPECT_FALSE(image.find("t")->rowsChanged);
-    EXPECT_EQ(image.find("t")->loaded, loadedBefore);
+    EXPECT_EQ(image.find("t")->unsaved, jet::image::Unsaved::Design);
+    EXPECT_EQ(image.find("t")->loaded(), loadedBefore);
     desk.reopen();
     EXPECT_EQ(desk.complaints(), "");
     EXPECT_EQ(desk.rows("SELECT * FROM t ORDER BY nome"),

@@ -56,7 +56,7 @@ class Desk {
   std::string loaded() {
     std::string names;
     for (const auto& table : image().tables())
-      if (table.loaded && table.flags == 0) names += (names.empty() ? "" : " ") + table.name;
+      if (table.loaded() && table.flags == 0) names += (names.empty() ? "" : " ") + table.name;
     return names;
   }
 

@@ -90,7 +90,7 @@ std::int64_t TableDef::RecordCount() const {
   const auto& table = stored();
   if (table.link) return -1;
   auto& image = session_->image();
-  if (!table.loaded) return image.definition(*page_).rows;
+  if (!table.loaded()) return image.definition(*page_).rows;
   auto query = image.connection().prepare("SELECT count(*) FROM " + image::tableName(*page_));
   query.step();
   return query.integer(0);

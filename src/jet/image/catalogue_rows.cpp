@@ -1,4 +1,4 @@
-// Rows of the system tables: objects, permissions, properties, relations.
+// The one place that knows the columns of the system tables, and how permissions are handed down.
 #include "jet/image/catalogue_rows.h"
 
 #include <array>
@@ -13,13 +13,16 @@ namespace {
 using Bytes = std::vector<std::byte>;
 
 // Columns of MSysObjects (t2): c0 Id, c1 ParentId, c2 Name, c3 Type, c4 DateCreate, c5 DateUpdate, c6 Owner,
-// c7 Flags, c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2 ACM, c3 FInheritable. Of MSysRelationships
-// (t5): c0 szRelationship, c1 grbit, c2 ccolumn, c3 icolumn, c4 szObject, c5 szColumn, c6 szReferencedObject,
-// c7 szReferencedColumn; "referenced" is the parent's side.
-constexpr char Objects[] = "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 ORDER BY rowid";
+// c7 Flags, c8 Database, c9 Connect, c10 ForeignName, c14 LvProp. Of MSysACEs (t3): c0 ObjectId, c1 SID, c2
+// ACM, c3 FInheritable. Of MSysRelationships (t5): c0 szRelationship, c1 grbit, c2 ccolumn, c3 icolumn, c4
+// szObject, c5 szColumn, c6 szReferencedObject, c7 szReferencedColumn; "referenced" is the parent's side.
+constexpr char ObjectsOfType[] = "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 ORDER BY rowid";
+constexpr char ObjectIn[] = "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c1 = ?1 AND c2 = ?2";
 constexpr char ObjectNamed[] =
     "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 AND c1 = ?2 AND c2 = ?3";
 constexpr char ObjectById[] = "SELECT c0, c1, c2, c3, c7, c4, c5 FROM t2 WHERE c3 = ?1 AND c0 = ?2";
+constexpr char ReadLink[] = "SELECT c8, c10, c9 FROM t2 WHERE c0 = ?1";
+constexpr char WriteLink[] = "UPDATE t2 SET c8 = ?2, c10 = ?3, c9 = ?4 WHERE c0 = ?1";
 constexpr char InsertObject[] =
     "INSERT INTO t2 (c0, c1, c2, c3, c4, c5, c6, c7) VALUES (?1, ?2, ?3, ?4, ?5, ?5, ?6, ?7)";
 constexpr char InsertPermission[] = "INSERT INTO t3 (c0, c1, c2, c3) VALUES (?1, ?2, ?3, 0)";
@@ -93,7 +96,7 @@ std::vector<Permission> inherited(const Connection& connection, std::uint32_t co
 
 std::vector<DatedObject> readObjects(const Connection& connection, file::ObjectType type) {
   std::vector<DatedObject> objects;
-  auto rows = connection.prepare(Objects);
+  auto rows = connection.prepare(ObjectsOfType);
   rows.bind(1, static_cast<std::int64_t>(type));
   while (rows.step()) objects.push_back(datedObject(rows));
   return objects;
@@ -113,6 +116,22 @@ std::optional<DatedObject> readObject(const Connection& connection, file::Object
   rows.bind(1, static_cast<std::int64_t>(type));
   rows.bind(2, signedId(id));
   return rows.step() ? std::optional(datedObject(rows)) : std::nullopt;
+}
+
+std::optional<DatedObject> readObject(const Connection& connection, std::string_view name,
+                                      std::uint32_t container) {
+  auto row = connection.prepare(ObjectIn);
+  row.bind(1, signedId(container));
+  row.bind(2, name);
+  if (!row.step()) return std::nullopt;
+  return datedObject(row);
+}
+
+std::uint32_t freeObjectId(const Connection& connection) {
+  auto query = connection.prepare("SELECT c0 FROM t2 WHERE c0 < 0 ORDER BY c0");
+  std::int64_t next = INT32_MIN;
+  while (query.step() && query.integer(0) <= next) next = query.integer(0) + 1;
+  return static_cast<std::uint32_t>(static_cast<std::int32_t>(next));
 }
 
 void insertObject(const Connection& connection, const file::CatalogueObject& object) {
@@ -144,10 +163,43 @@ void deleteObject(const Connection& connection, std::uint32_t id) {
   }
 }
 
+void renameObject(const Connection& connection, std::uint32_t id, std::string_view newName) {
+  auto update = connection.prepare("UPDATE t2 SET c2 = ?2 WHERE c0 = ?1");
+  update.bind(1, signedId(id));
+  update.bind(2, newName);
+  update.run();
+}
+
+void setObjectFlags(const Connection& connection, std::uint32_t id, std::uint32_t flags) {
+  auto update = connection.prepare("UPDATE t2 SET c7 = ?2 WHERE c0 = ?1");
+  update.bind(1, signedId(id));
+  update.bind(2, signedId(flags));
+  update.run();
+}
+
 void touchObject(const Connection& connection, std::uint32_t id) {
   auto update = connection.prepare("UPDATE t2 SET c5 = ?2 WHERE c0 = ?1");
   update.bind(1, signedId(id));
   update.bind(2, platform::clock().now().days);
+  update.run();
+}
+
+std::optional<Link> readLink(const Connection& connection, std::uint32_t id) {
+  auto query = connection.prepare(ReadLink);
+  query.bind(1, signedId(id));
+  if (!query.step()) return std::nullopt;
+  return Link{query.text(0), query.text(1), query.text(2)};
+}
+
+void writeLink(const Connection& connection, std::uint32_t id, const Link& link) {
+  auto update = connection.prepare(WriteLink);
+  update.bind(1, signedId(id));
+  update.bind(2, std::string_view(link.path));
+  update.bind(3, std::string_view(link.sourceTable));
+  if (link.connect.empty())
+    update.bindNull(4);
+  else
+    update.bind(4, std::string_view(link.connect));
   update.run();
 }
 

@@ -9,6 +9,7 @@
 #include "jet/file/properties.h"
 #include "jet/file/read/catalogue.h"
 #include "jet/image/connection.h"
+#include "jet/image/linked_table.h"
 #include "jet/image/relation_design.h"
 #include "runtime/variant.h"
 
@@ -32,13 +33,25 @@ std::vector<DatedObject> readObjects(const Connection& connection, file::ObjectT
 std::optional<DatedObject> readObject(const Connection& connection, file::ObjectType type,
                                       std::uint32_t container, std::string_view name);
 std::optional<DatedObject> readObject(const Connection& connection, file::ObjectType type, std::uint32_t id);
+/// The object of any type that has the name in this container.
+std::optional<DatedObject> readObject(const Connection& connection, std::string_view name,
+                                      std::uint32_t container);
 
+/// The lowest free id for an object without a page: they count upwards from the lowest negative number. One
+/// that a dropped object has left is taken first: a relation that is made anew leaves no gap.
+std::uint32_t freeObjectId(const Connection& connection);
 /// Adds an object with its permissions, as its container hands them down.
 void insertObject(const Connection& connection, const file::CatalogueObject& object);
 /// Removes an object and its permissions.
 void deleteObject(const Connection& connection, std::uint32_t id);
+void renameObject(const Connection& connection, std::uint32_t id, std::string_view newName);
+void setObjectFlags(const Connection& connection, std::uint32_t id, std::uint32_t flags);
 /// Sets the time of the object's last change of design.
 void touchObject(const Connection& connection, std::uint32_t id);
+
+/// What the object of a linked table leads to.
+std::optional<Link> readLink(const Connection& connection, std::uint32_t id);
+void writeLink(const Connection& connection, std::uint32_t id, const Link& link);
 
 /// The object's property block; empty if it has none.
 file::PropertyBlock readProperties(const Connection& connection, const file::Format& format,

@@ -1,11 +1,13 @@
 // Columns of existing tables: added, replaced, resized, renamed, moved and dropped.
+#include "jet/image/column_changes.h"
+
 #include <algorithm>
 
 #include "jet/file/errors.h"
 #include "jet/file/text/text.h"
 #include "jet/image/catalogue_rows.h"
-#include "jet/image/image.h"
 #include "jet/image/row_codec.h"
+#include "jet/image/transaction.h"
 
 namespace jet::image {
 
@@ -49,36 +51,44 @@ std::vector<std::size_t> moveIndexes(file::TableDefinition& design, const Column
 
 }  // namespace
 
-std::uint16_t Image::addColumn(std::uint32_t page, Column column) {
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+ColumnChanges::ColumnChanges(Tables& tables, Rows& rows, Catalogue& catalogue, AutoNumbers& autoNumbers,
+                             TableChanges& tableChanges)
+    : tables_(tables),
+      rows_(rows),
+      catalogue_(catalogue),
+      autoNumbers_(autoNumbers),
+      tableChanges_(tableChanges),
+      connection_(tables.connection()) {}
+
+std::uint16_t ColumnChanges::add(std::uint32_t page, Column column) {
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   image::addColumn(design, std::move(column));
   const Column added = design.columns.back();
   const bool firstVariable = !added.fixed() && added.type != ColumnType::Boolean && added.slot == 0;
 
-  Transaction whole(*this);
-  dropScan(changed);
-  dropTriggers(changed);
+  Transaction whole(tables_);
+  rows_.dropScan(changed);
+  rows_.dropTriggers(changed);
   // Rows without variable columns have no table of offsets, which readers expect from now on.
-  if (firstVariable) changed.rowsChanged = true;
-  if (added.autoNumber() || firstVariable) load(changed);
-  if (changed.made)
+  if (firstVariable) changed.note(Unsaved::Rows);
+  if (added.autoNumber() || firstVariable) rows_.load(changed);
+  if (changed.made())
     connection_.execute("ALTER TABLE " + tableName(page) + " ADD COLUMN " + columnName(added.number) + " " +
                         columnDeclaration(added.type));
   if (added.autoNumber()) {
-    state_.autoNumbers[page] = 0;
-    connection_.execute("UPDATE " + tableName(page) + " SET " + columnName(added.number) +
-                        " = jet_auto_number(" + std::to_string(page) + ", NULL)");
-    changed.rowsChanged = true;
+    autoNumbers_.goOnFrom(page, 0);
+    autoNumbers_.fill(design, added);
+    changed.note(Unsaved::Rows);
   }
-  setDefinition(changed, std::move(design));
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
   return added.number;
 }
 
-void Image::replaceColumn(std::uint32_t page, std::string_view name, std::string_view with) {
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+void ColumnChanges::replace(std::uint32_t page, std::string_view name, std::string_view with) {
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   const auto oldAt = positionOf(design, name), newAt = positionOf(design, with);
   const Column old = design.columns[oldAt];
   requireUnrelated(changed, old);
@@ -89,22 +99,22 @@ void Image::replaceColumn(std::uint32_t page, std::string_view name, std::string
   const auto indexes = moveIndexes(design, old, fresh);
   design.columns.erase(design.columns.begin() + static_cast<std::ptrdiff_t>(oldAt));
 
-  Transaction whole(*this);
-  dropScan(changed);
-  dropRules(changed);
-  for (const auto index : indexes) checkRows(changed, design, index);
-  auto block = properties(page);
+  Transaction whole(tables_);
+  rows_.dropScan(changed);
+  rows_.dropIndexesAndTriggers(changed);
+  for (const auto index : indexes) tableChanges_.checkRows(changed, design, index);
+  auto block = catalogue_.properties(page);
   inheritProperties(block, old.name, temporary);
   block.renameOwner(temporary, old.name);
-  changeProperties(page, std::move(block));
+  catalogue_.changeProperties(page, std::move(block));
   forgetSlotZero(changed, old);
-  setDefinition(changed, std::move(design));
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
 }
 
-void Image::resizeColumn(std::uint32_t page, std::string_view name, std::uint16_t size) {
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+void ColumnChanges::resize(std::uint32_t page, std::string_view name, std::uint16_t size) {
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   auto& column = design.columns[positionOf(design, name)];
   const bool text = column.type == ColumnType::Text;
   if ((!text && column.type != ColumnType::Binary) || column.fixed() || size == 0 ||
@@ -112,9 +122,9 @@ void Image::resizeColumn(std::uint32_t page, std::string_view name, std::uint16_
     throw runtime::Error(InvalidDataType, source::TableDef,
                          "Dimensione non valida per il campo " + column.name);
   const auto length = static_cast<std::uint16_t>(text ? 2 * size : size);
-  Transaction whole(*this);
+  Transaction whole(tables_);
   if (length < column.length) {
-    load(changed);
+    rows_.load(changed);
     // A character is one or two units of the size, so that only longer texts need be counted.
     auto rows = connection_.prepare("SELECT " + columnName(column.number) + " FROM " + tableName(page) +
                                     " WHERE length(" + columnName(column.number) + ") * 2 > ?1");
@@ -127,14 +137,14 @@ void Image::resizeColumn(std::uint32_t page, std::string_view name, std::uint16_
     }
   }
   column.length = length;
-  setDefinition(changed, std::move(design));
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
 }
 
-void Image::renameColumn(std::uint32_t page, std::string_view name, const std::string& newName) {
+void ColumnChanges::rename(std::uint32_t page, std::string_view name, const std::string& newName) {
   checkName(newName);
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   const auto position = positionOf(design, name);
   const auto other = design.find(newName);
   if (other && *other != position)
@@ -142,19 +152,19 @@ void Image::renameColumn(std::uint32_t page, std::string_view name, const std::s
   const std::string oldName = design.columns[position].name;
   design.columns[position].name = newName;
 
-  Transaction whole(*this);
-  auto block = properties(page);
+  Transaction whole(tables_);
+  auto block = catalogue_.properties(page);
   block.renameOwner(oldName, newName);
-  changeProperties(page, std::move(block));
-  changeSystemTable(file::RelationshipsTable);
+  catalogue_.changeProperties(page, std::move(block));
+  catalogue_.changeSystemTable(file::RelationshipsTable);
   renameColumnInRelations(connection_, changed.name, oldName, newName);
-  setDefinition(changed, std::move(design));
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
 }
 
-void Image::moveColumn(std::uint32_t page, std::string_view name, std::int32_t position) {
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+void ColumnChanges::move(std::uint32_t page, std::string_view name, std::int32_t position) {
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   const auto moved = positionOf(design, name);
   if (position > LastPosition)
     throw runtime::Error(InvalidDataType, source::TableDef,
@@ -167,33 +177,33 @@ void Image::moveColumn(std::uint32_t page, std::string_view name, std::int32_t p
     position = 0;
   }
   design.columns[moved].position = static_cast<std::uint16_t>(position);
-  Transaction whole(*this);
-  setDefinition(changed, std::move(design));
+  Transaction whole(tables_);
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
 }
 
-void Image::makeAutoNumber(std::uint32_t page, std::string_view name) {
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+void ColumnChanges::makeAutoNumber(std::uint32_t page, std::string_view name) {
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   auto& column = design.columns[positionOf(design, name)];
   requireNoAutoNumber(design);
   if (column.type != ColumnType::Long)
     throw runtime::Error(InvalidDataType, source::TableDef,
                          "Tipo di dati non valido per un contatore: " + column.name);
-  Transaction whole(*this);
-  load(changed);
-  dropTriggers(changed);
+  Transaction whole(tables_);
+  rows_.load(changed);
+  rows_.dropTriggers(changed);
   auto largest = connection_.prepare("SELECT max(" + columnName(column.number) + ") FROM " + tableName(page));
   largest.step();
-  state_.autoNumbers[page] = static_cast<std::int32_t>(std::max<std::int64_t>(largest.integer(0), 0));
+  autoNumbers_.goOnFrom(page, static_cast<std::int32_t>(std::max<std::int64_t>(largest.integer(0), 0)));
   column.flags |= Column::AutoNumber;
-  setDefinition(changed, std::move(design));
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
 }
 
-void Image::dropColumn(std::uint32_t page, std::string_view name) {
-  auto& changed = changeable(page);
-  auto design = definition(changed);
+void ColumnChanges::drop(std::uint32_t page, std::string_view name) {
+  auto& changed = tables_.changeable(page);
+  auto design = rows_.definition(changed);
   const auto position = positionOf(design, name);
   const auto column = design.columns[position];
   requireUnrelated(changed, column);
@@ -205,26 +215,26 @@ void Image::dropColumn(std::uint32_t page, std::string_view name) {
                          "La tabella " + design.name + " deve avere almeno un campo");
   design.columns.erase(design.columns.begin() + static_cast<std::ptrdiff_t>(position));
 
-  Transaction whole(*this);
-  dropScan(changed);
-  dropTriggers(changed);
+  Transaction whole(tables_);
+  rows_.dropScan(changed);
+  rows_.dropTriggers(changed);
   forgetSlotZero(changed, column);
-  auto block = properties(page);
+  auto block = catalogue_.properties(page);
   block.removeOwner(column.name);
-  changeProperties(page, std::move(block));
-  setDefinition(changed, std::move(design));
+  catalogue_.changeProperties(page, std::move(block));
+  tableChanges_.setDefinition(changed, std::move(design));
   whole.keep();
 }
 
-void Image::forgetSlotZero(Table& changed, const Column& column) {
+void ColumnChanges::forgetSlotZero(Table& changed, const Column& column) {
   // Which rows were written before a table had variable columns is told by the column of the first slot.
   if (column.fixed() || column.type == ColumnType::Boolean || column.slot != 0) return;
-  load(changed);
-  changed.rowsChanged = true;
+  rows_.load(changed);
+  changed.note(Unsaved::Rows);
 }
 
-void Image::requireUnrelated(const Table& owner, const Column& column) {
-  for (const auto& relation : relations())
+void ColumnChanges::requireUnrelated(const Table& owner, const Column& column) {
+  for (const auto& relation : catalogue_.relations())
     for (const auto& pair : relation.pairs)
       if ((file::sameName(relation.table, owner.name) && file::sameName(pair.column, column.name)) ||
           (file::sameName(relation.foreignTable, owner.name) &&

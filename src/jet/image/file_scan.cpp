@@ -1,3 +1,4 @@
+// The virtual table that gives the rows of a table as the pages of the file hold them.
 #include "jet/image/file_scan.h"
 
 #include <algorithm>
@@ -5,8 +6,8 @@
 #include <optional>
 
 #include "jet/file/read/table_reader.h"
-#include "jet/image/image.h"
 #include "jet/image/row_codec.h"
+#include "jet/image/rows.h"
 
 namespace jet::image {
 
@@ -16,7 +17,7 @@ namespace {
 constexpr std::size_t LastMaskBit = 63;
 
 struct ScanTable : sqlite3_vtab {
-  Image* image;
+  Rows* rows;
   std::uint32_t page;
 };
 
@@ -38,7 +39,7 @@ ScanCursor& cursorOf(sqlite3_vtab_cursor* cursor) {
 
 /// Runs `work`; a numbered error becomes SQLite's, in the text form that errorFromSqlite reads.
 template <typename Work>
-int guarded(char** message, Work work) {
+int asResult(char** message, Work work) {
   try {
     work();
     return SQLITE_OK;
@@ -51,15 +52,16 @@ int guarded(char** message, Work work) {
   return SQLITE_ERROR;
 }
 
-int connect(sqlite3* connection, void* image, int count, const char* const* arguments, sqlite3_vtab** result,
+int connect(sqlite3* connection, void* rows, int count, const char* const* arguments, sqlite3_vtab** result,
             char** message) {
-  return guarded(message, [&] {
+  return asResult(message, [&] {
     auto table = std::make_unique<ScanTable>();
-    table->image = static_cast<Image*>(image);
+    table->rows = static_cast<Rows*>(rows);
     const std::string_view page = count > 3 ? arguments[3] : "";
     std::from_chars(page.data(), page.data() + page.size(), table->page);
+    const auto design = table->rows->sharedDefinition(table->page);
     std::string sql = "CREATE TABLE x(";
-    for (const auto& column : table->image->definition(table->page).columns)
+    for (const auto& column : design->columns)
       sql += columnName(column.number) + " " + columnDeclaration(column.type) + ",";
     sql.back() = ')';
     if (sqlite3_declare_vtab(connection, sql.c_str()) != SQLITE_OK) throw errorFromSqlite(connection);
@@ -74,9 +76,9 @@ int disconnect(sqlite3_vtab* table) {
 
 /// Hands the mask of the columns that are used on to filter, as text.
 int bestIndex(sqlite3_vtab* vtab, sqlite3_index_info* info) {
-  return guarded(&vtab->zErrMsg, [&] {
+  return asResult(&vtab->zErrMsg, [&] {
     auto& table = tableOf(vtab);
-    const auto rows = table.image->definition(table.page).rows;
+    const auto rows = table.rows->sharedDefinition(table.page)->rows;
     info->idxStr = sqlite3_mprintf("%llu", info->colUsed);
     info->needToFreeIdxStr = 1;
     info->estimatedRows = rows;
@@ -109,21 +111,21 @@ void advance(ScanCursor& cursor) {
 }
 
 int filter(sqlite3_vtab_cursor* base, int, const char* plan, int, sqlite3_value**) {
-  return guarded(&base->pVtab->zErrMsg, [&] {
+  return asResult(&base->pVtab->zErrMsg, [&] {
     auto& cursor = cursorOf(base);
     auto& table = tableOf(base->pVtab);
     cursor.reader.reset();
-    cursor.design = table.image->sharedDefinition(table.page);
-    cursor.reader.emplace(table.image->source(), *cursor.design,
+    cursor.design = table.rows->sharedDefinition(table.page);
+    cursor.reader.emplace(table.rows->source(), *cursor.design,
                           usedColumns(*cursor.design, plan ? plan : ""));
-    cursor.fields.emplace(table.image->source(), *cursor.design);
+    cursor.fields.emplace(table.rows->source(), *cursor.design);
     cursor.rowid = 0;
     advance(cursor);
   });
 }
 
 int next(sqlite3_vtab_cursor* base) {
-  return guarded(&base->pVtab->zErrMsg, [&] { advance(cursorOf(base)); });
+  return asResult(&base->pVtab->zErrMsg, [&] { advance(cursorOf(base)); });
 }
 
 int atEnd(sqlite3_vtab_cursor* base) {
@@ -131,7 +133,7 @@ int atEnd(sqlite3_vtab_cursor* base) {
 }
 
 int column(sqlite3_vtab_cursor* base, sqlite3_context* context, int index) {
-  return guarded(&base->pVtab->zErrMsg, [&] {
+  return asResult(&base->pVtab->zErrMsg, [&] {
     auto& cursor = cursorOf(base);
     cursor.fields->result(context, cursor.row, static_cast<std::size_t>(index));
   });
@@ -161,8 +163,8 @@ const sqlite3_module Module = scanModule();
 
 }  // namespace
 
-void registerFileScan(Image& image) {
-  sqlite3_create_module_v2(image.connection().handle(), "jet_file", &Module, &image, nullptr);
+void registerFileScan(const Connection& connection, Rows& rows) {
+  sqlite3_create_module_v2(connection.handle(), "jet_file", &Module, &rows, nullptr);
 }
 
 }  // namespace jet::image

@@ -9,6 +9,13 @@
 
 namespace jet::image {
 
+/// What the catalogue tells of a table that lies in another file.
+struct Link {
+  std::string path;         // of the other file
+  std::string sourceTable;  // the table's name there
+  std::string connect;      // kind of source; empty: a Jet file
+};
+
 /// A table of another file, as it was found when last looked at.
 struct LinkedTable {
   std::string path;

@@ -85,15 +85,15 @@ const std::vector<sql::Parameter>& SessionQueryDef::Compiled::parameters() const
 
 SessionQueryDef::Compiled& SessionQueryDef::compiled() {
   requireOpen();
-  if (compiled_ && compiled_->generation == session_->image().generation()) return *compiled_;
+  if (auto* known = compiled_.get(session_->image().generation())) return *known;
   auto text = SQL();
   // Answers hold for the text whose parameters they were given to.
-  if (!compiled_ || compiled_->text != text) answers_.clear();
+  if (!compiled_.last() || compiled_.last()->text != text) answers_.clear();
   compiled_.reset();
   auto statement = session_->runner().compile(text);
-  compiled_.emplace(Compiled{session_->image().generation(), std::move(text), std::move(statement), {}});
-  answers_.resize(compiled_->parameters().size());
-  return *compiled_;
+  auto& compiled = compiled_.set(session_->image().generation(), {std::move(text), std::move(statement), {}});
+  answers_.resize(compiled.parameters().size());
+  return compiled;
 }
 
 const sql::Parameter& SessionQueryDef::parameter(std::size_t index) {
@@ -139,7 +139,7 @@ void SessionQueryDef::Execute(int options) {
   if (!query.changes) {
     query.changes.emplace(session_->image(), StatementRunner::change(*rows));
     // Making the tables ready is no change of the design.
-    query.generation = session_->image().generation();
+    compiled_.renew(session_->image().generation());
   }
   affected_ = query.changes->run(answers_, failOnError);
 }

@@ -42,7 +42,6 @@ class SessionQueryDef : public QueryDef,
   QueryObject object() const;
   /// The query as it was compiled for the design that the image has now.
   struct Compiled {
-    std::uint64_t generation = 0;  // Image::generation()
     std::string text;
     sql::Statement statement;
     std::optional<RowChanges> changes;  // once it was executed
@@ -54,7 +53,7 @@ class SessionQueryDef : public QueryDef,
   std::shared_ptr<Session> session_;
   std::string sql_;  // of a temporary query
   std::optional<std::uint32_t> storedId_;
-  std::optional<Compiled> compiled_;
+  image::Prepared<Compiled> compiled_;
   Answers answers_;
   std::int64_t affected_ = 0;
   bool open_ = true;

@@ -25,11 +25,11 @@ StatementRunner::StatementRunner(image::Image& image) : image_(image) {
 }
 
 std::optional<std::string> StatementRunner::findQuery(std::string_view name) const {
-  if (queries_.generation != image_.generation()) queries_ = {image_.generation(), {}};
+  auto& texts = queries_.getOrBegin(image_.generation());
   const std::string key = file::nameKey(name);
-  const auto known = queries_.texts.find(key);
-  if (known != queries_.texts.end()) return known->second;
-  return queries_.texts.emplace(key, readQuery(name)).first->second;
+  const auto known = texts.find(key);
+  if (known != texts.end()) return known->second;
+  return texts.emplace(key, readQuery(name)).first->second;
 }
 
 std::optional<std::string> StatementRunner::readQuery(std::string_view name) const {
@@ -69,17 +69,17 @@ std::string StatementRunner::defaultOf(const file::TableDefinition& table, const
 
 sql::RowStatement StatementRunner::selection(const std::string& text, const sql::Options& options) const {
   constexpr std::size_t most = 32;
-  if (selections_.generation != image_.generation() || selections_.plans.size() >= most)
-    selections_ = {image_.generation(), {}};
-  const auto known = selections_.plans.find({text, options.withRowKeys});
-  if (known != selections_.plans.end()) return known->second;
+  auto& plans = selections_.getOrBegin(image_.generation());
+  if (plans.size() >= most) plans.clear();
+  const auto known = plans.find({text, options.withRowKeys});
+  if (known != plans.end()) return known->second;
   auto statement = compile(text, options);
   auto* rows = std::get_if<sql::RowStatement>(&statement);
   if (!rows || rows->kind != sql::RowStatement::Kind::Select)
     throw errorOf(InvalidOperation, source::Database, "l'istruzione non restituisce record");
   // The columns that rows tell of, or another file, are not the same the next time.
   if (!rows->columnsFromRows && !readsLinks(image_, *rows))
-    selections_.plans.emplace(std::pair(text, options.withRowKeys), *rows);
+    plans.emplace(std::pair(text, options.withRowKeys), *rows);
   return std::move(*rows);
 }
 

@@ -46,17 +46,10 @@ class StatementRunner : public sql::Schema {
   std::optional<std::string> readQuery(std::string_view name) const;
 
   image::Image& image_;
-  struct Queries {
-    std::uint64_t generation = 0;                             // Image::generation()
-    std::map<std::string, std::optional<std::string>> texts;  // by file::nameKey
-  };
-  mutable Queries queries_;
-  /// The last selections that were compiled, so that a loop over one costs its steps.
-  struct Selections {
-    std::uint64_t generation = 0;
-    std::map<std::pair<std::string, bool>, sql::RowStatement> plans;  // by text and withRowKeys
-  };
-  mutable Selections selections_;
+  mutable image::Prepared<std::map<std::string, std::optional<std::string>>> queries_;  // by file::nameKey
+  /// The last selections that were compiled, so that a loop over one costs its steps; by text and
+  /// withRowKeys.
+  mutable image::Prepared<std::map<std::pair<std::string, bool>, sql::RowStatement>> selections_;
 };
 
 }  // namespace jet::dao

@@ -180,11 +180,15 @@ void PositionedRecordset::setBookmark(const runtime::Bytes& bookmark) {
 
 RecordSearch& PositionedRecordset::search() {
   // A rollback may have taken its view away.
-  if (searchedDesign_ != session_->image().generation()) search_.reset();
-  if (!search_) search_ = makeSearch();
-  extendSearch(*search_);
-  searchedDesign_ = session_->image().generation();
-  return *search_;
+  auto& image = session_->image();
+  if (!search_.get(image.generation())) {
+    search_.reset();  // its view goes before the next one comes
+    search_.set(image.generation(), makeSearch());
+  }
+  auto& search = **search_.last();
+  extendSearch(search);
+  search_.renew(image.generation());
+  return search;
 }
 
 void PositionedRecordset::find(const std::string& criteria, std::int64_t from, bool forward) {

@@ -89,8 +89,7 @@ class PositionedRecordset : public RecordsetBase {
   std::int64_t lastModified_ = -1;  // a place
   std::uint64_t family_;            // of this recordset and its clones
   std::string filter_, sort_;
-  std::unique_ptr<RecordSearch> search_;
-  std::uint64_t searchedDesign_ = 0;  // Image::generation() when search_ was made
+  image::Prepared<std::unique_ptr<RecordSearch>> search_;
 };
 
 }  // namespace jet::dao

@@ -36,14 +36,13 @@ void RowEditor::edit() {
 
 void RowEditor::add() {
   auto& image = session_->image();
-  if (addDesign_ != image.generation()) {
+  if (!defaults_.get(image.generation())) {
     for (const auto page : pages_) image.prepareToChange(page, {}, {image::RowChange::Kind::Insert, {}});
-    defaults_.reset();
-    addDesign_ = image.generation();
+    const auto ready = image.generation();
+    defaults_.set(ready, findDefaults());
   }
   edits_.assign(fields_.size(), std::nullopt);
-  if (!defaults_) findDefaults();
-  for (auto& each : *defaults_) {
+  for (auto& each : *defaults_.last()) {
     each.statement.reset();
     if (each.statement.step()) each.value = fromImage(each.statement, 0, each.plan.columns[0].type);
     each.statement.reset();
@@ -55,7 +54,7 @@ void RowEditor::add() {
   mode_ = dbEditAdd;
 }
 
-void RowEditor::findDefaults() {
+std::vector<RowEditor::Default> RowEditor::findDefaults() {
   auto& runner = session_->runner();
   std::vector<Default> found;
   for (std::size_t part = 0; part < pages_.size(); ++part) {
@@ -80,7 +79,7 @@ void RowEditor::findDefaults() {
       found.push_back(std::move(each));
     }
   }
-  defaults_ = std::move(found);
+  return found;
 }
 
 void RowEditor::cancel() {
@@ -110,14 +109,14 @@ void RowEditor::set(std::size_t field, const runtime::Variant& value) {
 image::Statement& RowEditor::prepared(std::size_t part, const image::RowChange& change,
                                       const std::string& sql) {
   auto& image = session_->image();
-  if (sql != lastSql_ || lastDesign_ != image.generation() || !last_) {
+  auto* last = last_.get(image.generation());
+  if (!last || last->sql != sql) {
     image.prepareToChange(pages_[part], {}, change);
-    last_ = image.connection().prepare(sql);
-    lastSql_ = sql;
-    lastDesign_ = image.generation();
+    auto statement = image.connection().prepare(sql);
+    last = &last_.set(image.generation(), {sql, std::move(statement)});
   }
-  last_.reset();
-  return last_;
+  last->statement.reset();
+  return last->statement;
 }
 
 void RowEditor::change(const std::int64_t* key) {
@@ -178,7 +177,7 @@ std::pair<std::size_t, std::int64_t> RowEditor::insert() {
   std::vector<std::pair<std::uint16_t, const runtime::Variant*>> values;
   for (std::size_t i = 0; i < fields_.size(); ++i)
     if (edits_[i] && fields_[i].part == part) values.emplace_back(fields_[i].column, &edits_[i]->value);
-  for (const auto& each : *defaults_)
+  for (const auto& each : *defaults_.last())
     if (each.part == part && !each.field) values.emplace_back(each.column, &each.value);
 
   std::string names, places;

@@ -46,7 +46,7 @@ class RowEditor {
     image::Statement statement;
     runtime::Variant value;
   };
-  void findDefaults();
+  std::vector<Default> findDefaults();
   const file::Column& column(std::size_t part, std::uint16_t number) const;
   runtime::Variant converted(std::size_t field, const runtime::Variant& value);
   std::size_t partToInsert() const;
@@ -58,12 +58,13 @@ class RowEditor {
   std::vector<std::uint32_t> pages_;
   const std::vector<FieldInfo>& fields_;
   EditModeType mode_ = dbEditNone;
-  std::vector<std::optional<Edit>> edits_;  // by field
-  std::optional<std::vector<Default>> defaults_;
-  std::optional<std::uint64_t> addDesign_;  // Image::generation() when add() was last made ready
-  std::string lastSql_;
-  std::uint64_t lastDesign_ = 0;  // Image::generation() when it was made ready
-  image::Statement last_;
+  std::vector<std::optional<Edit>> edits_;          // by field
+  image::Prepared<std::vector<Default>> defaults_;  // with the tables ready for new rows
+  struct Last {
+    std::string sql;
+    image::Statement statement;
+  };
+  image::Prepared<Last> last_;
 };
 
 }  // namespace jet::dao

@@ -86,9 +86,11 @@ std::unique_ptr<RecordSearch> SnapshotRecordset::makeSearch() {
 void SnapshotRecordset::moved() {
   fetch_.reset();
   if (!onRecord()) return;
-  if (filledDesign_ != session_->image().generation() && !rows_->there())
-    throw errorOf(ObjectInvalid, source::Recordset, "Rollback ha tolto i record");
-  filledDesign_ = session_->image().generation();
+  const auto now = session_->image().generation();
+  if (!there_.get(now)) {
+    if (!rows_->there()) throw errorOf(ObjectInvalid, source::Recordset, "Rollback ha tolto i record");
+    there_.set(now);
+  }
   fetch_.bind(1, requireRecord() + 1);
   fetch_.step();
 }

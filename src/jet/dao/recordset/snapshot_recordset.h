@@ -54,7 +54,7 @@ class SnapshotRecordset : public PositionedRecordset {
   Answers answers_;
   std::shared_ptr<Rows> rows_;
   image::Statement fetch_;
-  std::uint64_t filledDesign_ = 0;  // Image::generation() when the rows were there
+  image::Prepared<> there_;  // rows_, at the last look
 };
 
 }  // namespace jet::dao

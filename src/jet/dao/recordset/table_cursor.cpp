@@ -13,16 +13,16 @@ void TableCursor::orderBy(std::vector<file::IndexColumn> columns) {
   key_.clear();
   key_.resize(columns_.size());
   statements_.clear();
-  readyDesign_.reset();
+  ready_.reset();
 }
 
 void TableCursor::prepareTable() {
-  if (readyDesign_ == image_.generation()) return;
+  if (ready_.get(image_.generation())) return;
   if (columns_.empty())
     image_.prepareToRead(page_, {});
   else
     image_.prepareToRead(page_, {columns_.front().column});
-  readyDesign_ = image_.generation();
+  ready_.set(image_.generation());
 }
 
 image::Statement& TableCursor::prepared(const std::string& sql) {

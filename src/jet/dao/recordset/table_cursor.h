@@ -49,8 +49,8 @@ class TableCursor {
   std::uint32_t page_;
   std::vector<file::IndexColumn> columns_;
   std::int64_t rowid_ = 0;
-  std::optional<std::uint64_t> readyDesign_;  // Image::generation() when the table was made ready
-  std::vector<image::StoredValue> key_;       // of the row where it stands: values of columns_
+  image::Prepared<> ready_;               // the table
+  std::vector<image::StoredValue> key_;  // of the row where it stands: values of columns_
   std::map<std::string, image::Statement> statements_;
 };
 

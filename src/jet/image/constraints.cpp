@@ -1,8 +1,11 @@
 // Rules that rows of the image must keep once a table is changed: required fields and keys, empty texts,
-// validation rules, auto-numbers.
+// validation rules.
+#include "jet/image/constraints.h"
+
 #include <algorithm>
 
-#include "jet/image/image.h"
+#include "jet/file/errors.h"
+#include "jet/image/design.h"
 #include "jet/image/property_values.h"
 #include "jet/image/row_codec.h"
 #include "jet/image/triggers.h"
@@ -64,7 +67,7 @@ void addValidation(const file::TableDefinition& design, const file::PropertyBloc
 }
 
 /// One trigger for new rows, whose auto-numbers the engine fills in.
-void guardInsert(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
+void watchInserts(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
   std::string any, which;
   for (const Rule& rule : rules) {
     if (rule.column && rule.column->autoNumber()) continue;
@@ -77,7 +80,7 @@ void guardInsert(const Connection& connection, std::uint32_t page, const std::ve
 }
 
 /// One trigger for each rule, so that a change that doesn't touch the column costs nothing.
-void guardUpdate(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
+void watchUpdates(const Connection& connection, std::uint32_t page, const std::vector<Rule>& rules) {
   std::size_t number = 0;
   for (const Rule& rule : rules)
     connection.execute(afterTrigger("g" + std::to_string(page) + "u" + std::to_string(number++),
@@ -85,87 +88,69 @@ void guardUpdate(const Connection& connection, std::uint32_t page, const std::ve
                                     page, rule.broken, raise(rule.number, rule.description)));
 }
 
-/// Drops what belongs to t<page> of these types.
-void dropMatching(const Connection& connection, std::uint32_t page, const std::string& types) {
-  std::vector<std::string> commands;
-  auto query = connection.prepare(
-      "SELECT 'DROP ' || type || ' ' || name FROM sqlite_master WHERE tbl_name = ?1 AND type IN (" + types +
-      ")");
-  query.bind(1, std::string_view(tableName(page)));
-  while (query.step()) commands.push_back(query.text(0));
-  query.reset();
-  for (const auto& command : commands) connection.execute(command);
-}
-
 }  // namespace
 
-void Image::guard(Table& table) {
-  const auto& design = definition(table);
+Constraints::Constraints(Tables& tables, Rows& rows, Catalogue& catalogue, AutoNumbers& autoNumbers)
+    : tables_(tables),
+      rows_(rows),
+      catalogue_(catalogue),
+      autoNumbers_(autoNumbers),
+      foreignKeys_(tables, rows) {}
+
+void Constraints::prepareToChange(std::uint32_t page, const std::vector<std::uint16_t>& compared,
+                                  const RowChange& change) {
+  tables_.requireWritable();
+  auto& wanted = tables_.at(page);
+  if (wanted.link)
+    throw runtime::Error(ReadOnly, source::Database,
+                         "Impossibile aggiornare una tabella collegata: " + wanted.name);
+  if (wanted.system()) throw errorOf(SystemTable, source::Database, wanted.name);
+  foreignKeys_.forgetCascades();
+  std::vector<Readied> done;
+  prepare(wanted, compared, change, done);
+}
+
+void Constraints::prepare(Table& wanted, const std::vector<std::uint16_t>& compared, const RowChange& change,
+                          std::vector<Readied>& done) {
+  rows_.load(wanted);
+  rows_.makeIndexes(*wanted.definition, compared, true);
+  if (wanted.rows != RowState::Constrained) addTriggers(wanted);
+  // Relations may lead back to where they started.
+  const Readied self{wanted.page, change};
+  if (std::ranges::find(done, self) != done.end()) return;
+  done.push_back(self);
+  for (const auto& partner : foreignKeys_.partners(wanted, change)) {
+    rows_.load(partner.table);
+    rows_.makeIndexes(rows_.definition(partner.table), {partner.compared}, false);
+    for (const auto& cascade : partner.cascades) prepare(partner.table, {}, cascade, done);
+  }
+}
+
+void Constraints::addTriggers(Table& table) {
+  const auto& design = rows_.definition(table);
   std::vector<Rule> rules;
   addIndexRules(design, rules);
   if (table.flags == 0) {
-    const auto& block = properties(table.page);
+    const auto& block = catalogue_.properties(table.page);
     addPropertyRules(design, block, rules);
     if (compileRule_) {
       for (const auto& column : design.columns) addValidation(design, block, compileRule_, &column, rules);
       addValidation(design, block, compileRule_, nullptr, rules);
     }
   }
-  guardInsert(connection_, table.page, rules);
-  guardUpdate(connection_, table.page, rules);
-  for (const auto& column : design.columns)
-    if (column.autoNumber()) guardAutoNumber(table, column);
-  guardRelations(table);
-  table.guarded = true;
+  watchInserts(tables_.connection(), table.page, rules);
+  watchUpdates(tables_.connection(), table.page, rules);
+  autoNumbers_.addTriggers(design);
+  foreignKeys_.addTriggers(table);
+  Rows::markConstrained(table);
 }
 
-void Image::guardAutoNumber(Table& table, const file::Column& column) {
-  const std::string page = std::to_string(table.page), name = columnName(column.number);
-  const std::string number = "jet_auto_number(" + page + ", NEW." + name + ")";
-  state_.autoNumbers.emplace(table.page, definition(table).autoNumber);
-  connection_.execute(afterTrigger(
-      "a" + page + name, "INSERT", table.page, "NEW." + name + " IS NULL",
-      "UPDATE " + tableName(table.page) + " SET " + name + " = " + number + " WHERE rowid = NEW.rowid"));
-  connection_.execute(afterTrigger("a" + page + name + "given", "INSERT", table.page,
-                                   "NEW." + name + " IS NOT NULL", "SELECT " + number));
-}
-
-void Image::dropTriggers(Table& table) {
-  ++generation_;
-  if (table.guarded) dropMatching(connection_, table.page, "'trigger'");
-  table.guarded = false;
-}
-
-void Image::dropRules(Table& table) {
-  ++generation_;
-  if (table.made) dropMatching(connection_, table.page, "'index', 'trigger'");
-  table.guarded = false;
-}
-
-void Image::dropTriggersAround(const Table& table) {
-  for (const auto& relation : relations()) {
-    if (!file::sameName(relation.table, table.name) && !file::sameName(relation.foreignTable, table.name))
-      continue;
-    for (const auto& name : {relation.table, relation.foreignTable})
-      if (find(name)) dropTriggers(tableNamed(name, UnknownTable));
-  }
-}
-
-void Image::autoNumber(sqlite3_context* context, int, sqlite3_value** values) {
-  auto& image = *static_cast<Image*>(sqlite3_user_data(context));
-  auto& last = image.state_.autoNumbers[static_cast<std::uint32_t>(sqlite3_value_int64(values[0]))];
-  if (sqlite3_value_type(values[1]) != SQLITE_NULL) {
-    const auto given = sqlite3_value_int64(values[1]);
-    last = std::max(last, static_cast<std::int32_t>(given));
-    return sqlite3_result_int64(context, given);
-  }
-  if (last == INT32_MAX) return sqlite3_result_error(context, "6|Contatore esaurito", -1);
-  image.identity_ = ++last;
-  sqlite3_result_int64(context, last);
-}
-
-void Image::identity(sqlite3_context* context, int, sqlite3_value**) {
-  sqlite3_result_int64(context, static_cast<Image*>(sqlite3_user_data(context))->identity_);
+void Constraints::markChanged(std::uint32_t page) {
+  // What a statement does to these rows changes designs as well.
+  if (page == file::CatalogueTable || page == file::QueriesTable) tables_.endGeneration();
+  tables_.at(page).note(Unsaved::Rows);
+  for (const auto other : foreignKeys_.cascaded()) tables_.at(other).note(Unsaved::Rows);
+  foreignKeys_.forgetCascades();
 }
 
 }  // namespace jet::image
