@@ -23,6 +23,13 @@ option(AGGNORVO_UNITY "Compile files of a folder together" ON)
 set(CMAKE_UNITY_BUILD ${AGGNORVO_UNITY})
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
 
+# A function a section: programs drop those that nothing calls, and tools/unused names them.
+add_compile_options(-ffunction-sections)
+add_link_options(-Wl,--gc-sections)
+
+# tools/rules compiles every header of a layer alone.
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+
 option(AGGNORVO_WERROR "Treat warnings as errors" ON)
 add_library(aggnorvo_options INTERFACE)
 target_compile_options(aggnorvo_options INTERFACE -Wall -Wextra -Wpedantic
@@ -31,16 +38,20 @@ target_compile_options(aggnorvo_options INTERFACE -Wall -Wextra -Wpedantic
   $<$<BOOL:${AGGNORVO_WERROR}>:-Werror>)
 target_include_directories(aggnorvo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
-# layer(NAME [DEPENDENCY...] [FOLDERS folder...]): every .cpp of the current folder, and of these folders in it, as
-# library NAME.
+# layer(NAME [DEPENDENCY...] [FOLDERS folder...]): every .cpp and .h of the current folder, and of these folders in it,
+# as library NAME.
 function(layer name)
   cmake_parse_arguments(PARSE_ARGV 1 L "" "" "FOLDERS")
   set(patterns *.cpp)
+  set(header_patterns *.h)
   foreach(folder ${L_FOLDERS})
     list(APPEND patterns ${folder}/*.cpp)
+    list(APPEND header_patterns ${folder}/*.h)
   endforeach()
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  file(GLOB headers CONFIGURE_DEPENDS ${header_patterns})
   add_library(${name} STATIC ${sources})
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${headers})
   target_link_libraries(${name} PUBLIC ${L_UNPARSED_ARGUMENTS} PRIVATE aggnorvo_options)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
 endfunction()
@@ -52,11 +63,13 @@ function(program name)
   target_link_libraries(${name} PRIVATE ${P_LIBRARIES} aggnorvo_options)
 endfunction()
 
-# test_binary(NAME library...): every .cpp of the current folder as one GoogleTest binary.
+# test_binary(NAME library...): every .cpp of the current folder as one GoogleTest binary. A test's own code runs once,
+# so compiling it quickly is worth more than running it quickly.
 function(test_binary name)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest GTest::gmock GTest::gtest_main aggnorvo_options)
+  target_compile_options(${name} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O0>)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name})
 endfunction()

@@ -81,7 +81,6 @@ bool BatchDesktop::showOpen(CommonDialog& dialog) {
 }
 
 void BatchDesktop::doEvents() {
-  if (hook_) hook_();
   // Whoever waits by letting events run should not keep a processor for itself.
   std::this_thread::yield();
 }

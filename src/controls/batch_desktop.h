@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -23,12 +22,8 @@ class BatchDesktop : public Desktop {
   explicit BatchDesktop(std::ostream& out, Answer answer = Answer::Default,
                         std::optional<std::string> application = std::nullopt);
 
-  /// Called by doEvents(), for example to write out what the summary has grown by.
-  void setEventsHook(std::function<void()> hook) { hook_ = std::move(hook); }
   /// Boxes shown so far.
   int boxesShown() const { return boxesShown_; }
-  /// True once the product has asked to end the program.
-  bool ended() const { return ended_; }
 
   /// Always given up: there is nobody to choose.
   bool showOpen(CommonDialog& dialog) override;
@@ -41,7 +36,7 @@ class BatchDesktop : public Desktop {
   void showForm(Form& form, bool modal) override;
   void keepOnTop(Form&, bool) override {}
   void unloadForm(Form&) override {}
-  void endProgram() override { ended_ = true; }
+  void endProgram() override {}
 
  protected:
   MessageAnswer showBox(const std::string& text, int style, const std::string& title) override;
@@ -55,9 +50,7 @@ class BatchDesktop : public Desktop {
   std::ostream& out_;
   Answer answer_;
   std::optional<std::string> application_;
-  std::function<void()> hook_;
   int boxesShown_ = 0;
-  bool ended_ = false;
 };
 
 /// A text as one line, for a log: line ends become " / ".

@@ -2,14 +2,11 @@
 #include "controls/common_dialog.h"
 
 #include "controls/desktop.h"
-#include "runtime/error.h"
 
 namespace controls {
 
 bool CommonDialog::showOpen() {
-  if (desktop().showOpen(*this)) return true;
-  if (cancelError_) throw runtime::Error(Cancelled, name(), "Scelta del file annullata");
-  return false;
+  return desktop().showOpen(*this);
 }
 
 }  // namespace controls

@@ -13,8 +13,6 @@ class CommonDialog : public Control {
 
   /// Bits of flags().
   enum Flag : int { HideReadOnly = 4, FileMustExist = 4096 };
-  /// Error raised for a cancelled dialog if cancelError() is set.
-  static constexpr int Cancelled = 32755;
 
   /// Descriptions and patterns in turn: "Database Access (*.mdb)|*.mdb|Tutti|*.*".
   const std::string& filter() const { return filter_; }
@@ -26,11 +24,8 @@ class CommonDialog : public Control {
   /// Full path with backslashes; a cancelled dialog leaves it as it was.
   const std::string& fileName() const { return fileName_; }
   void setFileName(const std::string& path) { assign(fileName_, path); }
-  bool cancelError() const { return cancelError_; }
-  void setCancelError(bool on) { assign(cancelError_, on); }
 
-  /// Asks the current desktop for an existing file. True if one was chosen; error 32755 for a cancelled
-  /// dialog if cancelError() is set.
+  /// Asks the current desktop for an existing file. True if one was chosen.
   bool showOpen();
 
  private:
@@ -38,7 +33,6 @@ class CommonDialog : public Control {
   std::string dialogTitle_;
   std::string fileName_;
   int flags_ = 0;
-  bool cancelError_ = false;
 };
 
 }  // namespace controls

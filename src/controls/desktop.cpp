@@ -27,10 +27,6 @@ Desktop& desktop() {
   return *currentDesktop;
 }
 
-void setDesktop(Desktop* current) {
-  currentDesktop = current;
-}
-
 DesktopScope::DesktopScope(Desktop& current) : before_(currentDesktop) {
   currentDesktop = &current;
 }

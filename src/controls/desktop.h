@@ -56,8 +56,6 @@ class Desktop {
 bool hasDesktop();
 /// The desktop of this process; error 5 if none was set.
 Desktop& desktop();
-/// Makes `current` the desktop of this process; the caller keeps it. nullptr takes it away.
-void setDesktop(Desktop* current);
 
 /// Sets a desktop for the length of a scope, then the one before.
 class DesktopScope {

@@ -188,9 +188,4 @@ std::string followLinks(const std::string& path) {
   return system::followLinks(path);
 }
 
-std::uint64_t freeSpace(const std::string& folder) {
-  announce(DiskOperation::FreeSpace, folder);
-  return system::freeSpace(folder);
-}
-
 }  // namespace platform

@@ -44,7 +44,6 @@ enum class DiskOperation {
   Remove,
   FlushFolder,
   Lock,
-  FreeSpace,
   Dates,
   Inspect
 };
@@ -161,8 +160,6 @@ void setModified(const std::string& path, std::int64_t unixNanoseconds);
 /// The file that `path` names in the end, symbolic links followed; the path itself if it is no link. Numbered
 /// as Inspect.
 std::string followLinks(const std::string& path);
-/// Bytes that may still be written to the medium of `folder`.
-std::uint64_t freeSpace(const std::string& folder);
 /// Process that holds a lock on the file, as "nome (numero)", where the system tells; else empty. Not
 /// numbered.
 std::string lockHolder(const std::string& path);

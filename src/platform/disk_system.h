@@ -42,6 +42,5 @@ void flushFolder(const std::string& folder);
 std::optional<FileInfo> inspect(const std::string& path);
 void setModified(const std::string& path, std::int64_t unixNanoseconds);
 std::string followLinks(const std::string& path);
-std::uint64_t freeSpace(const std::string& folder);
 
 }  // namespace platform::system

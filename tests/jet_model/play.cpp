@@ -31,6 +31,12 @@ std::string firstDifference(const std::string& file, const std::string& model) {
   }
 }
 
+void append(const Column& column, TableDef& definition) {
+  const auto field = definition.CreateField(column.name, column.type, column.size);
+  if (column.type == dbText || column.type == dbMemo) field.setAllowZeroLength(true);
+  definition.Fields().Append(field);
+}
+
 template <typename Item>
 void eraseNamed(std::vector<Item>& items, const std::string& name) {
   std::erase_if(items, [&](const Item& item) { return item.name == name; });
@@ -44,11 +50,11 @@ Play::Play(std::string path, unsigned seed) : path_(std::move(path)), random_(se
 
 const std::vector<Play::WeightedStep>& Play::steps() {
   static const std::vector<WeightedStep> all = {
-      {8, &Play::insertRows},   {4, &Play::addRecord},   {6, &Play::editRecord},  {3, &Play::deleteRecord},
-      {5, &Play::updateByKey},  {3, &Play::deleteByKey}, {2, &Play::createTable}, {2, &Play::defineTable},
-      {1, &Play::dropTable},    {3, &Play::addColumn},   {2, &Play::dropColumn},  {2, &Play::renameColumn},
-      {1, &Play::moveColumn},   {3, &Play::createIndex}, {1, &Play::dropIndex},   {3, &Play::createRelation},
-      {1, &Play::dropRelation}, {2, &Play::begin},       {1, &Play::commit},      {1, &Play::rollBack},
+      {8, &Play::insertRows},  {4, &Play::addRecord},   {6, &Play::editRecord},     {3, &Play::deleteRecord},
+      {8, &Play::changeByKey}, {2, &Play::createTable}, {2, &Play::defineTable},    {1, &Play::dropTable},
+      {3, &Play::addColumn},   {2, &Play::dropColumn},  {2, &Play::renameColumn},   {1, &Play::moveColumn},
+      {3, &Play::createIndex}, {1, &Play::dropIndex},   {3, &Play::createRelation}, {1, &Play::dropRelation},
+      {2, &Play::begin},       {1, &Play::commit},      {1, &Play::rollBack},
   };
   return all;
 }
@@ -129,8 +135,7 @@ Database Play::readBack() const {
   return result;
 }
 
-bool Play::both(const std::string& what, const std::function<void()>& work,
-                const std::function<int(Database&)>& change) {
+bool Play::both(const std::string& what, const std::function<void()>& work, const Change& change) {
   Database changed = model_;
   const int expected = change(changed);
   int found = 0;
@@ -149,9 +154,13 @@ bool Play::both(const std::string& what, const std::function<void()>& work,
   return expected == 0;
 }
 
-bool Play::both(const std::string& sql, const std::function<int(Database&)>& change) {
+bool Play::both(const std::string& sql, const Change& change) {
   return both(
       sql, [&] { db_->Execute(sql, dbFailOnError); }, change);
+}
+
+bool Play::either(const std::string& sql, const std::function<void()>& work, const Change& change) {
+  return oneIn(2) ? both(sql, change) : both("by objects: " + sql, work, change);
 }
 
 // Choices
@@ -291,41 +300,41 @@ void Play::deleteRecord() {
       [&](Database& model) { return model.remove(*model.find(table->name), {row}); });
 }
 
-void Play::updateByKey() {
+/// The first column of whole numbers.
+static std::optional<std::size_t> keyColumn(const Table& table) {
+  const auto found =
+      std::ranges::find_if(table.columns, [](const Column& column) { return column.type == dbLong; });
+  if (found == table.columns.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - table.columns.begin());
+}
+
+/// Changes or deletes the rows whose key fulfils a condition.
+void Play::changeByKey() {
   Table* table = anyTableWithRows();
-  if (!table) return;
-  const auto number =
-      std::ranges::find_if(table->columns, [](const Column& column) { return column.type == dbLong; });
+  const auto key = table ? keyColumn(*table) : std::nullopt;
+  if (!key) return;
+  const bool deletes = oneIn(3);
   const std::size_t column = below(static_cast<unsigned>(table->columns.size()));
-  if (number == table->columns.end() || table->columns[column].autoNumber) return;
-  const auto key = static_cast<std::size_t>(number - table->columns.begin());
+  if (!deletes && table->columns[column].autoNumber) return;
   const auto value = valueFor(table->columns[column]);
   const auto limit = static_cast<std::int32_t>(below(30));
   std::vector<std::size_t> rows;
-  for (std::size_t i = 0; i < table->rows.size(); ++i)
-    if (!table->rows[i][key].isNull() && table->rows[i][key].toLong() == limit) rows.push_back(i);
-  both("UPDATE [" + table->name + "] SET [" + table->columns[column].name + "] = " + literal(value) +
-           " WHERE [" + number->name + "] = " + std::to_string(limit),
+  for (std::size_t i = 0; i < table->rows.size(); ++i) {
+    const runtime::Variant& found = table->rows[i][*key];
+    if (!found.isNull() && (deletes ? found.toLong() > limit : found.toLong() == limit)) rows.push_back(i);
+  }
+  const std::string where =
+      " WHERE [" + table->columns[*key].name + "] " + (deletes ? "> " : "= ") + std::to_string(limit);
+  both(deletes ? "DELETE * FROM [" + table->name + "]" + where
+               : "UPDATE [" + table->name + "] SET [" + table->columns[column].name +
+                     "] = " + literal(value) + where,
        [&](Database& model) {
+         Table& changed = *model.find(table->name);
+         if (deletes) return model.remove(changed, rows);
          for (const std::size_t row : rows)
-           if (const int error = model.update(*model.find(table->name), row, column, value)) return error;
+           if (const int error = model.update(changed, row, column, value)) return error;
          return 0;
        });
-}
-
-void Play::deleteByKey() {
-  Table* table = anyTableWithRows();
-  if (!table) return;
-  const auto number =
-      std::ranges::find_if(table->columns, [](const Column& column) { return column.type == dbLong; });
-  if (number == table->columns.end()) return;
-  const auto key = static_cast<std::size_t>(number - table->columns.begin());
-  const auto limit = static_cast<std::int32_t>(below(30));
-  std::vector<std::size_t> rows;
-  for (std::size_t i = 0; i < table->rows.size(); ++i)
-    if (!table->rows[i][key].isNull() && table->rows[i][key].toLong() > limit) rows.push_back(i);
-  both("DELETE * FROM [" + table->name + "] WHERE [" + number->name + "] > " + std::to_string(limit),
-       [&](Database& model) { return model.remove(*model.find(table->name), rows); });
 }
 
 // Design
@@ -359,11 +368,7 @@ void Play::defineTable() {
       "Append of table " + table.name,
       [&] {
         const auto definition = db_->CreateTableDef(table.name);
-        for (const Column& column : table.columns) {
-          const auto field = definition->CreateField(column.name, column.type, column.size);
-          if (column.type == dbText || column.type == dbMemo) field.setAllowZeroLength(true);
-          definition->Fields().Append(field);
-        }
+        for (const Column& column : table.columns) append(column, *definition);
         db_->TableDefs().Append(definition);
       },
       [&](Database& model) {
@@ -382,43 +387,27 @@ void Play::dropTable() {
     eraseNamed(model.tables, name);
     return 0;
   };
-  if (oneIn(2))
-    both("DROP TABLE [" + name + "]", change);
-  else
-    both(
-        "Delete of table " + name, [&] { db_->TableDefs().Delete(name); }, change);
+  either(
+      "DROP TABLE [" + name + "]", [&] { db_->TableDefs().Delete(name); }, change);
 }
 
 void Play::addColumn() {
   Table* table = anyTable();
   if (!table || table->columns.size() >= MostColumns) return;
-  const auto change = [&, name = table->name](const Column& column) {
-    return [=](Database& model) {
-      Table& changed = *model.find(name);
-      changed.columns.push_back(column);
-      changed.created = column.number + 1;
-      const runtime::Variant empty = column.type == dbBoolean ? runtime::Variant(false) : runtime::Null{};
-      for (Row& row : changed.rows) row.push_back(empty);
-      return 0;
-    };
-  };
   Table copy = *table;
   const Column column = newColumn(copy);
-  if (oneIn(2)) {
-    both("ALTER TABLE [" + table->name + "] ADD COLUMN [" + column.name + "] " +
-             typeName(column.type, column.size),
-         change(column));
-  } else {
-    both(
-        "Append of column " + column.name + " to " + table->name,
-        [&] {
-          const auto definition = db_->TableDefs(table->name);
-          const auto field = definition->CreateField(column.name, column.type, column.size);
-          if (column.type == dbText || column.type == dbMemo) field.setAllowZeroLength(true);
-          definition->Fields().Append(field);
-        },
-        change(column));
-  }
+  either(
+      "ALTER TABLE [" + table->name + "] ADD COLUMN [" + column.name + "] " +
+          typeName(column.type, column.size),
+      [&] { append(column, *db_->TableDefs(table->name)); },
+      [&](Database& model) {
+        Table& changed = *model.find(table->name);
+        changed.columns.push_back(column);
+        changed.created = column.number + 1;
+        const runtime::Variant empty = column.type == dbBoolean ? runtime::Variant(false) : runtime::Null{};
+        for (Row& row : changed.rows) row.push_back(empty);
+        return 0;
+      });
 }
 
 void Play::dropColumn() {
@@ -493,22 +482,17 @@ void Play::createIndex() {
     changed.indexes.push_back(index);
     return index.unique ? model.checkUnique(changed, index.column) : 0;
   };
-  if (oneIn(2)) {
-    both(std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX [" + index.name + "] ON [" + name +
-             "] ([" + index.column + "])",
-         change);
-  } else {
-    both(
-        "Append of index " + index.name + " on " + name + "." + index.column,
-        [&] {
-          const auto definition = db_->TableDefs(name);
-          const auto made = definition->CreateIndex(index.name);
-          made->setUnique(index.unique);
-          made->Fields().Append(made->CreateField(index.column));
-          definition->Indexes().Append(made);
-        },
-        change);
-  }
+  either(
+      std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX [" + index.name + "] ON [" + name +
+          "] ([" + index.column + "])",
+      [&] {
+        const auto definition = db_->TableDefs(name);
+        const auto made = definition->CreateIndex(index.name);
+        made->setUnique(index.unique);
+        made->Fields().Append(made->CreateField(index.column));
+        definition->Indexes().Append(made);
+      },
+      change);
 }
 
 void Play::dropIndex() {
@@ -520,11 +504,9 @@ void Play::dropIndex() {
     eraseNamed(model.find(name)->indexes, indexName);
     return 0;
   };
-  if (oneIn(2))
-    both("DROP INDEX [" + indexName + "] ON [" + name + "]", change);
-  else
-    both(
-        "Delete of index " + indexName, [&] { db_->TableDefs(name)->Indexes().Delete(indexName); }, change);
+  either(
+      "DROP INDEX [" + indexName + "] ON [" + name + "]",
+      [&] { db_->TableDefs(name)->Indexes().Delete(indexName); }, change);
 }
 
 /// Only where the child has no parent yet and comes later than it, so that relations make trees.

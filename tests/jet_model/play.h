@@ -22,6 +22,7 @@ class Play {
 
  private:
   using Step = void (Play::*)();
+  using Change = std::function<int(Database&)>;
   struct WeightedStep {
     unsigned weight;
     Step run;
@@ -34,8 +35,7 @@ class Play {
   void addRecord();
   void editRecord();
   void deleteRecord();
-  void updateByKey();
-  void deleteByKey();
+  void changeByKey();
   // Design
   void createTable();
   void defineTable();
@@ -55,10 +55,10 @@ class Play {
 
   /// Does `work` to the database and `change` (which gives an error's number) to the model, keeps the change
   /// if there is no error, and notes a difference in the errors.
-  bool both(const std::string& what, const std::function<void()>& work,
-            const std::function<int(Database&)>& change);
-  /// The same for a statement.
-  bool both(const std::string& sql, const std::function<int(Database&)>& change);
+  bool both(const std::string& what, const std::function<void()>& work, const Change& change);
+  /// The same for a statement, and for what can be done by a statement or with objects.
+  bool both(const std::string& sql, const Change& change);
+  bool either(const std::string& sql, const std::function<void()>& work, const Change& change);
   void finish();
   void compact();
   /// The database as the model would show it, read from the file by an own opening.

@@ -58,8 +58,8 @@ class Study {
   /// What --plan prints, with the status in front.
   std::string plan(const std::string& application = "collgeometri");
   std::string bytes() const;
-  /// What a strict checker of such files says against the target, but for Nulls that a later rule found there;
-  /// empty where it is not at hand.
+  /// What a strict checker of such files says against the target, but for Nulls that a later rule found
+  /// there; empty where it is not at hand.
   std::string faults() const;
 
   office::Office office;

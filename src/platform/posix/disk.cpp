@@ -2,7 +2,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -214,12 +213,6 @@ std::string followLinks(const std::string& path) {
     at = at.parent_path() / target;
   }
   throw DiskError(DiskFault::Io, path);
-}
-
-std::uint64_t freeSpace(const std::string& folder) {
-  struct statvfs info;
-  if (uninterrupted([&] { return ::statvfs(native(folder).c_str(), &info); }) != 0) fail(errno, folder);
-  return static_cast<std::uint64_t>(info.f_bavail) * info.f_frsize;
 }
 
 }  // namespace platform::system

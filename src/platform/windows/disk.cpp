@@ -243,13 +243,4 @@ std::string followLinks(const std::string& path) {
   return found;
 }
 
-std::uint64_t freeSpace(const std::string& folder) {
-  ULARGE_INTEGER available;
-  if (!::GetDiskFreeSpaceExW(native(folder).c_str(), &available, nullptr, nullptr)) {
-    const DWORD error = ::GetLastError();
-    fail(error == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : error, folder);
-  }
-  return available.QuadPart;
-}
-
 }  // namespace platform::system
