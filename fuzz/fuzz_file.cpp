@@ -7,12 +7,13 @@
 #include <cstdlib>
 #include <optional>
 
-#include "jet/dao/session/session.h"
 #include "jet/dao/query/stored_queries.h"
-#include "jet/file/read/page_use.h"
+#include "jet/dao/session/session.h"
 #include "jet/file/properties.h"
+#include "jet/file/read/page_use.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/file/values.h"
+#include "jet/file/write/compaction.h"
 
 namespace {
 

@@ -1,3 +1,4 @@
+// The scratch database in SQLite: settings, orders, statements, errors.
 #include "jet/image/connection.h"
 
 #include <charconv>

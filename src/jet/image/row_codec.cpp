@@ -1,3 +1,4 @@
+// Fields from the file's form into the image's and back.
 #include "jet/image/row_codec.h"
 
 #include <cmath>
