@@ -13,6 +13,7 @@
 #include "jet/file/read/page_use.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/file/values.h"
+#include "jet/file/write/compaction.h"
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include <set>
 
 #include "jet/file/read/catalogue.h"
+#include "jet/file/read/definition_reader.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/file/values.h"
 #include "runtime/error.h"

@@ -5,6 +5,7 @@
 #include "corpus.h"
 #include "jet/file/properties.h"
 #include "jet/file/read/catalogue.h"
+#include "jet/file/read/definition_reader.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/file/values.h"
 #include "runtime/error.h"

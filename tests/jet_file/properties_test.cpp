@@ -6,6 +6,7 @@
 
 #include "corpus.h"
 #include "jet/file/read/catalogue.h"
+#include "jet/file/read/definition_reader.h"
 #include "jet/file/read/table_reader.h"
 #include "runtime/error.h"
 #include "support/errors.h"

@@ -7,7 +7,9 @@
 #include "corpus.h"
 #include "jet/file/read/catalogue.h"
 #include "jet/file/read/page_use.h"
+#include "jet/file/write/compaction.h"
 #include "jet/file/write/database_writer.h"
+#include "jet/file/write/empty_database.h"
 #include "support/errors.h"
 #include "writing.h"
 

@@ -9,6 +9,8 @@
 #include "jet/file/read/page_use.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/file/text/text.h"
+#include "jet/file/write/compaction.h"
+#include "jet/file/write/empty_database.h"
 #include "platform/disk.h"
 
 namespace writing {

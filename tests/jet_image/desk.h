@@ -60,6 +60,7 @@ class Desk {
     return names;
   }
 
+  void save() { session_->save(); }
   /// Saves and goes on over the file as it is read anew.
   void reopen() {
     if (session_) session_->save();
@@ -99,6 +100,9 @@ class Desk {
   std::string path_;
   std::unique_ptr<jet::dao::Session> session_;
 };
+
+constexpr std::uint32_t Cascades =
+    image::RelationDesign::UpdateCascade | image::RelationDesign::DeleteCascade;
 
 /// A relation between two tables with these column pairs.
 inline image::RelationDesign relation(const std::string& name, const std::string& table,

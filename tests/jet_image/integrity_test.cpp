@@ -2,11 +2,9 @@
 
 namespace {
 
+using desk::Cascades;
 using desk::Desk;
 using desk::relation;
-using jet::image::RelationDesign;
-
-constexpr std::uint32_t Cascades = RelationDesign::UpdateCascade | RelationDesign::DeleteCascade;
 
 /// Members and their payments; payment 4 has no member.
 const std::vector<std::string> Members = {

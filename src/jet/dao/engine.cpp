@@ -5,7 +5,9 @@
 
 #include "jet/dao/session/session_database.h"
 #include "jet/file/errors.h"
+#include "jet/file/write/compaction.h"
 #include "jet/file/write/database_writer.h"
+#include "jet/file/write/empty_database.h"
 #include "platform/files.h"
 
 namespace jet::dao {

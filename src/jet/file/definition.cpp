@@ -1,3 +1,4 @@
+// Questions about a table's definition: columns by name or number, types, names compared.
 #include "jet/file/definition.h"
 
 #include <algorithm>

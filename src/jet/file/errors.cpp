@@ -1,3 +1,4 @@
+// Descriptions of the engine's errors by number, and errors of the disk turned into them.
 #include "jet/file/errors.h"
 
 namespace jet {

@@ -1,3 +1,4 @@
+// The property block of an object (LvProp), read and written.
 #include "jet/file/properties.h"
 
 #include <algorithm>

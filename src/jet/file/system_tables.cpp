@@ -1,3 +1,4 @@
+// Definitions and pages of the four system tables of a new database.
 #include "jet/file/system_tables.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A field's bytes as a value of the language.
 #include "jet/file/values.h"
 
 #include "jet/file/errors.h"

@@ -1,3 +1,4 @@
+// Decimal numbers read, written, rounded and compared as digits.
 #include "jet/image/decimal.h"
 
 #include <algorithm>

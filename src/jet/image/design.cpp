@@ -1,3 +1,4 @@
+// Columns and indexes put into a table's definition, and taken out.
 #include "jet/image/design.h"
 
 #include <algorithm>

@@ -1,7 +1,9 @@
+// Tables of other files: found, and seen to be unchanged.
 #include "jet/image/linked_table.h"
 
 #include "jet/file/errors.h"
 #include "jet/file/read/catalogue.h"
+#include "jet/file/read/definition_reader.h"
 #include "jet/file/read/table_reader.h"
 #include "platform/disk.h"
 

@@ -1,3 +1,4 @@
+// Values of properties between the file's form and the language's.
 #include "jet/image/property_values.h"
 
 #include <cstring>

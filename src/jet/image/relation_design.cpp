@@ -1,3 +1,4 @@
+// A relation's two ends in the indexes of its tables.
 #include "jet/image/relation_design.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "jet/file/errors.h"
+#include "jet/file/read/definition_reader.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/image/catalogue_rows.h"
 #include "jet/image/file_scan.h"

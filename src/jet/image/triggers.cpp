@@ -1,3 +1,4 @@
+// The text of triggers that refuse a row.
 #include "jet/image/triggers.h"
 
 #include "jet/image/row_codec.h"

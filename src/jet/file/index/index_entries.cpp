@@ -1,3 +1,4 @@
+// Index entries gathered while rows are written, sorted, and checked for duplicates.
 #include "jet/file/index/index_entries.h"
 
 #include <algorithm>

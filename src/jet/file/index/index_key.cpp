@@ -1,3 +1,4 @@
+// Keys of index entries from the fields of a row.
 #include "jet/file/index/index_key.h"
 
 #include <algorithm>

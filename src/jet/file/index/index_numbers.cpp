@@ -1,3 +1,4 @@
+// Indexes put into the order, and given the numbers, of tables that never lost one.
 #include "jet/file/index/index_numbers.h"
 
 #include <algorithm>

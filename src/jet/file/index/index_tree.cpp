@@ -1,3 +1,4 @@
+// The pages of an index, written from sorted entries.
 #include "jet/file/index/index_tree.h"
 
 #include <algorithm>

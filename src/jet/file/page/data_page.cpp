@@ -1,3 +1,4 @@
+// A page of records and its directory.
 #include "jet/file/page/data_page.h"
 
 namespace jet::file {

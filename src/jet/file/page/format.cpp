@@ -1,3 +1,4 @@
+// Where Jet 3 and Jet 4 have the fields of their pages.
 #include "jet/file/page/format.h"
 
 namespace jet::file {

@@ -1,3 +1,4 @@
+// Page 1, the map of all free pages of a new file.
 #include "jet/file/page/global_map.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Page 0 read, and its mask taken off and put on.
 #include "jet/file/page/header.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Usage maps written, and the pages that hold them.
 #include "jet/file/page/map_pages.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// An open file read page by page; every access within a page is checked.
 #include "jet/file/page/page_file.h"
 
 #include <list>

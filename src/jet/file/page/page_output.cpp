@@ -1,3 +1,4 @@
+// Pages of a new file, gathered into few large writes.
 #include "jet/file/page/page_output.h"
 
 #include <algorithm>

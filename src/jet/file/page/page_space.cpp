@@ -1,3 +1,4 @@
+// Which pages of a file are in use, and the lowest that is not.
 #include "jet/file/page/page_space.h"
 
 #include <algorithm>

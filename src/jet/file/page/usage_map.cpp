@@ -1,3 +1,4 @@
+// Usage maps read: the pages of a table or of the whole file.
 #include "jet/file/page/usage_map.h"
 
 #include "jet/file/page/data_page.h"

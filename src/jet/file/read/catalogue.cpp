@@ -1,6 +1,8 @@
+// The objects of a file as MSysObjects lists them.
 #include "jet/file/read/catalogue.h"
 
 #include "jet/file/errors.h"
+#include "jet/file/read/definition_reader.h"
 #include "jet/file/read/table_reader.h"
 #include "jet/file/text/text.h"
 

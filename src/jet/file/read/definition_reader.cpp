@@ -1,12 +1,13 @@
+// Turns a table definition's pages into a TableDefinition.
+#include "jet/file/read/definition_reader.h"
+
 #include <algorithm>
 
 #include "jet/file/errors.h"
 #include "jet/file/page/data_page.h"
 #include "jet/file/page/format.h"
-#include "jet/file/read/table_reader.h"
 #include "jet/file/text/text.h"
 
-/// Turns a table definition's pages into a TableDefinition.
 namespace jet::file {
 
 namespace {

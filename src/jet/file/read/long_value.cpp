@@ -1,3 +1,4 @@
+// Memo and OLE values fetched from the pages where they lie.
 #include "jet/file/read/long_value.h"
 
 #include "jet/file/errors.h"

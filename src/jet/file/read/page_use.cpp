@@ -1,3 +1,4 @@
+// Which pages belong to which table.
 #include "jet/file/read/page_use.h"
 
 #include <algorithm>
@@ -7,6 +8,7 @@
 #include "jet/file/errors.h"
 #include "jet/file/page/data_page.h"
 #include "jet/file/read/catalogue.h"
+#include "jet/file/read/definition_reader.h"
 
 namespace jet::file {
 

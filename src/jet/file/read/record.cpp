@@ -1,3 +1,4 @@
+// The bytes of a row split into the values of its columns.
 #include "jet/file/read/record.h"
 
 #include <algorithm>

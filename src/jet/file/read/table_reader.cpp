@@ -1,3 +1,4 @@
+// The rows of a table in the order of its pages.
 #include "jet/file/read/table_reader.h"
 
 #include <array>

@@ -9,9 +9,6 @@
 
 namespace jet::file {
 
-/// Definition whose first page is `page`. `name` goes into it and into error messages.
-TableDefinition readDefinition(const PageFile& file, std::uint32_t page, std::string name);
-
 /// The live rows of a table in the order of pages and row numbers, overflow records followed, each page read
 /// once. The definition must outlive the reader. Damage is error 3343 that names page and table.
 class TableReader : public RowSource {

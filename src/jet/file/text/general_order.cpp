@@ -1,3 +1,4 @@
+// Weights of the characters in the General order.
 #include "jet/file/text/general_order.h"
 
 #include <charconv>

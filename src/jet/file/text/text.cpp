@@ -1,3 +1,4 @@
+// Texts of the file, in UTF-16, compressed or in a code page, from and to UTF-8.
 #include "jet/file/text/text.h"
 
 #include <algorithm>

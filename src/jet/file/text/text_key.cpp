@@ -1,3 +1,4 @@
+// Sort keys of texts in the General order, from the weights of their characters.
 #include "jet/file/text/text_key.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Rows of the old file in the columns of the new one.
 #include "jet/file/write/carried_rows.h"
 
 #include <array>

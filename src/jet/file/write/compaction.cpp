@@ -1,3 +1,6 @@
+// The compact copy of a database.
+#include "jet/file/write/compaction.h"
+
 #include <algorithm>
 #include <map>
 #include <numeric>
@@ -7,10 +10,8 @@
 #include "jet/file/page/global_map.h"
 #include "jet/file/read/catalogue.h"
 #include "jet/file/read/page_use.h"
-#include "jet/file/write/database_writer.h"
 #include "jet/file/write/table_writer.h"
 
-/// The compact copy of a database.
 namespace jet::file {
 
 namespace {

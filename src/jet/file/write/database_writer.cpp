@@ -1,3 +1,4 @@
+// The file that an open one becomes: changed tables written, all other pages carried over.
 #include "jet/file/write/database_writer.h"
 
 #include <algorithm>

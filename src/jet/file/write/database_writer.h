@@ -33,13 +33,6 @@ struct Changes {
 /// the rows violate is error 3022 or 3058, a row that doesn't fit 3047; space 3026, I/O 3043.
 void writeChanged(const PageFile& source, Changes changes, platform::File& out);
 
-/// Writes to `out` a compact copy of `source` (Jet 4): every table anew, nothing unused left, dropped
-/// columns' places neither, definitions on their pages.
-void writeCompacted(const PageFile& source, platform::File& out);
-
-/// Writes to `out` the empty Jet 4 database: header, four system tables, three containers.
-void writeEmptyDatabase(platform::File& out);
-
 /// Pages that new definitions may take: lowest first, neither used in the file nor given out before.
 class FreePages {
  public:

@@ -1,3 +1,4 @@
+// A table definition as the bytes of its pages.
 #include "jet/file/write/definition_writer.h"
 
 #include <algorithm>

@@ -1,3 +1,7 @@
+// The empty database: page 0, the four system tables and their first rows, page by page as the engine lays
+// them out.
+#include "jet/file/write/empty_database.h"
+
 #include <algorithm>
 #include <array>
 
@@ -8,11 +12,8 @@
 #include "jet/file/read/page_use.h"
 #include "jet/file/system_tables.h"
 #include "jet/file/text/text.h"
-#include "jet/file/write/database_writer.h"
 #include "jet/file/write/table_writer.h"
 
-/// The empty database: page 0, the four system tables and their first rows, page by page as the engine lays
-/// them out.
 namespace jet::file {
 
 namespace {

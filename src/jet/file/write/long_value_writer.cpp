@@ -1,3 +1,4 @@
+// Memo and OLE values written to the pages outside their rows.
 #include "jet/file/write/long_value_writer.h"
 
 #include <algorithm>

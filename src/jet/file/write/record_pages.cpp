@@ -1,3 +1,4 @@
+// Data pages of one owner, filled with records.
 #include "jet/file/write/record_pages.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Rows of a table as the bytes of their records.
 #include "jet/file/write/row_encoder.h"
 
 #include <algorithm>

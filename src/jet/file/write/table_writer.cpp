@@ -1,3 +1,4 @@
+// One table written anew, step by step.
 #include "jet/file/write/table_writer.h"
 
 #include <algorithm>
