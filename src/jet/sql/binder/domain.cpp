@@ -119,7 +119,7 @@ void Binder::expectCriteria(const bound::Select& select, const std::string& piec
     if (!table) continue;
     for (const file::Column& column : table->columns) {
       if (!file::sameName(column.name, word)) continue;
-      context_.noteCompared({Type::Null, bound::Column{source->source, "c" + std::to_string(column.number)}});
+      context_.noteCompared({Type::Null, bound::Column{source->source, column.number}});
     }
   }
 }

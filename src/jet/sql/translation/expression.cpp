@@ -38,7 +38,11 @@ std::string quoted(std::string_view text) {
 
 bool isStored(const Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
-  return std::holds_alternative<bound::Literal>(expression.node) || (column && column->name.starts_with('c'));
+  return std::holds_alternative<bound::Literal>(expression.node) || (column && !column->ofQuery);
+}
+
+std::string columnName(const bound::Column& column) {
+  return (column.ofQuery ? "x" : "c") + std::to_string(column.number);
 }
 
 Sql booleanValue(Sql condition) {
@@ -106,8 +110,8 @@ Sql Translator::translate(const bound::Literal& node, Type) {
 
 Sql Translator::translate(const bound::Column& node, Type) {
   if (gathering_) return {gathered(node)};
-  if (newRow_) return {"NEW." + node.name};
-  return {"a" + std::to_string(node.source) + "." + node.name};
+  if (newRow_) return {"NEW." + columnName(node)};
+  return {"a" + std::to_string(node.source) + "." + columnName(node)};
 }
 
 Sql Translator::translate(const bound::Parameter& node, Type) {

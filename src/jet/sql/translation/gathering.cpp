@@ -12,10 +12,10 @@ std::string Translator::gatheredAs(Gathering& gathering, std::string text) {
 
 std::string Translator::gathered(const bound::Column& column) {
   if (column.source != gathering_->target) {
-    return gatheredAs(*gathering_, "a" + std::to_string(column.source) + "." + column.name);
+    return gatheredAs(*gathering_, "a" + std::to_string(column.source) + "." + columnName(column));
   }
   gathering_->readsTarget = true;
-  return "t" + std::to_string(gathering_->page) + "." + column.name;
+  return "t" + std::to_string(gathering_->page) + "." + columnName(column);
 }
 
 Sql Translator::gathered(const std::function<Sql()>& subquery) {

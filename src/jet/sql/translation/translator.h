@@ -143,6 +143,9 @@ class Translator {
 /// Longs can lie beyond.
 bool isStored(const bound::Expression& expression);
 
+/// The column under the name that it has in the image, c<number>, or in the query, x<number>.
+std::string columnName(const bound::Column& column);
+
 /// `-` before a condition: -1 or 0, as the image keeps a Boolean.
 Sql booleanValue(Sql condition);
 
