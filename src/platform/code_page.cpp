@@ -1,6 +1,6 @@
 #include "platform/code_page.h"
 
-#include <cstdint>
+#include "runtime/letters.h"
 
 namespace platform {
 
@@ -15,41 +15,7 @@ constexpr char16_t special[] = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
-void append(std::string& utf8, char16_t character) {
-  if (character < 0x80) {
-    utf8 += static_cast<char>(character);
-    return;
-  }
-  if (character < 0x800) {
-    utf8 += static_cast<char>(0xC0 | (character >> 6));
-  } else {
-    utf8 += static_cast<char>(0xE0 | (character >> 12));
-    utf8 += static_cast<char>(0x80 | ((character >> 6) & 0x3F));
-  }
-  utf8 += static_cast<char>(0x80 | (character & 0x3F));
-}
-
-/// Takes the first character off `utf8`; a byte that begins none comes out as U+FFFD.
-std::uint32_t takeCharacter(std::string_view& utf8) {
-  constexpr std::uint32_t none = 0xFFFD;
-  const auto first = static_cast<unsigned char>(utf8[0]);
-  const std::size_t length = first < 0x80   ? 1
-                             : first < 0xC2 ? 0
-                             : first < 0xE0 ? 2
-                             : first < 0xF0 ? 3
-                             : first < 0xF5 ? 4
-                                            : 0;
-  std::uint32_t character = length == 1 ? first : first & (0x7Fu >> length);
-  bool good = length != 0 && length <= utf8.size();
-  for (std::size_t i = 1; good && i < length; ++i) {
-    good = (static_cast<unsigned char>(utf8[i]) & 0xC0) == 0x80;
-    character = (character << 6) | (static_cast<unsigned char>(utf8[i]) & 0x3F);
-  }
-  utf8.remove_prefix(good ? length : 1);
-  return good ? character : none;
-}
-
-char byteOf(std::uint32_t character) {
+char byteOf(char32_t character) {
   if (character < firstSpecial || (character > lastSpecial && character <= 0xFF))
     return static_cast<char>(character);
   for (unsigned byte = firstSpecial; byte <= lastSpecial; ++byte)
@@ -66,14 +32,15 @@ char16_t codePage1252Character(unsigned char byte) {
 std::string fromCodePage1252(std::string_view bytes) {
   std::string utf8;
   utf8.reserve(bytes.size());
-  for (const char byte : bytes) append(utf8, codePage1252Character(static_cast<unsigned char>(byte)));
+  for (const char byte : bytes)
+    runtime::appendUtf8(codePage1252Character(static_cast<unsigned char>(byte)), utf8);
   return utf8;
 }
 
 std::string toCodePage1252(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
-  while (!utf8.empty()) bytes += byteOf(takeCharacter(utf8));
+  while (!utf8.empty()) bytes += byteOf(runtime::takeValidCharacter(utf8));
   return bytes;
 }
 

@@ -51,7 +51,7 @@ class Lexer {
   std::string_view take(std::size_t bytes) {
     const std::string_view taken = rest_.substr(0, bytes);
     rest_.remove_prefix(bytes);
-    for (char c : taken) position_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    for (char c : taken) position_ += !runtime::continuesCharacter(c);
     return taken;
   }
 

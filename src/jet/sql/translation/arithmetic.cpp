@@ -1,4 +1,5 @@
 #include "jet/sql/translation/translator.h"
+#include "runtime/join.h"
 
 namespace jet::sql {
 
@@ -103,14 +104,13 @@ Sql Translator::translate(const bound::Concatenation& node, Type) {
   }
   // Where no part is certain not to be Null, all may be, and so is the result.
   if (node.nullIsEmpty && !anyText) return {"jet_join(" + list(node.parts) + ")"};
-  std::string text;
-  for (const Expression& part : node.parts) {
+  const auto operand = [&](const Expression& part) {
     Sql piece = value(part);
     const bool literal = std::holds_alternative<bound::Literal>(part.node);
     if (node.nullIsEmpty && (!literal || piece.text == "NULL")) piece = {"ifnull(" + piece.text + ", '')"};
-    text += (text.empty() ? "" : " || ") + within(std::move(piece), Strength::Join);
-  }
-  return {std::move(text), Strength::Join};
+    return within(std::move(piece), Strength::Join);
+  };
+  return {runtime::join(node.parts, " || ", operand), Strength::Join};
 }
 
 }  // namespace jet::sql

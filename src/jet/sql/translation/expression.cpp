@@ -1,6 +1,8 @@
 #include <cstdio>
 
 #include "jet/sql/translation/translator.h"
+#include "runtime/join.h"
+#include "runtime/text.h"
 
 namespace jet::sql {
 
@@ -25,15 +27,6 @@ bool isCondition(const Expression& expression) {
 
 std::string within(Sql sql, Strength least) {
   return sql.strength < least ? "(" + sql.text + ")" : std::move(sql.text);
-}
-
-std::string quoted(std::string_view text) {
-  std::string result = "'";
-  for (char c : text) {
-    if (c == '\'') result += c;
-    result += c;
-  }
-  return result + "'";
 }
 
 bool isStored(const Expression& expression) {
@@ -88,14 +81,12 @@ std::string Translator::rule(const Expression& rule) {
 }
 
 std::string Translator::list(const std::vector<Expression>& expressions) {
-  std::string text;
-  for (const Expression& expression : expressions)
-    text += (text.empty() ? "" : ", ") + value(expression).text;
-  return text;
+  return runtime::join(expressions, ", ",
+                       [&](const Expression& expression) { return value(expression).text; });
 }
 
 Sql Translator::translate(const bound::Literal& node, Type) {
-  if (const auto* text = std::get_if<std::string>(&node.value)) return {quoted(*text)};
+  if (const auto* text = std::get_if<std::string>(&node.value)) return {runtime::quoted(*text)};
   if (const auto* whole = std::get_if<std::int64_t>(&node.value)) {
     return {std::to_string(*whole), *whole < 0 ? Strength::Sign : Strength::Whole};
   }

@@ -149,9 +149,6 @@ std::string columnName(const bound::Column& column);
 /// `-` before a condition: -1 or 0, as the image keeps a Boolean.
 Sql booleanValue(Sql condition);
 
-/// A text as SQLite writes it.
-std::string quoted(std::string_view text);
-
 /// SQL with the order in which values of `type` are compared.
 Sql withCollation(Sql sql, Type type);
 

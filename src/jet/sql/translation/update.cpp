@@ -1,14 +1,12 @@
 #include "jet/sql/translation/translator.h"
+#include "runtime/join.h"
 
 namespace jet::sql {
 
 std::string Translator::assignments(const bound::Target& target) {
-  std::string text;
-  for (const bound::Assignment& assignment : target.assignments) {
-    text += (text.empty() ? "c" : ", c") + std::to_string(assignment.column) + " = " +
-            value(assignment.value).text;
-  }
-  return text;
+  return runtime::join(target.assignments, ", ", [&](const bound::Assignment& assignment) {
+    return "c" + std::to_string(assignment.column) + " = " + value(assignment.value).text;
+  });
 }
 
 /// The statements that change the row of a target, known by the gathered column k<key>.
