@@ -1,3 +1,4 @@
+// UTF-8 read and written, and the case of letters.
 #include "runtime/letters.h"
 
 namespace runtime {

@@ -1,3 +1,4 @@
+// The language's functions of texts, over UTF-8.
 #include "runtime/text.h"
 
 #include <algorithm>
@@ -9,7 +10,7 @@ namespace runtime {
 
 namespace {
 
-constexpr std::int64_t longestText = 1 << 24;
+constexpr std::int64_t LongestText = 1 << 24;
 
 /// Byte at which character `index`, from 0, begins; the text's end behind the last one.
 std::size_t offsetOf(std::string_view text, std::size_t index) {
@@ -231,7 +232,7 @@ std::string strReverse(std::string_view text) {
 }
 
 std::string repeated(std::int64_t times, std::string_view text) {
-  if (text.empty() || times < 0 || times > longestText) throw languageError(InvalidCall);
+  if (text.empty() || times < 0 || times > LongestText) throw languageError(InvalidCall);
   const std::string_view character = left(text, 1);
   if (character.size() == 1) return std::string(static_cast<std::size_t>(times), character.front());
   std::string result;

@@ -1,3 +1,4 @@
+// The way of a statement: parsed, bound, translated.
 #include "jet/sql/compile.h"
 
 #include "jet/sql/binder/binder.h"

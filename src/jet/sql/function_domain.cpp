@@ -1,3 +1,4 @@
+// DLookup and its kin whose texts are known only when a row is read: compiled and run then.
 #include <memory>
 
 #include "jet/file/errors.h"

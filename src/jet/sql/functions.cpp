@@ -1,3 +1,4 @@
+// Makes all functions known to a connection.
 #include "jet/sql/functions.h"
 
 #include "jet/sql/function_support.h"

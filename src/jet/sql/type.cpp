@@ -1,3 +1,4 @@
+// The types of columns, and their names.
 #include "jet/sql/type.h"
 
 #include <cstddef>
@@ -42,7 +43,7 @@ Type typeOf(file::ColumnType column) {
 
 file::ColumnType columnTypeOf(Type type) {
   using file::ColumnType;
-  constexpr ColumnType columns[typeCount] = {
+  constexpr ColumnType columns[TypeCount] = {
       ColumnType::Text,    ColumnType::Text, ColumnType::Boolean,  ColumnType::Byte,
       ColumnType::Integer, ColumnType::Long, ColumnType::Currency, ColumnType::Single,
       ColumnType::Double,  ColumnType::Date, ColumnType::Numeric,  ColumnType::Text,
@@ -51,7 +52,7 @@ file::ColumnType columnTypeOf(Type type) {
 }
 
 const char* typeName(Type type) {
-  static constexpr const char* names[typeCount] = {"Variant",  "Null",   "Boolean", "Byte", "Integer", "Long",
+  static constexpr const char* names[TypeCount] = {"Variant",  "Null",   "Boolean", "Byte", "Integer", "Long",
                                                    "Currency", "Single", "Double",  "Date", "Decimal", "Text",
                                                    "Memo",     "Guid",   "Binary",  "Ole"};
   return names[static_cast<std::size_t>(type)];

@@ -1,3 +1,4 @@
+// What a statement's parts share while they are bound.
 #include "jet/sql/binder/context.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TRANSFORM written out as a SELECT: every column is the value's tree again, over fewer rows.
 #include "jet/sql/binder/crosstab.h"
 
 #include <algorithm>

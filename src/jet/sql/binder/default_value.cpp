@@ -1,3 +1,4 @@
+// Default values of the columns that an INSERT leaves out.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"

@@ -1,3 +1,4 @@
+// Names: a column, an alias, a column of a level around, or else a parameter.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"

@@ -1,3 +1,4 @@
+// Names of FROM and of their columns.
 #include "jet/sql/binder/scope.h"
 
 #include <algorithm>

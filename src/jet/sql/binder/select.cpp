@@ -1,3 +1,4 @@
+// SELECT: the list, grouping, and what may stand outside of an aggregate.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"

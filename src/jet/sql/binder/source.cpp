@@ -1,3 +1,4 @@
+// FROM: tables, stored queries, queries and their joins.
 #include <algorithm>
 
 #include "jet/file/errors.h"

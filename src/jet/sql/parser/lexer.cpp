@@ -1,3 +1,4 @@
+// The characters of a statement as tokens.
 #include "jet/sql/parser/token.h"
 #include "jet/sql/syntax_error.h"
 #include "runtime/letters.h"
@@ -6,7 +7,7 @@ namespace jet::sql {
 
 namespace {
 
-constexpr std::string_view identity = "@@IDENTITY";
+constexpr std::string_view IdentityWord = "@@IDENTITY";
 
 char upper(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -68,9 +69,10 @@ class Lexer {
     }
     switch (first) {
       case '@':
-        if (sameWord(rest_.substr(0, identity.size()), identity) && !continuesWord(at(identity.size()))) {
+        if (sameWord(rest_.substr(0, IdentityWord.size()), IdentityWord) &&
+            !continuesWord(at(IdentityWord.size()))) {
           token.kind = Token::Kind::Word;
-          token.text = take(identity.size());
+          token.text = take(IdentityWord.size());
           return;
         }
         return readSymbol(token);

@@ -1,3 +1,4 @@
+// FROM written from rows of sources and joins: a tree grows, join by join.
 #include "jet/sql/stored/from_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A statement by its tokens, each with its place in the text.
 #include "jet/sql/stored/statement_text.h"
 
 #include <algorithm>

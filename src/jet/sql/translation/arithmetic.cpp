@@ -1,3 +1,4 @@
+// Arithmetic and joined texts in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
 #include "runtime/join.h"
 
@@ -12,7 +13,7 @@ bool isNative(ArithmeticOperator op) {
          op == ArithmeticOperator::Multiply;
 }
 
-/// SQLite's own operators reckon with 64 bits or with Doubles; one check around a chain of them finds a
+/// SQLite's own operators compute with 64 bits or with Doubles; one check around a chain of them finds a
 /// result that its type can't hold. Whole numbers have none: beyond a Long they go on as Doubles, as those of
 /// a Variant do ("* Operator" in the language reference of Visual Basic for Applications,
 /// learn.microsoft.com/office/vba/language/reference/user-interface-help/operator: a result that "is a Long,

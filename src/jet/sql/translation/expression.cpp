@@ -1,3 +1,4 @@
+// Expressions in SQLite's SQL: dispatch to the noun, columns, literals.
 #include <cstdio>
 
 #include "jet/sql/translation/translator.h"
@@ -65,7 +66,7 @@ Sql Translator::asLong(const Expression& expression) {
 
 Sql Translator::ordered(const Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
-  const bool lost = gathering_ && column && column->source != gathering_->target;
+  const bool lost = spool_ && column && column->source != spool_->target;
   Sql sql = value(expression);
   // Alone, a whole number would be the place of a column.
   if (sql.text.find_first_not_of("0123456789-() ") == std::string::npos)
@@ -100,7 +101,7 @@ Sql Translator::translate(const bound::Literal& node, Type) {
 }
 
 Sql Translator::translate(const bound::Column& node, Type) {
-  if (gathering_) return {gathered(node)};
+  if (spool_) return {spooled(node)};
   if (newRow_) return {"NEW." + columnName(node)};
   return {"a" + std::to_string(node.source) + "." + columnName(node)};
 }

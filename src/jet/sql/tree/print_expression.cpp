@@ -1,3 +1,4 @@
+// Expressions printed back as Jet SQL.
 #include "jet/sql/tree/print.h"
 #include "jet/sql/tree/query.h"
 #include "runtime/join.h"

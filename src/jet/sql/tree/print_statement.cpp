@@ -1,3 +1,4 @@
+// Statements and queries printed back as Jet SQL.
 #include "jet/sql/tree/print.h"
 #include "jet/sql/tree/statement.h"
 #include "runtime/join.h"
