@@ -40,10 +40,10 @@ void printAndParse(const std::string& text) {
 /// The text that a stored query shows is the text of the same query. Names that are words of clauses are
 /// asked about only as the printer writes them, in brackets.
 void storeAndShow(const std::string& text) {
-  sql::putTogether(sql::takeApart(text));
-  const std::string shown = sql::putTogether(sql::takeApart(sql::tree::print(sql::parse(text))));
+  sql::queryText(sql::decodeQuery(text));
+  const std::string shown = sql::queryText(sql::decodeQuery(sql::tree::print(sql::parse(text))));
   try {
-    const std::string again = sql::putTogether(sql::takeApart(shown));
+    const std::string again = sql::queryText(sql::decodeQuery(shown));
     if (again != shown) broken("is shown in another way once stored again", shown + "\n" + again);
     sql::parse(shown);
   } catch (const runtime::Error& error) {

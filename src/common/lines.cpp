@@ -12,13 +12,8 @@ constexpr std::string_view segnoUtf8 = "\xEF\xBB\xBF";
 /// UTF-8 as a file claims to hold it: a byte that belongs to no character becomes U+FFFD.
 std::string daUtf8(std::string_view byte) {
   std::string testo;
-  for (;;) {
-    const std::size_t buoni = runtime::utf8Prefix(byte);
-    testo += byte.substr(0, buoni);
-    if (buoni == byte.size()) return testo;
-    testo += "\uFFFD";
-    byte.remove_prefix(buoni + 1);
-  }
+  while (!byte.empty()) runtime::appendUtf8(runtime::takeValidCharacter(byte), testo);
+  return testo;
 }
 
 }  // namespace

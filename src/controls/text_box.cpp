@@ -4,12 +4,13 @@
 #include <algorithm>
 
 #include "controls/property_error.h"
+#include "runtime/letters.h"
 
 namespace controls {
 namespace {
 
 bool beginsCharacter(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+  return !runtime::continuesCharacter(byte);
 }
 
 int charactersOf(std::string_view text) {

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "runtime/join.h"
+
 namespace platform {
 
 namespace {
@@ -67,7 +69,7 @@ class Splitter {
   std::string_view rest_;
 };
 
-std::string quoted(const std::string& word) {
+std::string commandLineWord(const std::string& word) {
   if (!word.empty() && word.find_first_of(" \t\"") == std::string::npos) return word;
   std::string result = "\"";
   std::size_t backslashes = 0;
@@ -89,9 +91,7 @@ std::vector<std::string> splitCommandLine(std::string_view line) {
 }
 
 std::string joinCommandLine(const std::vector<std::string>& words) {
-  std::string line;
-  for (const std::string& word : words) line += (line.empty() ? "" : " ") + quoted(word);
-  return line;
+  return runtime::join(words, " ", commandLineWord);
 }
 
 }  // namespace platform

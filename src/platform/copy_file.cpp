@@ -24,11 +24,11 @@ File holdTarget(const std::string& path) {
 }
 
 void copyContent(const File& source, File& target) {
-  std::vector<std::byte> block(blockSize);
-  for (std::uint64_t offset = 0;; offset += blockSize) {
+  std::vector<std::byte> block(BlockSize);
+  for (std::uint64_t offset = 0;; offset += BlockSize) {
     const std::size_t count = source.readAt(offset, block);
     if (count > 0) target.writeAt(offset, std::span(block).first(count));
-    if (count < blockSize) return;
+    if (count < BlockSize) return;
   }
 }
 

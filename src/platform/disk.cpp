@@ -15,7 +15,7 @@ struct FaultText {
 };
 
 /// In the order of DiskFault.
-constexpr FaultText faultTexts[] = {
+constexpr FaultText FaultTexts[] = {
     {runtime::FileNotFound, "File inesistente"},
     {runtime::PathNotFound, "Cartella inesistente"},
     {runtime::PathFileAccess, "Accesso negato"},
@@ -28,7 +28,7 @@ constexpr FaultText faultTexts[] = {
 };
 
 const FaultText& faultText(DiskFault fault) {
-  return faultTexts[static_cast<std::size_t>(fault)];
+  return FaultTexts[static_cast<std::size_t>(fault)];
 }
 
 std::atomic<DiskObserver*> observerInForce = nullptr;

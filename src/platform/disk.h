@@ -16,7 +16,7 @@
 namespace platform {
 
 /// Bytes at once where a whole file is read.
-inline constexpr std::size_t blockSize = 1 << 20;
+inline constexpr std::size_t BlockSize = 1 << 20;
 
 enum class DiskFault { NotFound, PathNotFound, AccessDenied, Sharing, NoSpace, Exists, IsFolder, Io, Rights };
 

@@ -39,13 +39,13 @@ void appendToFile(const std::string& path, std::string_view content) {
 
 bool sameContent(const std::string& a, const std::string& b) {
   const File first = openFile(a, OpenMode::Read), second = openFile(b, OpenMode::Read);
-  std::vector<std::byte> left(blockSize), right(blockSize);
-  for (std::uint64_t offset = 0;; offset += blockSize) {
+  std::vector<std::byte> left(BlockSize), right(BlockSize);
+  for (std::uint64_t offset = 0;; offset += BlockSize) {
     const std::size_t count = first.readAt(offset, left);
     if (second.readAt(offset, right) != count) return false;
     if (!std::equal(left.begin(), left.begin() + static_cast<std::ptrdiff_t>(count), right.begin()))
       return false;
-    if (count < blockSize) return true;
+    if (count < BlockSize) return true;
   }
 }
 

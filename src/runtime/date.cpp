@@ -1,3 +1,4 @@
+// Days and seconds as a calendar reads them, and back.
 #include "runtime/date.h"
 
 #include <chrono>
@@ -11,15 +12,16 @@ namespace {
 
 namespace calendar = std::chrono;
 
-constexpr double firstDay = -657434;  // 1 January 100
-constexpr double lastDay = 2958465;   // 31 December 9999
+constexpr double FirstDay = -657434;  // 1 January 100
+constexpr double LastDay = 2958465;   // 31 December 9999
 
-constexpr calendar::sys_days dayZero{calendar::year{1899} / calendar::December / 30};
+constexpr calendar::sys_days DayZero{calendar::year{1899} / calendar::December / 30};
 
-constexpr std::string_view months[] = {"gennaio", "febbraio", "marzo",     "aprile",  "maggio",   "giugno",
-                                       "luglio",  "agosto",   "settembre", "ottobre", "novembre", "dicembre"};
-constexpr std::string_view weekdays[] = {"domenica", "lunedì",  "martedì", "mercoledì",
-                                         "giovedì",  "venerdì", "sabato"};
+constexpr std::string_view MonthNames[] = {"gennaio",   "febbraio", "marzo",    "aprile",
+                                           "maggio",    "giugno",   "luglio",   "agosto",
+                                           "settembre", "ottobre",  "novembre", "dicembre"};
+constexpr std::string_view WeekdayNames[] = {"domenica", "lunedì",  "martedì", "mercoledì",
+                                             "giovedì",  "venerdì", "sabato"};
 
 void appendPadded(int value, std::size_t width, std::string& out) {
   const std::string digits = std::to_string(value);
@@ -38,21 +40,21 @@ Date dateFromParts(int year, int month, int day, int hour, int minute, int secon
   if (year < 100 || year > 9999 || !partsAreGood || !civil.ok() || !timeIsGood)
     throw languageError(InvalidCall);
   const double days = dayNumber(year, month, day);
-  const double fraction = static_cast<double>((hour * 60 + minute) * 60 + second) / secondsOfDay;
+  const double fraction = static_cast<double>((hour * 60 + minute) * 60 + second) / SecondsOfDay;
   return Date{days < 0 ? days - fraction : days + fraction};
 }
 
 bool isInCalendar(Date date) {
-  return date.days > firstDay - 1 && date.days < lastDay + 1;
+  return date.days > FirstDay - 1 && date.days < LastDay + 1;
 }
 
 Moment momentOf(Date date) {
   if (!isInCalendar(date)) throw languageError(Overflow);
   double whole = 0;
   const double fraction = std::abs(std::modf(date.days, &whole));
-  Moment moment{static_cast<int>(whole), static_cast<int>(std::lround(fraction * secondsOfDay))};
-  if (moment.second == secondsOfDay) {  // nearest second of the next day; there is none after the last
-    if (moment.day == static_cast<int>(lastDay)) {
+  Moment moment{static_cast<int>(whole), static_cast<int>(std::lround(fraction * SecondsOfDay))};
+  if (moment.second == SecondsOfDay) {  // nearest second of the next day; there is none after the last
+    if (moment.day == static_cast<int>(LastDay)) {
       --moment.second;
     } else {
       moment = {moment.day + 1, 0};
@@ -63,7 +65,7 @@ Moment momentOf(Date date) {
 
 DateParts partsOf(Date date) {
   const Moment moment = momentOf(date);
-  const calendar::sys_days day = dayZero + calendar::days{moment.day};
+  const calendar::sys_days day = DayZero + calendar::days{moment.day};
   const calendar::year_month_day civil{day};
   DateParts parts;
   parts.year = static_cast<int>(civil.year());
@@ -79,7 +81,7 @@ DateParts partsOf(Date date) {
 int dayNumber(int year, int month, int day) {
   const calendar::year_month_day civil{calendar::year{year}, calendar::month{static_cast<unsigned>(month)},
                                        calendar::day{static_cast<unsigned>(day)}};
-  return static_cast<int>((calendar::sys_days{civil} - dayZero).count());
+  return static_cast<int>((calendar::sys_days{civil} - DayZero).count());
 }
 
 int daysOfMonth(int year, int month) {
@@ -112,11 +114,11 @@ std::string dateText(Date date) {
 
 std::string_view monthName(int month) {
   if (month < 1 || month > 12) throw languageError(InvalidCall);
-  return months[month - 1];
+  return MonthNames[month - 1];
 }
 std::string_view weekdayName(int weekday) {
   if (weekday < 1 || weekday > 7) throw languageError(InvalidCall);
-  return weekdays[weekday - 1];
+  return WeekdayNames[weekday - 1];
 }
 std::string_view shortMonthName(int month) {
   return monthName(month).substr(0, 3);

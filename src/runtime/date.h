@@ -9,7 +9,7 @@
 /// The civil calendar behind a Date: years 100 to 9999, seconds as the finest part.
 namespace runtime {
 
-inline constexpr int secondsOfDay = 24 * 60 * 60;
+inline constexpr int SecondsOfDay = 24 * 60 * 60;
 
 struct DateParts {
   int year = 1899;

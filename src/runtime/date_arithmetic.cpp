@@ -1,3 +1,4 @@
+// Dates plus intervals, and the intervals between dates.
 #include "runtime/date_arithmetic.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace runtime {
 
 namespace {
 
-/// How an interval is reckoned: in months, in days, or in seconds.
+/// How an interval is counted: in months, in days, or in seconds.
 enum class Measure { Months, Days, Seconds };
 
 struct Interval {
@@ -23,7 +24,7 @@ struct Interval {
   int (*part)(const DateParts&);
 };
 
-constexpr Interval intervals[] = {
+constexpr Interval Intervals[] = {
     {"yyyy", Measure::Months, 12, [](const DateParts& parts) { return parts.year; }},
     {"q", Measure::Months, 3, [](const DateParts& parts) { return (parts.month + 2) / 3; }},
     {"m", Measure::Months, 1, [](const DateParts& parts) { return parts.month; }},
@@ -43,7 +44,7 @@ const Interval& intervalOf(std::string_view text) {
       if ((text[i] | 0x20) != name[i]) return false;
     return true;
   };
-  for (const Interval& interval : intervals)
+  for (const Interval& interval : Intervals)
     if (same(interval.name)) return interval;
   throw languageError(InvalidCall);
 }
@@ -53,7 +54,7 @@ std::int64_t floorDivide(std::int64_t value, std::int64_t divisor) {
 }
 
 std::int64_t secondsOf(Moment moment) {
-  return std::int64_t{moment.day} * secondsOfDay + moment.second;
+  return std::int64_t{moment.day} * SecondsOfDay + moment.second;
 }
 
 /// Day `day` with the time of `date`, to its last fraction. Error 5 outside the calendar.
@@ -66,8 +67,8 @@ Date withDay(std::int64_t day, Date date) {
 }
 
 Date withSeconds(std::int64_t seconds) {
-  const std::int64_t day = floorDivide(seconds, secondsOfDay);
-  const Date time{static_cast<double>(seconds - day * secondsOfDay) / secondsOfDay};
+  const std::int64_t day = floorDivide(seconds, SecondsOfDay);
+  const Date time{static_cast<double>(seconds - day * SecondsOfDay) / SecondsOfDay};
   return withDay(day, time);
 }
 
@@ -88,7 +89,7 @@ std::int64_t weekIndex(std::int64_t day, int firstDay) {
 
 int checkedFirstDay(int firstDay) {
   if (firstDay < 0 || firstDay > 7) throw languageError(InvalidCall);
-  return firstDay == 0 ? italian::firstDayOfWeek : firstDay;
+  return firstDay == 0 ? italian::FirstDayOfWeek : firstDay;
 }
 
 /// Day on which week 1 of `year` begins.

@@ -5,7 +5,7 @@
 
 #include "runtime/variant.h"
 
-/// The language's reckoning with dates. An interval is yyyy years, q quarters, m months, y, d or w days, ww
+/// The language's arithmetic of dates. An interval is yyyy years, q quarters, m months, y, d or w days, ww
 /// weeks, h hours, n minutes, s seconds, in either case; error 5 for another text. Days of the week are
 /// numbered from 1, and 1 as the first day means Sunday, 2 Monday, 0 the country's (Monday). The first week
 /// of the year is that of 1 January (1, or 0), the first with four days (2) or the first whole one (3).

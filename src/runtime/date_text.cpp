@@ -1,3 +1,4 @@
+// Texts as dates: what is written, in which order, is found by trying the forms one after the other.
 #include <array>
 #include <charconv>
 #include <ctime>
@@ -59,13 +60,13 @@ std::optional<std::vector<Piece>> split(std::string_view text) {
   return pieces;
 }
 
-constexpr std::string_view englishMonths[] = {"january",   "february", "march",    "april",
+constexpr std::string_view EnglishMonths[] = {"january",   "february", "march",    "april",
                                               "may",       "june",     "july",     "august",
                                               "september", "october",  "november", "december"};
 
 int monthOfWord(std::string_view word) {
   for (int month = 1; month <= 12; ++month)
-    for (const std::string_view name : {monthName(month), englishMonths[month - 1]})
+    for (const std::string_view name : {monthName(month), EnglishMonths[month - 1]})
       if (word == name || word == name.substr(0, 3)) return month;
   return 0;
 }

@@ -1,3 +1,4 @@
+// The descriptions of the language's errors.
 #include "runtime/error.h"
 
 namespace runtime {
@@ -9,7 +10,7 @@ struct Description {
   const char* text;
 };
 
-constexpr Description descriptions[] = {
+constexpr Description Descriptions[] = {
     {InvalidCall, "Argomento non ammesso"},
     {Overflow, "Valore troppo grande o troppo piccolo per il suo tipo"},
     {SubscriptOutOfRange, "Riga o elemento oltre i limiti della tabella"},
@@ -28,7 +29,7 @@ constexpr Description descriptions[] = {
 }  // namespace
 
 Error languageError(ErrorNumber number) {
-  for (const Description& description : descriptions)
+  for (const Description& description : Descriptions)
     if (description.number == number) return Error(number, "AggNorvo", description.text);
   return Error(number, "AggNorvo", "Errore " + std::to_string(number));
 }

@@ -1,3 +1,4 @@
+// Format: which of the named and written formats a value gets.
 #include "runtime/format.h"
 
 #include "runtime/date.h"
@@ -17,16 +18,16 @@ struct Named {
   std::string_view pattern;
 };
 
-constexpr Named named[] = {
-    {"general date", Kind::Date, italian::generalDate},
-    {"long date", Kind::Date, italian::longDate},
-    {"medium date", Kind::Date, italian::mediumDate},
-    {"short date", Kind::Date, italian::shortDate},
-    {"long time", Kind::Date, italian::longTime},
-    {"medium time", Kind::Date, italian::mediumTime},
-    {"short time", Kind::Date, italian::shortTime},
+constexpr Named NamedFormats[] = {
+    {"general date", Kind::Date, italian::GeneralDate},
+    {"long date", Kind::Date, italian::LongDate},
+    {"medium date", Kind::Date, italian::MediumDate},
+    {"short date", Kind::Date, italian::ShortDate},
+    {"long time", Kind::Date, italian::LongTime},
+    {"medium time", Kind::Date, italian::MediumTime},
+    {"short time", Kind::Date, italian::ShortTime},
     {"general number", Kind::Number, ""},
-    {"currency", Kind::Number, italian::currency},
+    {"currency", Kind::Number, italian::Currency},
     {"fixed", Kind::Number, "0.00"},
     {"standard", Kind::Number, "#,##0.00"},
     {"percent", Kind::Number, "0.00%"},
@@ -39,7 +40,7 @@ constexpr Named named[] = {
 Named kindAndPattern(std::string_view text) {
   constexpr std::size_t longestName = 14;
   if (text.size() <= longestName) {
-    for (const Named& format : named)
+    for (const Named& format : NamedFormats)
       if (text.size() == format.name.size() && pattern::startsWith(text, format.name)) return format;
   }
   return {{}, pattern::kindOf(text), text};

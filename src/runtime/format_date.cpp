@@ -1,3 +1,4 @@
+// Format's codes of dates and times.
 #include "runtime/date.h"
 #include "runtime/date_arithmetic.h"
 #include "runtime/format_pattern.h"
@@ -41,10 +42,10 @@ struct Code {
 };
 
 /// The longer code of a letter before the shorter one.
-constexpr Code codes[] = {
+constexpr Code Codes[] = {
     {"c", [](const Subject& s, std::string& out) { out += dateText(s.date); }},
-    {"dddddd", [](const Subject& s, std::string& out) { whole(s, italian::longDate, out); }},
-    {"ddddd", [](const Subject& s, std::string& out) { whole(s, italian::shortDate, out); }},
+    {"dddddd", [](const Subject& s, std::string& out) { whole(s, italian::LongDate, out); }},
+    {"ddddd", [](const Subject& s, std::string& out) { whole(s, italian::ShortDate, out); }},
     {"dddd", [](const Subject& s, std::string& out) { out += weekdayName(s.parts.weekday); }},
     {"ddd", [](const Subject& s, std::string& out) { out += shortWeekdayName(s.parts.weekday); }},
     {"dd", twoDigits<&DateParts::day>},
@@ -66,7 +67,7 @@ constexpr Code codes[] = {
     {"n", number<&DateParts::minute>},
     {"ss", twoDigits<&DateParts::second>},
     {"s", number<&DateParts::second>},
-    {"ttttt", [](const Subject& s, std::string& out) { whole(s, italian::longTime, out); }},
+    {"ttttt", [](const Subject& s, std::string& out) { whole(s, italian::LongTime, out); }},
     {"q", [](const Subject& s, std::string& out) { out += std::to_string(datePart("q", s.date)); }},
     {"ww",
      [](const Subject& s, std::string& out) {
@@ -77,7 +78,7 @@ constexpr Code codes[] = {
 };
 
 const Code* codeAt(std::string_view rest) {
-  for (const Code& code : codes)
+  for (const Code& code : Codes)
     if ((rest[0] | 0x20) == code.text[0] && startsWith(rest, code.text)) return &code;
   return nullptr;
 }

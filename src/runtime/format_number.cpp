@@ -1,3 +1,4 @@
+// Format's codes of numbers: the digits are laid out from the decimal sign to both sides.
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -11,7 +12,7 @@ namespace runtime::pattern {
 
 namespace {
 
-constexpr int singleDigits = 7, doubleDigits = 15;
+constexpr int MostSingleDigits = 7, MostDoubleDigits = 15;
 
 /// The digits of a number, the first one not zero: 0.d1d2d3... * 10^point.
 class Digits {
@@ -22,14 +23,14 @@ class Digits {
                    [&](std::uint8_t number) { whole(number, 0, false); },
                    [&](std::int16_t number) { whole(std::abs(number), 0, number < 0); },
                    [&](std::int32_t number) { whole(std::abs(std::int64_t{number}), 0, number < 0); },
-                   [&](float number) { real(static_cast<double>(number), singleDigits); },
-                   [&](double number) { real(number, doubleDigits); },
+                   [&](float number) { real(static_cast<double>(number), MostSingleDigits); },
+                   [&](double number) { real(number, MostDoubleDigits); },
                    [&](Currency money) {
                      const bool below = money.tenThousandths < 0;
                      const auto amount = static_cast<std::uint64_t>(money.tenThousandths);
                      whole(below ? 0 - amount : amount, 4, below);
                    },
-                   [&](Date date) { real(date.days, doubleDigits); },
+                   [&](Date date) { real(date.days, MostDoubleDigits); },
                    [&](const Decimal& number) { whole(number.magnitude, number.scale, number.negative); },
                    [](const auto&) {},
                },
@@ -83,7 +84,7 @@ class Digits {
     constexpr double exact = 1e15;
     negative_ = value < 0;
     if (value == 0) return;
-    if (significant == doubleDigits && std::abs(value) < exact && value == std::trunc(value))
+    if (significant == MostDoubleDigits && std::abs(value) < exact && value == std::trunc(value))
       return whole(static_cast<std::uint64_t>(std::abs(value)), 0, negative_);
     char buffer[40];
     const char* end = std::to_chars(buffer, buffer + sizeof buffer, std::abs(value),
@@ -199,7 +200,7 @@ class Writer {
     } else if (c == '.' && !decimals_) {
       if (layout_.wholePlaces == 0) writePlaces(digits_.wholeCount(), 1, out);
       decimals_ = true;
-      out += italian::decimalSign;
+      out += italian::DecimalSign;
     } else if (c == ',') {
       // Has done its work in the layout.
     } else if (isExponent(rest_)) {
@@ -214,7 +215,7 @@ class Writer {
   void writePlaces(int from, int to, std::string& out) {
     for (int place = from; place >= to; --place) {
       out += digits_.at(1 - place);
-      if (layout_.grouped && place > 1 && place % 3 == 1) out += italian::thousandsSign;
+      if (layout_.grouped && place > 1 && place % 3 == 1) out += italian::ThousandsSign;
     }
   }
 

@@ -1,3 +1,4 @@
+// What all kinds of formats have in common: sections and literals.
 #include "runtime/format_pattern.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Format's codes of texts.
 #include <algorithm>
 
 #include "runtime/format_pattern.h"

@@ -1,3 +1,4 @@
+// What a program may ask about a value: its type's name and number, whether it is a number or a date.
 #include "runtime/inspection.h"
 
 #include "runtime/date.h"
@@ -14,12 +15,12 @@ struct Kind {
 };
 
 /// In the order of VariantKind.
-constexpr Kind kinds[] = {{"Empty", 0},    {"Null", 1},   {"Boolean", 11}, {"Byte", 17},    {"Integer", 2},
+constexpr Kind Kinds[] = {{"Empty", 0},    {"Null", 1},   {"Boolean", 11}, {"Byte", 17},    {"Integer", 2},
                           {"Long", 3},     {"Single", 4}, {"Double", 5},   {"Currency", 6}, {"Date", 7},
                           {"Decimal", 14}, {"String", 8}, {"Byte()", 8209}};
 
 const Kind& kindOf(const Variant& value) {
-  return kinds[static_cast<std::size_t>(value.kind())];
+  return Kinds[static_cast<std::size_t>(value.kind())];
 }
 
 bool isNumber(std::string_view text) {

@@ -1,3 +1,4 @@
+// UTF-8 read and written, and the case of letters.
 #include "runtime/letters.h"
 
 namespace runtime {
@@ -16,6 +17,26 @@ bool alternates(char32_t c, bool& capitalIsOdd) {
 }
 
 }  // namespace
+
+char32_t takeValidCharacter(std::string_view& utf8) {
+  static constexpr char32_t Least[] = {0, 0, 0x80, 0x800, 0x10000};  // what takes so many bytes
+  const auto lead = static_cast<unsigned char>(utf8.front());
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
+  char32_t character = length == 1 ? lead : lead & (0x7Fu >> length);
+  bool valid = length != 0 && length <= utf8.size();
+  for (std::size_t i = 1; valid && i < length; ++i) {
+    valid = continuesCharacter(utf8[i]);
+    character = character << 6 | (static_cast<unsigned char>(utf8[i]) & 0x3Fu);
+  }
+  valid = valid && character >= Least[length] && character <= 0x10FFFF;
+  utf8.remove_prefix(valid ? length : 1);
+  return valid ? character : Replacement;
+}
 
 void appendUtf8(char32_t c, std::string& out) {
   const auto follow = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
@@ -39,13 +60,10 @@ void appendUtf8(char32_t c, std::string& out) {
 std::size_t utf8Prefix(std::string_view text) {
   std::string_view rest = text;
   while (!rest.empty()) {
-    // Bytes are a character exactly if it is written by them.
-    const std::string_view before = rest;
-    std::string written;
-    const char32_t character = takeCharacter(rest);
-    appendUtf8(character, written);
-    if (character > 0x10FFFF || before.substr(0, before.size() - rest.size()) != written)
-      return text.size() - before.size();
+    const std::size_t before = rest.size();
+    const char32_t character = takeValidCharacter(rest);
+    const bool writtenOut = before - rest.size() > 1;  // the mark itself is a valid character
+    if (character == Replacement && !writtenOut) return text.size() - before;
   }
   return text.size();
 }

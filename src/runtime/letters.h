@@ -23,6 +23,18 @@ inline char32_t takeCharacter(std::string_view& utf8) {
   return character;
 }
 
+/// Stands for what is no UTF-8.
+inline constexpr char32_t Replacement = 0xFFFD;
+
+/// As takeCharacter, but a byte that belongs to no character is taken alone and gives Replacement; a
+/// surrogate alone counts as a character of three bytes.
+char32_t takeValidCharacter(std::string_view& utf8);
+
+/// True for a byte that is not the first of a character.
+constexpr bool continuesCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
 void appendUtf8(char32_t character, std::string& out);
 
 /// How many bytes at the beginning are UTF-8; a surrogate alone counts as a character of three bytes.

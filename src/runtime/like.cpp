@@ -1,3 +1,4 @@
+// Like: a text against a pattern with wildcards.
 #include "runtime/like.h"
 
 #include "runtime/error.h"
@@ -7,7 +8,7 @@ namespace runtime {
 
 namespace {
 
-constexpr std::size_t none = std::string_view::npos;
+constexpr std::size_t NoLength = std::string_view::npos;
 
 /// The small letter of an ASCII character, -1 for another.
 int asciiLetter(char c) {
@@ -62,7 +63,7 @@ std::size_t matchOne(std::string_view pattern, std::string_view character, TextO
       return character.front() >= '0' && character.front() <= '9' ? 1 : 0;
     case '[': {
       const std::size_t close = pattern.find(']', 1);
-      if (close == none) throw Error(93, "Like", "Criterio di Like non valido");
+      if (close == NoLength) throw Error(93, "Like", "Criterio di Like non valido");
       return isInList(character, pattern.substr(1, close - 1), order) ? close + 1 : 0;
     }
     default: {
@@ -77,7 +78,7 @@ std::size_t matchOne(std::string_view pattern, std::string_view character, TextO
 bool isLike(std::string_view text, std::string_view pattern, TextOrder order) {
   std::size_t at = 0, place = 0;
   // Where the last * was and how far it reached: on a mismatch it takes one character more.
-  std::size_t star = none, reached = 0;
+  std::size_t star = NoLength, reached = 0;
   while (true) {
     const std::string_view wanted = pattern.substr(place);
     if (wanted.starts_with("[]")) {
@@ -95,7 +96,7 @@ bool isLike(std::string_view text, std::string_view pattern, TextOrder order) {
     if (length > 0) {
       at += character.size();
       place += length;
-    } else if (star != none && reached < text.size()) {
+    } else if (star != NoLength && reached < text.size()) {
       reached += frontOf(text.substr(reached)).size();
       at = reached;
       place = star;

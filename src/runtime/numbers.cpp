@@ -1,3 +1,4 @@
+// Numbers as texts and texts as numbers, and the language's rounding.
 #include "runtime/numbers.h"
 
 #include <algorithm>
@@ -94,7 +95,7 @@ struct Stripped {
 };
 
 std::optional<Stripped> stripMarks(std::string_view text) {
-  constexpr std::string_view euro = italian::euro;
+  constexpr std::string_view euro = italian::Euro;
   Stripped result;
   int signs = 0, euros = 0;
   bool open = false;
@@ -211,9 +212,9 @@ std::optional<std::string> plainNumber(std::string_view text) {
   std::string plain;
   bool whole = true;
   for (const char c : stripped->digits) {
-    if (c == italian::thousandsSign && whole && !plain.empty()) continue;
+    if (c == italian::ThousandsSign && whole && !plain.empty()) continue;
     whole = whole && isDigit(c);
-    plain += c == italian::decimalSign ? '.' : c == '.' ? '?' : asciiLower(c) == 'd' ? 'e' : asciiLower(c);
+    plain += c == italian::DecimalSign ? '.' : c == '.' ? '?' : asciiLower(c) == 'd' ? 'e' : asciiLower(c);
   }
   if (plain.empty() || numberLength(plain) != plain.size()) return std::nullopt;
   return sign + plain;

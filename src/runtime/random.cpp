@@ -1,3 +1,4 @@
+// The language's random numbers, which repeat from the same seed.
 #include "runtime/random.h"
 
 #include <bit>

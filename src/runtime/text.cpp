@@ -1,3 +1,4 @@
+// The language's functions of texts, over UTF-8.
 #include "runtime/text.h"
 
 #include <algorithm>
@@ -9,18 +10,14 @@ namespace runtime {
 
 namespace {
 
-constexpr std::int64_t longestText = 1 << 24;
-
-bool continues(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
+constexpr std::int64_t LongestText = 1 << 24;
 
 /// Byte at which character `index`, from 0, begins; the text's end behind the last one.
 std::size_t offsetOf(std::string_view text, std::size_t index) {
   if (index >= text.size()) return text.size();
   std::size_t at = 0;
   for (; at < text.size(); ++at) {
-    if (!continues(text[at]) && index-- == 0) break;
+    if (!continuesCharacter(text[at]) && index-- == 0) break;
   }
   return at;
 }
@@ -63,7 +60,7 @@ struct Match {
 /// The first `part` from byte `from` on; at the text's end with size 0 where there is none.
 Match find(std::string_view text, std::string_view part, std::size_t from, Compare compare) {
   for (std::size_t at = from; at < text.size(); ++at) {
-    if (continues(text[at]) || (!part.empty() && !mayBegin(text[at], part[0], compare))) continue;
+    if (continuesCharacter(text[at]) || (!part.empty() && !mayBegin(text[at], part[0], compare))) continue;
     const std::size_t size = frontLength(text.substr(at), part, compare);
     if (size != std::string_view::npos) return {at, size};
   }
@@ -93,7 +90,7 @@ Compare compareMode(std::int64_t number) {
 }
 
 std::size_t length(std::string_view text) {
-  return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continues));
+  return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continuesCharacter));
 }
 
 std::string_view left(std::string_view text, std::int64_t characters) {
@@ -103,7 +100,7 @@ std::string_view left(std::string_view text, std::int64_t characters) {
 std::string_view right(std::string_view text, std::int64_t characters) {
   std::size_t wanted = count(characters, 0), at = text.size();
   while (at > 0 && wanted > 0) {
-    if (!continues(text[--at])) --wanted;
+    if (!continuesCharacter(text[--at])) --wanted;
   }
   return text.substr(at);
 }
@@ -116,6 +113,15 @@ std::string_view mid(std::string_view text, std::int64_t start, std::int64_t cha
   return left(mid(text, start), characters);
 }
 
+std::string quoted(std::string_view text, char quote) {
+  std::string result(1, quote);
+  for (const char c : text) {
+    if (c == quote) result += quote;
+    result += c;
+  }
+  return result += quote;
+}
+
 std::string_view leftTrimmed(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
@@ -126,6 +132,11 @@ std::string_view rightTrimmed(std::string_view text) {
 
 std::string_view trimmed(std::string_view text) {
   return leftTrimmed(rightTrimmed(text));
+}
+
+std::string_view trimmed(std::string_view text, std::string_view blanks) {
+  text = text.substr(0, text.find_last_not_of(blanks) + 1);
+  return text.substr(std::min(text.find_first_not_of(blanks), text.size()));
 }
 
 std::string lowerCase(std::string_view text) {
@@ -183,7 +194,7 @@ std::int64_t inStrRev(std::string_view text, std::string_view part, std::int64_t
     text = left(text, start);
   }
   for (std::size_t at = text.size(); at-- > 0;) {
-    if (continues(text[at]) || frontLength(text.substr(at), part, compare) == std::string_view::npos)
+    if (continuesCharacter(text[at]) || frontLength(text.substr(at), part, compare) == std::string_view::npos)
       continue;
     // An empty part stands behind the last character that counts.
     return static_cast<std::int64_t>(length(text.substr(0, at))) + 1;
@@ -213,7 +224,7 @@ std::string strReverse(std::string_view text) {
   result.reserve(text.size());
   for (std::size_t end = text.size(); end > 0;) {
     std::size_t at = end - 1;
-    while (at > 0 && continues(text[at])) --at;
+    while (at > 0 && continuesCharacter(text[at])) --at;
     result += text.substr(at, end - at);
     end = at;
   }
@@ -221,7 +232,7 @@ std::string strReverse(std::string_view text) {
 }
 
 std::string repeated(std::int64_t times, std::string_view text) {
-  if (text.empty() || times < 0 || times > longestText) throw languageError(InvalidCall);
+  if (text.empty() || times < 0 || times > LongestText) throw languageError(InvalidCall);
   const std::string_view character = left(text, 1);
   if (character.size() == 1) return std::string(static_cast<std::size_t>(times), character.front());
   std::string result;

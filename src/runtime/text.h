@@ -32,6 +32,13 @@ std::string_view mid(std::string_view text, std::int64_t start, std::int64_t cou
 std::string_view leftTrimmed(std::string_view text);
 std::string_view rightTrimmed(std::string_view text);
 std::string_view trimmed(std::string_view text);
+/// Without any of the characters `blanks` at both ends.
+std::string_view trimmed(std::string_view text, std::string_view blanks);
+/// What separates words of a program's text: blanks, tabs, line ends.
+inline constexpr std::string_view Blanks = " \t\r\n";
+
+/// In quotes, those inside doubled.
+std::string quoted(std::string_view text, char quote = '\'');
 
 std::string lowerCase(std::string_view text);
 std::string upperCase(std::string_view text);

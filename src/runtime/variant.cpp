@@ -1,3 +1,4 @@
+// A value of any type, and its conversions.
 #include "runtime/variant.h"
 
 #include <algorithm>
@@ -14,8 +15,8 @@ namespace runtime {
 
 namespace {
 
-constexpr int singleDigits = 7;
-constexpr int doubleDigits = 15;
+constexpr int SingleDigits = 7;
+constexpr int DoubleDigits = 15;
 
 /// Digits of an unsigned number with `scale` of them behind the point.
 std::string withPoint(std::string digits, std::size_t scale, char point) {
@@ -172,12 +173,12 @@ std::string Variant::toText() const {
                         [](std::int16_t number) { return std::to_string(number); },
                         [](std::int32_t number) { return std::to_string(number); },
                         [](float number) {
-                          return numberText(static_cast<double>(number), singleDigits, italian::decimalSign);
+                          return numberText(static_cast<double>(number), SingleDigits, italian::DecimalSign);
                         },
-                        [](double number) { return numberText(number, doubleDigits, italian::decimalSign); },
-                        [](Currency money) { return currencyText(money, italian::decimalSign); },
+                        [](double number) { return numberText(number, DoubleDigits, italian::DecimalSign); },
+                        [](Currency money) { return currencyText(money, italian::DecimalSign); },
                         [](Date date) { return dateText(date); },
-                        [](const Decimal& number) { return decimalText(number, italian::decimalSign); },
+                        [](const Decimal& number) { return decimalText(number, italian::DecimalSign); },
                         [](const std::string& text) { return text; },
                         [](const Bytes&) -> std::string { throw languageError(TypeMismatch); },
                     },

@@ -1,17 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "runtime/join.h"
 #include "runtime/overloaded.h"
 #include "small_image.h"
 #include "support/case_file.h"
 
 namespace jet::sql::test {
 namespace {
-
-std::string joined(const std::vector<std::string>& names) {
-  std::string list;
-  for (const std::string& name : names) list += (list.empty() ? "" : ",") + name;
-  return list;
-}
 
 std::string shown(const CreateIndex& index) {
   std::string text = std::string(index.primary  ? "primary "
@@ -23,9 +18,9 @@ std::string shown(const CreateIndex& index) {
 }
 
 std::string shown(const CreateRelation& relation) {
-  return relation.name + ": " + relation.table + "(" + joined(relation.columns) + ") -> " + relation.parent +
-         "(" + joined(relation.parentColumns) + ")" + (relation.cascadeUpdate ? " update" : "") +
-         (relation.cascadeDelete ? " delete" : "");
+  return relation.name + ": " + relation.table + "(" + runtime::join(relation.columns, ",") + ") -> " +
+         relation.parent + "(" + runtime::join(relation.parentColumns, ",") + ")" +
+         (relation.cascadeUpdate ? " update" : "") + (relation.cascadeDelete ? " delete" : "");
 }
 
 std::string shown(const NewColumn& column) {

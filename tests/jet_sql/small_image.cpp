@@ -126,7 +126,7 @@ std::string SmallImage::defaultOf(const file::TableDefinition& table, const file
 }
 
 std::string SmallImage::stepByRow(const RowStatement& statement, const std::vector<std::string>& answers) {
-  execute("CREATE TEMP TABLE gathered AS " + answered(statement.steps->gather, answers));
+  execute("CREATE TEMP TABLE gathered AS " + answered(statement.steps->spool, answers));
   execute("CREATE TEMP TABLE jet_rows AS SELECT * FROM gathered WHERE 0");
   sqlite3_stmt* count = nullptr;
   sqlite3_prepare_v2(connection_, "SELECT count(*) FROM gathered", -1, &count, nullptr);

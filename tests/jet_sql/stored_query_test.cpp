@@ -47,14 +47,14 @@ constexpr std::pair<QueryKind, std::string_view> kinds[] = {
 /// all but changes of design have; or its error.
 std::string stored(const std::string& written, std::string_view kind) {
   try {
-    const StoredQuery query = takeApart(written);
+    const StoredQuery query = decodeQuery(written);
     EXPECT_NE(std::ranges::find(kinds, std::pair(query.kind, kind)), std::end(kinds)) << written;
-    std::string text = putTogether(query);
-    const StoredQuery again = takeApart(text);
+    std::string text = queryText(query);
+    const StoredQuery again = decodeQuery(text);
     EXPECT_EQ(again.kind, query.kind) << written;
     EXPECT_EQ(allRows(again), allRows(query)) << written;
     // Rows lie in the file in any order.
-    EXPECT_EQ(putTogether({query.kind, {query.rows.rbegin(), query.rows.rend()}}), text);
+    EXPECT_EQ(queryText({query.kind, {query.rows.rbegin(), query.rows.rend()}}), text);
     std::erase(text, '\r');
     EXPECT_EQ(text.ends_with('\n'), query.kind != QueryKind::DataDefinition) << written;
     if (text.ends_with('\n')) text.pop_back();
@@ -112,17 +112,17 @@ TEST(StoredQuery, RowsAreThoseOfTheEngine) {
       {"SELECT a FROM V IN '' [;DATABASE=C:\\x.mdb]", Row::OtherDatabase, {"4|-|-|;DATABASE=C:\\x.mdb|-"}},
   };
   for (const auto& test : cases)
-    EXPECT_EQ(rowsOf(takeApart(test.sql), test.attribute), test.rows) << test.sql;
+    EXPECT_EQ(rowsOf(decodeQuery(test.sql), test.attribute), test.rows) << test.sql;
 }
 
 int errorOf(const StoredQuery& query) {
-  return support::errorOf([&] { putTogether(query); });
+  return support::errorOf([&] { queryText(query); });
 }
 
 /// Rows as a damaged file might hold them.
 TEST(StoredQuery, DamagedRowsGiveATextOrAnErrorAndNoMore) {
   StoredQuery query;
-  EXPECT_EQ(putTogether(query), "SELECT ;\r\n");
+  EXPECT_EQ(queryText(query), "SELECT ;\r\n");
   query.kind = static_cast<QueryKind>(0xF0);
   EXPECT_EQ(errorOf(query), 3129);
   for (const auto kind :
@@ -132,7 +132,7 @@ TEST(StoredQuery, DamagedRowsGiveATextOrAnErrorAndNoMore) {
     EXPECT_EQ(errorOf(query), 0);
   }
 
-  query = takeApart("SELECT a FROM A LEFT JOIN B ON A.k = B.k");
+  query = decodeQuery("SELECT a FROM A LEFT JOIN B ON A.k = B.k");
   auto& join = *std::find_if(query.rows.begin(), query.rows.end(),
                              [](const auto& row) { return row.attribute == QueryRow::Join; });
   const QueryRow sound = join;

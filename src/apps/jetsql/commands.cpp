@@ -11,6 +11,8 @@
 #include "jet/dao/database.h"
 #include "jet/file/definition.h"
 #include "runtime/error.h"
+#include "runtime/join.h"
+#include "runtime/text.h"
 
 namespace jetsql {
 namespace {
@@ -20,11 +22,12 @@ using jet::dao::Database;
 /// Takes a name, in brackets where it holds blanks, off the front of `text`.
 std::string takeName(std::string& text) {
   const bool bracketed = text.starts_with('[') && text.find(']') != std::string::npos;
-  const auto end = bracketed ? text.find(']') : text.find_first_of(blanks);
+  const auto end = bracketed ? text.find(']') : text.find_first_of(runtime::Blanks);
   std::string name = bracketed ? text.substr(1, end - 1) : text.substr(0, end);
   text = end == std::string::npos
              ? ""
-             : std::string(trimmed(std::string_view(text).substr(end + (bracketed ? 1 : 0))));
+             : std::string(runtime::trimmed(std::string_view(text).substr(end + (bracketed ? 1 : 0)),
+                                            runtime::Blanks));
   return name;
 }
 
@@ -100,11 +103,9 @@ void listRelations(Database& database, const std::string& arguments, Output& out
   refuseArguments(arguments);
   output.columns({"Name", "Table", "ForeignTable", "Attributes", "Fields"});
   for (const auto& relation : database.Relations()) {
-    std::string fields;
-    for (const auto& pair : relation->Fields())
-      fields += (fields.empty() ? "" : ", ") + pair.Name() + " = " + pair.ForeignName();
-    output.row(
-        {relation->Name(), relation->Table(), relation->ForeignTable(), relation->Attributes(), fields});
+    const auto names = [](const auto& pair) { return pair.Name() + " = " + pair.ForeignName(); };
+    output.row({relation->Name(), relation->Table(), relation->ForeignTable(), relation->Attributes(),
+                runtime::join(relation->Fields(), ", ", names)});
   }
 }
 
@@ -149,7 +150,7 @@ std::span<const Command> commands() {
 }
 
 const Command& commandOf(const std::string& line) {
-  const std::string_view name = std::string_view(line).substr(0, line.find_first_of(blanks));
+  const std::string_view name = std::string_view(line).substr(0, line.find_first_of(runtime::Blanks));
   for (const auto& command : commands()) {
     if (command.name == name) return command;
   }
@@ -159,7 +160,8 @@ const Command& commandOf(const std::string& line) {
 bool runCommand(Database& database, const std::string& line, Output& output) {
   const Command& command = commandOf(line);
   command.run(database,
-              std::string(trimmed(std::string_view(line).substr(std::string_view(command.name).size()))),
+              std::string(runtime::trimmed(
+                  std::string_view(line).substr(std::string_view(command.name).size()), runtime::Blanks)),
               output);
   return !command.ends;
 }

@@ -4,6 +4,7 @@
 #include "jet/dao/constants.h"
 #include "jet/dao/relation.h"
 #include "jet/dao/table_def.h"
+#include "runtime/join.h"
 
 namespace jetsql {
 namespace {
@@ -64,9 +65,7 @@ std::string columnText(const Field& field) {
 /// Names in brackets with a comma between.
 template <class Items, class Name>
 std::string nameList(const Items& items, Name name) {
-  std::string list;
-  for (const auto& item : items) list += (list.empty() ? "" : ", ") + name(item);
-  return "(" + list + ")";
+  return "(" + runtime::join(items, ", ", name) + ")";
 }
 
 std::string indexStatement(const std::string& table, Index& index) {

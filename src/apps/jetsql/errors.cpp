@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "jet/sql/syntax_error.h"
+#include "runtime/letters.h"
 
 namespace jetsql {
 namespace {
@@ -16,7 +17,7 @@ std::string nearPlace(std::string_view statement, std::size_t& position) {
   std::string piece;
   std::size_t number = 0;
   for (const char c : statement) {
-    number += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    number += !runtime::continuesCharacter(c);
     if (number + before > position && number <= position + behind + 1) piece += c;
   }
   position = std::min(position, before);
@@ -29,7 +30,7 @@ std::string markedLine(std::string_view text, std::size_t position) {
   std::string line;
   std::string mark;
   for (const char c : statement) {
-    const bool startsCharacter = (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    const bool startsCharacter = !runtime::continuesCharacter(c);
     const bool reached = position == 0;
     if (c == '\n') {
       if (reached) break;

@@ -5,16 +5,12 @@
 #include <cctype>
 #include <string_view>
 
-#include "jet/file/text/text.h"
 #include "runtime/error.h"
+#include "runtime/letters.h"
+#include "runtime/text.h"
 
 namespace jetsql {
 
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 namespace {
 
 /// Follows quotes and brackets over the lines of one statement.
@@ -35,12 +31,6 @@ class Quotes {
   char open_ = 0;  // the character that will close it
 };
 
-/// The conversion puts U+FFFD for what is no UTF-8.
-bool isUtf8(const std::string& line) {
-  return line.find("\xEF\xBF\xBD") != std::string::npos ||
-         jet::file::toUtf16(line).find(u'\xFFFD') == std::u16string::npos;
-}
-
 bool beginsWithWord(std::string_view text, std::string_view word) {
   if (text.size() <= word.size() || !std::isspace(static_cast<unsigned char>(text[word.size()])))
     return false;
@@ -54,7 +44,7 @@ Lines::Reading Script::readLine(std::string& line, bool continues) {
   const auto reading = lines_.read(line, continues);
   if (reading != Lines::Reading::Line) return reading;
   if (++line_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
-  if (!isUtf8(line)) {
+  if (runtime::utf8Prefix(line) != line.size()) {
     throw runtime::Error(5, "jetsql", "La riga " + std::to_string(line_) + " non è un testo UTF-8");
   }
   return reading;
@@ -73,7 +63,7 @@ std::optional<ScriptPiece> Script::next() {
       quotes = {};
       continue;
     }
-    const auto content = trimmed(line);
+    const auto content = runtime::trimmed(line, runtime::Blanks);
     if (piece.line == 0) {
       if (content.empty() || content.starts_with("--")) continue;
       piece.line = line_;

@@ -8,11 +8,6 @@
 
 namespace jetsql {
 
-/// What separates words: blanks, tabs, line ends.
-inline constexpr std::string_view blanks = " \t\r\n";
-/// The text without blanks at its ends.
-std::string_view trimmed(std::string_view text);
-
 /// A statement or a dot command with the line where it begins; 0: it was an argument.
 struct ScriptPiece {
   std::string text;

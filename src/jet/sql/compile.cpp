@@ -1,3 +1,4 @@
+// The way of a statement: parsed, bound, translated.
 #include "jet/sql/compile.h"
 
 #include "jet/sql/binder/binder.h"
@@ -10,11 +11,15 @@ namespace jet::sql {
 
 namespace {
 
+std::string translate(const bound::Query& query) {
+  return Translator().query(query, false);
+}
+
 /// Binds and translates the body of one statement.
 class Compilation {
  public:
   Compilation(const Schema& schema, const Options& options)
-      : context_(schema, options.answers), options_(options) {}
+      : context_(schema, translate, options.answers), options_(options) {}
 
   Statement run(tree::Statement statement) {
     for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
@@ -110,7 +115,7 @@ Statement compile(std::string_view text, const Schema& schema, const Options& op
 std::string compileRule(std::string_view text, const file::TableDefinition& table, const file::Column* column,
                         const Schema& schema) {
   try {
-    Context context(schema);
+    Context context(schema, translate);
     return Translator().rule(
         Binder(context, nullptr).rule(parseRule(text, column ? column->name : std::string()), table));
   } catch (const SyntaxError& error) {

@@ -78,15 +78,17 @@ struct RowStatement {
   /// FROM in order (the others belong to sub-queries); Null where an outer join found no row. Zero otherwise:
   /// grouping, DISTINCT, UNION, a query in FROM.
   std::size_t rowKeys = 0;
-  /// UPDATE, INSERT and DELETE in two steps, so that each row can be tried on its own: the rows of `gather`,
-  /// a SELECT, are kept; then, for one of them after the other as the only row of temp.jet_rows, each of
-  /// `apply` does its part. What a row assigns is computed and converted
-  /// by `apply`, from the row as the rows before have left it. The answers to the parameters are bound to all
-  /// statements. `sql` is empty where the steps are the only way: several tables are changed, a join may
-  /// reach a row twice whose new value is made from its old one, or an outer join finds no row to change, so
-  /// that one is added.
+  /// UPDATE, INSERT and DELETE in two steps, so that a row whose value does not convert, or that breaks a
+  /// key, fails alone. The answers to the parameters are bound to all statements. `sql` is empty where the
+  /// steps are the only way: several tables are changed, a join may reach a row twice whose new value is made
+  /// from its old one, or an outer join finds no row to change, so that one is added.
   struct Steps {
-    std::string gather;
+    /// A SELECT whose rows are kept before any of them is applied, so that what is applied does not change
+    /// which rows there are: the rowids to change, and what each new value takes from elsewhere than its own
+    /// row.
+    std::string spool;
+    /// Carried out for one row of the spool after the other, which is the only row of temp.jet_rows then. New
+    /// values are computed and converted here, from the row as the rows before have left it.
     std::vector<std::string> apply;
   };
   std::optional<Steps> steps;

@@ -1,3 +1,4 @@
+// Sums, products and rounding of decimal numbers, exact in every digit.
 #include "jet/sql/decimal.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 using runtime::Decimal;
 __extension__ using Wide = unsigned __int128;
 
-constexpr int mostDigits = 28;
+constexpr int MostDigits = 28;
 
 Wide powerOfTen(int exponent) {
   Wide power = 1;
@@ -25,7 +26,7 @@ Wide powerOfTen(int exponent) {
 /// Zeros behind the last digit go, then the number must fit.
 Decimal checked(Decimal number) {
   while (number.scale > 0 && number.magnitude % 10 == 0) number.magnitude /= 10, --number.scale;
-  if (number.magnitude >= powerOfTen(mostDigits) || number.scale > mostDigits) {
+  if (number.magnitude >= powerOfTen(MostDigits) || number.scale > MostDigits) {
     throw runtime::languageError(runtime::Overflow);
   }
   if (number.magnitude == 0) number.negative = false;

@@ -5,7 +5,7 @@
 
 #include "runtime/variant.h"
 
-/// Decimal numbers in the digits that the image keeps ("-12.50"): exact reckoning.
+/// Decimal numbers in the digits that the image keeps ("-12.50"): exact arithmetic.
 namespace jet::sql {
 
 /// All digits are kept. Error 13 if it is no plain number, 6 above 28 digits.

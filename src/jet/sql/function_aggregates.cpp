@@ -1,3 +1,4 @@
+// Aggregates that SQLite lacks: First, Last, spread, sums of decimal numbers.
 #include <cmath>
 #include <new>
 #include <optional>
@@ -101,7 +102,7 @@ struct AggregateFunction {
   void (*finish)(sqlite3_context*);
 };
 
-constexpr AggregateFunction aggregateFunctions[] = {
+constexpr AggregateFunction AggregateFunctions[] = {
     {"jet_first", 2, stepExtreme<false>, finishExtreme},
     {"jet_last", 2, stepExtreme<true>, finishExtreme},
     {"jet_sum_decimal", 1, stepSum, finishSum},
@@ -114,7 +115,7 @@ constexpr AggregateFunction aggregateFunctions[] = {
 }  // namespace
 
 void registerAggregates(sqlite3* connection) {
-  for (const AggregateFunction& function : aggregateFunctions) {
+  for (const AggregateFunction& function : AggregateFunctions) {
     sqlite3_create_function_v2(connection, function.name, function.arguments,
                                SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, nullptr, function.step,
                                function.finish, nullptr);

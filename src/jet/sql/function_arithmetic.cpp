@@ -1,3 +1,4 @@
+// Arithmetic that fails where the engine's does, and money's.
 #include <cmath>
 #include <limits>
 
@@ -97,35 +98,35 @@ void multiplyCurrency(sqlite3_context* context, int, sqlite3_value** arguments) 
   sqlite3_result_int64(context, narrow);
 }
 
-template <class Reckon>
-void reckonDecimals(sqlite3_context* context, sqlite3_value** arguments, Reckon reckon) {
+template <class Compute>
+void computeDecimals(sqlite3_context* context, sqlite3_value** arguments, Compute compute) {
   const runtime::Decimal left = parseDecimal(textOf(arguments[0])),
                          right = parseDecimal(textOf(arguments[1]));
-  returnText(context, image::decimalText(reckon(left, right)));
+  returnText(context, image::decimalText(compute(left, right)));
 }
 
 void addDecimal(sqlite3_context* context, int, sqlite3_value** arguments) {
-  reckonDecimals(context, arguments, addDecimals);
+  computeDecimals(context, arguments, addDecimals);
 }
 
 void subtractDecimal(sqlite3_context* context, int, sqlite3_value** arguments) {
-  reckonDecimals(context, arguments, [](const runtime::Decimal& left, runtime::Decimal right) {
+  computeDecimals(context, arguments, [](const runtime::Decimal& left, runtime::Decimal right) {
     right.negative = !right.negative;
     return addDecimals(left, right);
   });
 }
 
 void multiplyDecimal(sqlite3_context* context, int, sqlite3_value** arguments) {
-  reckonDecimals(context, arguments, multiplyDecimals);
+  computeDecimals(context, arguments, multiplyDecimals);
 }
 
-constexpr std::int64_t moneyUnit = 10000;
+constexpr std::int64_t MoneyUnit = 10000;
 
 std::int64_t roundMoney(std::int64_t amount, std::int64_t decimals, Rounding rounding) {
   constexpr int moneyPlaces = 4;
   if (rounding == Rounding::HalfEven) return runtime::roundTo(amount, moneyPlaces, decimals);
-  const std::int64_t rest = amount % moneyUnit;
-  return amount - rest - (rounding == Rounding::Floor && rest < 0 ? moneyUnit : 0);
+  const std::int64_t rest = amount % MoneyUnit;
+  return amount - rest - (rounding == Rounding::Floor && rest < 0 ? MoneyUnit : 0);
 }
 
 double roundDouble(double value, std::int64_t decimals, Rounding rounding) {
@@ -170,7 +171,7 @@ void absolute(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int64(context, std::abs(value));
 }
 
-constexpr SqliteFunction arithmeticFunctions[] = {
+constexpr SqliteFunction ArithmeticFunctions[] = {
     {"jet_check_long", 1, nullIfAnyIsNull<checkLong>},
     {"jet_check_whole", 1, nullIfAnyIsNull<checkWhole>},
     {"jet_check_date", 1, nullIfAnyIsNull<checkDate>},
@@ -195,7 +196,7 @@ constexpr SqliteFunction arithmeticFunctions[] = {
 }  // namespace
 
 void registerArithmetic(sqlite3* connection) {
-  registerAll(connection, arithmeticFunctions);
+  registerAll(connection, ArithmeticFunctions);
 }
 
 }  // namespace jet::sql

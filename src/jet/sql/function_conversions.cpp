@@ -15,11 +15,11 @@ struct Pair {
 };
 
 /// What registrations point at.
-const std::array<Pair, typeCount * typeCount>& pairs() {
+const std::array<Pair, TypeCount * TypeCount>& pairs() {
   static const auto all = [] {
-    std::array<Pair, typeCount * typeCount> list{};
+    std::array<Pair, TypeCount * TypeCount> list{};
     for (unsigned i = 0; i < list.size(); ++i) {
-      list[i] = {static_cast<Type>(i / typeCount), static_cast<Type>(i % typeCount)};
+      list[i] = {static_cast<Type>(i / TypeCount), static_cast<Type>(i % TypeCount)};
     }
     return list;
   }();

@@ -1,3 +1,4 @@
+// The functions of dates.
 #include "jet/sql/function_support.h"
 #include "platform/clock.h"
 #include "runtime/date.h"
@@ -91,7 +92,7 @@ void weekdayName(sqlite3_context* context, int count, sqlite3_value** arguments)
 
 using Parts = runtime::DateParts;
 
-constexpr SqliteFunction datesFunctions[] = {
+constexpr SqliteFunction DatesFunctions[] = {
     {"jet_date", 0, withErrors<today>},
     {"jet_time", 0, withErrors<timeOfDay>},
     {"jet_now", 0, withErrors<now>},
@@ -117,7 +118,7 @@ constexpr SqliteFunction datesFunctions[] = {
 }  // namespace
 
 void registerDateFunctions(sqlite3* connection) {
-  registerAll(connection, datesFunctions);
+  registerAll(connection, DatesFunctions);
 }
 
 }  // namespace jet::sql

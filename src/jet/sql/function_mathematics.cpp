@@ -1,3 +1,4 @@
+// Roots, logarithms and angles.
 #include <cmath>
 
 #include "jet/sql/function_support.h"
@@ -26,7 +27,7 @@ double squareRoot(double value) {
 }
 
 template <double (*function)(double)>
-void reckon(sqlite3_context* context, int, sqlite3_value** arguments) {
+void compute(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_double(context, function(sqlite3_value_double(arguments[0])));
 }
 
@@ -36,17 +37,20 @@ void nextRandom(sqlite3_context* context, int count, sqlite3_value** arguments) 
   sqlite3_result_double(context, static_cast<double>(random.next(static_cast<float>(argument))));
 }
 
-constexpr SqliteFunction mathematicsFunctions[] = {
-    {"jet_atn", 1, nullIfAnyIsNull<reckon<std::atan>>},   {"jet_cos", 1, nullIfAnyIsNull<reckon<std::cos>>},
-    {"jet_sin", 1, nullIfAnyIsNull<reckon<std::sin>>},    {"jet_tan", 1, nullIfAnyIsNull<reckon<std::tan>>},
-    {"jet_exp", 1, nullIfAnyIsNull<reckon<exponential>>}, {"jet_log", 1, nullIfAnyIsNull<reckon<logarithm>>},
-    {"jet_sqr", 1, nullIfAnyIsNull<reckon<squareRoot>>},
+constexpr SqliteFunction MathematicsFunctions[] = {
+    {"jet_atn", 1, nullIfAnyIsNull<compute<std::atan>>},
+    {"jet_cos", 1, nullIfAnyIsNull<compute<std::cos>>},
+    {"jet_sin", 1, nullIfAnyIsNull<compute<std::sin>>},
+    {"jet_tan", 1, nullIfAnyIsNull<compute<std::tan>>},
+    {"jet_exp", 1, nullIfAnyIsNull<compute<exponential>>},
+    {"jet_log", 1, nullIfAnyIsNull<compute<logarithm>>},
+    {"jet_sqr", 1, nullIfAnyIsNull<compute<squareRoot>>},
 };
 
 }  // namespace
 
 void registerMathematics(sqlite3* connection) {
-  registerAll(connection, mathematicsFunctions);
+  registerAll(connection, MathematicsFunctions);
   // The row of numbers belongs to the open database.
   sqlite3_create_function_v2(connection, "jet_rnd", -1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
                              new runtime::Random, nullIfAnyIsNull<nextRandom>, nullptr, nullptr,

@@ -1,3 +1,4 @@
+// The functions of texts.
 #include "jet/file/text/text_key.h"
 #include "jet/sql/function_support.h"
 #include "platform/code_page.h"
@@ -165,7 +166,7 @@ void join(sqlite3_context* context, int count, sqlite3_value** arguments) {
   returnText(context, text);
 }
 
-constexpr SqliteFunction textsFunctions[] = {
+constexpr SqliteFunction TextsFunctions[] = {
     {"jet_length", 1, nullIfAnyIsNull<lengthOf>},
     {"jet_left", 2, nullIfAnyIsNull<left>},
     {"jet_right", 2, nullIfAnyIsNull<right>},
@@ -199,7 +200,7 @@ constexpr SqliteFunction textsFunctions[] = {
 }  // namespace
 
 void registerTextFunctions(sqlite3* connection) {
-  registerAll(connection, textsFunctions);
+  registerAll(connection, TextsFunctions);
 }
 
 }  // namespace jet::sql

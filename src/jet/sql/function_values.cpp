@@ -85,7 +85,7 @@ void choose(sqlite3_context* context, int count, sqlite3_value** arguments) {
 
 constexpr char Nothing[] = "", Euro[] = "€ ", Percent[] = "%";
 
-constexpr SqliteFunction valuesFunctions[] = {
+constexpr SqliteFunction ValuesFunctions[] = {
     {"jet_format", -1, withErrors<format>},
     {"jet_format_number", -1, withErrors<formatAmount<Nothing, Nothing>>},
     {"jet_format_currency", -1, withErrors<formatAmount<Euro, Nothing>>},
@@ -104,7 +104,7 @@ constexpr SqliteFunction valuesFunctions[] = {
 }  // namespace
 
 void registerValueFunctions(sqlite3* connection) {
-  registerAll(connection, valuesFunctions);
+  registerAll(connection, ValuesFunctions);
 }
 
 }  // namespace jet::sql

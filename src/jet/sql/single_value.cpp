@@ -1,3 +1,4 @@
+// A sub-query that stands for one value and gives more rows is an error.
 #include "jet/sql/function_support.h"
 #include "jet/sql/syntax_error.h"
 

@@ -1,3 +1,4 @@
+// The error of a statement's text, with its place.
 #include "jet/sql/syntax_error.h"
 
 #include "runtime/letters.h"

@@ -31,7 +31,7 @@ enum class Type : std::uint8_t {
   Binary,
   Ole
 };
-constexpr unsigned typeCount = 16;
+constexpr unsigned TypeCount = 16;
 
 Type typeOf(file::ColumnType column);
 /// The type of a column whose values are kept as those of `type`; Text where there is none of its own.

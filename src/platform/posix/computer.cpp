@@ -13,8 +13,8 @@ namespace platform {
 
 namespace {
 
-constexpr const char* usualFile = "\\etc\\aggnorvo.ini";
-std::string fileInForce = usualFile;
+constexpr const char* UsualFile = "\\etc\\aggnorvo.ini";
+std::string fileInForce = UsualFile;
 
 std::string ofComputer(std::string_view key) {
   return computerFile().value("Computer", key).value_or("");
@@ -23,7 +23,7 @@ std::string ofComputer(std::string_view key) {
 }  // namespace
 
 void useComputerFile(const std::string& path) {
-  fileInForce = path.empty() ? usualFile : path;
+  fileInForce = path.empty() ? UsualFile : path;
 }
 
 IniFile computerFile() {

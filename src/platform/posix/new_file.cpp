@@ -13,13 +13,13 @@ namespace platform::system {
 
 namespace {
 
-constexpr mode_t everyRight = 0777, ownersUse = S_IRUSR | S_IWUSR;
+constexpr mode_t EveryRight = 0777, OwnersUse = S_IRUSR | S_IWUSR;
 
 using Attributes = std::map<std::string, std::string>;
 /// The name under which the system keeps an access list.
-constexpr std::string_view accessList = "system.posix_acl_access";
+constexpr std::string_view AccessList = "system.posix_acl_access";
 /// These vouch for the content, not for the file: new content must not be taken for what they stand for.
-constexpr std::string_view seals[] = {"security.capability", "security.evm", "security.ima"};
+constexpr std::string_view Seals[] = {"security.capability", "security.evm", "security.ima"};
 
 /// A text whose length the system tells first; 0 bytes where it gives an error that is no failure.
 template <class Call>
@@ -42,7 +42,7 @@ Attributes attributesOf(int file, const std::string& path) {
   Attributes attributes;
   for (std::size_t at = 0; at < names.size(); at = names.find('\0', at) + 1) {
     const std::string name = names.c_str() + at;
-    if (std::ranges::find(seals, name) != std::end(seals)) continue;
+    if (std::ranges::find(Seals, name) != std::end(Seals)) continue;
     attributes[name] = asked(
         [&](char* out, std::size_t size) { return ::fgetxattr(file, name.c_str(), out, size); }, 0, path);
   }
@@ -56,7 +56,7 @@ struct stat entryOf(int file, const std::string& path) {
 }
 
 bool sameEntry(const struct stat& a, const struct stat& b) {
-  return a.st_uid == b.st_uid && a.st_gid == b.st_gid && (a.st_mode & everyRight) == (b.st_mode & everyRight);
+  return a.st_uid == b.st_uid && a.st_gid == b.st_gid && (a.st_mode & EveryRight) == (b.st_mode & EveryRight);
 }
 
 /// Gives `file` these attributes and no others, as far as the system lets it.
@@ -79,7 +79,7 @@ void takePlaceOf(int file, const std::string& path, const std::string& model) {
   if (!owned) owned = ::fchown(file, old.st_uid, old.st_gid) == 0;
   if (owned) {
     setAttributes(file, attributesOf(file, path), wanted);
-    if (!sameEntry(entryOf(file, path), old)) ::fchmod(file, old.st_mode & everyRight);
+    if (!sameEntry(entryOf(file, path), old)) ::fchmod(file, old.st_mode & EveryRight);
   }
   if (!owned || !sameEntry(entryOf(file, path), old) || attributesOf(file, path) != wanted)
     throw DiskError(DiskFault::Rights, model);
@@ -88,7 +88,7 @@ void takePlaceOf(int file, const std::string& path, const std::string& model) {
 /// Only the access list of a file, or none.
 Attributes listIn(const Attributes& attributes) {
   Attributes list;
-  const auto found = attributes.find(std::string(accessList));
+  const auto found = attributes.find(std::string(AccessList));
   if (found != attributes.end()) list.insert(*found);
   return list;
 }
@@ -101,15 +101,15 @@ void keepOutLike(int file, const std::string& path, const std::string& model) {
   const Attributes now = listIn(attributesOf(file, path)),
                    wanted = listIn(attributesOf(held.number(), model));
   const bool sameGroup = old.st_gid == fresh.st_gid;
-  mode_t rights = fresh.st_mode & everyRight;
+  mode_t rights = fresh.st_mode & EveryRight;
   if (now.empty() && wanted.empty()) {
     if (!sameGroup) rights &= ~static_cast<mode_t>(S_IRWXG) | (rights & S_IRWXO) << 3;
   } else {
     if (sameGroup) setAttributes(file, now, wanted);
     const bool alike = sameGroup && listIn(attributesOf(file, path)) == wanted;
-    rights = alike ? (old.st_mode & everyRight) | ownersUse : ownersUse;
+    rights = alike ? (old.st_mode & EveryRight) | OwnersUse : OwnersUse;
   }
-  if (rights != (entryOf(file, path).st_mode & everyRight)) ::fchmod(file, rights);
+  if (rights != (entryOf(file, path).st_mode & EveryRight)) ::fchmod(file, rights);
 }
 
 /// The rights that the file is made with, before the user's mask: with the widest that it may come to have,
@@ -117,8 +117,8 @@ void keepOutLike(int file, const std::string& path, const std::string& model) {
 mode_t firstRights(NewFile kind, const std::string& model) {
   if (kind == NewFile::Usual) return 0666;
   struct stat old;
-  if (kind == NewFile::InPlaceOf || ::stat(native(model).c_str(), &old) != 0) return ownersUse;
-  return (old.st_mode & everyRight) | ownersUse;
+  if (kind == NewFile::InPlaceOf || ::stat(native(model).c_str(), &old) != 0) return OwnersUse;
+  return (old.st_mode & EveryRight) | OwnersUse;
 }
 
 }  // namespace

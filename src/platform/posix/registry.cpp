@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::string_view appPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\";
+constexpr std::string_view AppPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\";
 
 std::string_view nameOf(RegistryRoot root) {
   switch (root) {
@@ -88,9 +88,9 @@ RegistryValue read(std::string_view written) {
 /// The name of the program whose path is asked for; empty for any other key.
 std::string_view programOf(RegistryRoot root, std::string_view key) {
   const bool program =
-      root == RegistryRoot::LocalMachine && key.size() > appPaths.size() &&
-      runtime::strComp(key.substr(0, appPaths.size()), appPaths, runtime::Compare::Text) == 0;
-  return program ? key.substr(appPaths.size()) : std::string_view();
+      root == RegistryRoot::LocalMachine && key.size() > AppPaths.size() &&
+      runtime::strComp(key.substr(0, AppPaths.size()), AppPaths, runtime::Compare::Text) == 0;
+  return program ? key.substr(AppPaths.size()) : std::string_view();
 }
 
 }  // namespace

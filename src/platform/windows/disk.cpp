@@ -17,7 +17,7 @@ using windows::Handle;
 using windows::native;
 
 /// What every opener of this product grants the others: whom to keep out is the lock's business.
-constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD Sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 HANDLE handleOf(NativeFile file) {
   return reinterpret_cast<HANDLE>(file);
@@ -51,7 +51,7 @@ void refuseUnlessRegular(HANDLE file, const std::string& path) {
 }
 
 HANDLE openFile(const std::string& path, DWORD access, DWORD disposition) {
-  Handle file(::CreateFileW(native(path).c_str(), access, sharing, nullptr, disposition,
+  Handle file(::CreateFileW(native(path).c_str(), access, Sharing, nullptr, disposition,
                             FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) failLastCall(path);
   refuseUnlessRegular(file.get(), path);
@@ -60,7 +60,7 @@ HANDLE openFile(const std::string& path, DWORD access, DWORD disposition) {
 
 /// Files and folders, for what needs no right to their content. Nothing if there is none.
 HANDLE openForInspection(const std::string& path, DWORD access = 0) {
-  const HANDLE file = ::CreateFileW(native(path).c_str(), access, sharing, nullptr, OPEN_EXISTING,
+  const HANDLE file = ::CreateFileW(native(path).c_str(), access, Sharing, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (file != INVALID_HANDLE_VALUE) return file;
   const DWORD error = ::GetLastError();
@@ -71,7 +71,7 @@ HANDLE openForInspection(const std::string& path, DWORD access = 0) {
 /// A program that isn't of this product lets no one delete what it has open. The right to do so is asked for
 /// and given back.
 bool isHeldByOthers(const std::string& path) {
-  const Handle probe(::CreateFileW(native(path).c_str(), DELETE, sharing, nullptr, OPEN_EXISTING,
+  const Handle probe(::CreateFileW(native(path).c_str(), DELETE, Sharing, nullptr, OPEN_EXISTING,
                                    FILE_ATTRIBUTE_NORMAL, nullptr));
   return !probe && ::GetLastError() == ERROR_SHARING_VIOLATION;
 }
@@ -190,7 +190,7 @@ void remove(const std::string& path) {
 }
 
 void flushFolder(const std::string& folder) {
-  const Handle open(::CreateFileW(native(folder).c_str(), GENERIC_READ | GENERIC_WRITE, sharing, nullptr,
+  const Handle open(::CreateFileW(native(folder).c_str(), GENERIC_READ | GENERIC_WRITE, Sharing, nullptr,
                                   OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   const bool done = open && ::FlushFileBuffers(open.get());
   const DWORD error = done ? ERROR_SUCCESS : ::GetLastError();

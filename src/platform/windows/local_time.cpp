@@ -13,22 +13,22 @@ namespace windows {
 
 namespace {
 
-constexpr std::int64_t unit = 100;                           // nanoseconds
-constexpr std::int64_t unixEpoch = 116'444'736'000'000'000;  // 1 January 1970 in the system's count
+constexpr std::int64_t Unit = 100;                           // nanoseconds
+constexpr std::int64_t UnixEpoch = 116'444'736'000'000'000;  // 1 January 1970 in the system's count
 
 }  // namespace
 
 std::int64_t unixNanoseconds(const FILETIME& time) {
-  constexpr std::int64_t farthest = std::numeric_limits<std::int64_t>::max() / unit;
+  constexpr std::int64_t farthest = std::numeric_limits<std::int64_t>::max() / Unit;
   const auto count =
       static_cast<std::int64_t>(static_cast<std::uint64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime);
-  return std::clamp(count - unixEpoch, -farthest, farthest) * unit;
+  return std::clamp(count - UnixEpoch, -farthest, farthest) * Unit;
 }
 
 FILETIME fileTime(std::int64_t unixNanoseconds) {
-  const std::int64_t part = (unixNanoseconds % unit + unit) % unit;
+  const std::int64_t part = (unixNanoseconds % Unit + Unit) % Unit;
   const auto count =
-      static_cast<std::uint64_t>(std::max<std::int64_t>((unixNanoseconds - part) / unit + unixEpoch, 0));
+      static_cast<std::uint64_t>(std::max<std::int64_t>((unixNanoseconds - part) / Unit + UnixEpoch, 0));
   return {static_cast<DWORD>(count), static_cast<DWORD>(count >> 32)};
 }
 

@@ -24,7 +24,7 @@ bool isFolder(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-constexpr DWORD diskQuotaExceeded = 1295;  // the headers don't name it
+constexpr DWORD DiskQuotaExceeded = 1295;  // the headers don't name it
 
 DiskFault faultOf(DWORD error, const std::string& path) {
   switch (error) {
@@ -53,7 +53,7 @@ DiskFault faultOf(DWORD error, const std::string& path) {
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
     case ERROR_FILE_TOO_LARGE:
-    case diskQuotaExceeded:
+    case DiskQuotaExceeded:
       return DiskFault::NoSpace;
     case ERROR_FILE_EXISTS:
     case ERROR_ALREADY_EXISTS:

@@ -77,7 +77,7 @@ bool variableOfSize(const file::Column& column) {
 
 }  // namespace
 
-/// What is reckoned of Longs can lie beyond them: error 6 then.
+/// What is computed from Longs can lie beyond them: error 6 then.
 void DesignRunner::requireLongs(std::uint32_t page, const file::Column& column) const {
   auto beyond = image_.connection().prepare("SELECT 1 FROM " + image::tableName(page) + " WHERE " +
                                             image::columnName(column.number) +

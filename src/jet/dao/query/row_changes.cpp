@@ -65,13 +65,13 @@ class GatheredRows {
  public:
   GatheredRows(const image::Connection& connection, const sql::RowStatement& plan, const Answers& answers)
       : connection_(connection) {
-    auto gather = connection.prepare("CREATE TEMP TABLE jet_gathered AS " + plan.steps->gather);
-    bindAnswers(gather, plan, answers);
-    gather.run();
-    connection.execute("CREATE TEMP TABLE jet_rows AS SELECT * FROM jet_gathered WHERE 0");
-    take_ = connection.prepare("INSERT INTO jet_rows SELECT * FROM jet_gathered WHERE rowid = ?1");
+    auto spool = connection.prepare("CREATE TEMP TABLE jet_spool AS " + plan.steps->spool);
+    bindAnswers(spool, plan, answers);
+    spool.run();
+    connection.execute("CREATE TEMP TABLE jet_rows AS SELECT * FROM jet_spool WHERE 0");
+    take_ = connection.prepare("INSERT INTO jet_rows SELECT * FROM jet_spool WHERE rowid = ?1");
     empty_ = connection.prepare("DELETE FROM jet_rows");
-    auto size = connection.prepare("SELECT count(*) FROM jet_gathered");
+    auto size = connection.prepare("SELECT count(*) FROM jet_spool");
     size.step();
     count_ = size.integer(0);
   }
@@ -79,7 +79,7 @@ class GatheredRows {
   void drop() {
     take_ = {};
     empty_ = {};
-    connection_.execute("DROP TABLE jet_rows; DROP TABLE jet_gathered");
+    connection_.execute("DROP TABLE jet_rows; DROP TABLE jet_spool");
   }
   bool next() {
     if (row_ == count_) return false;

@@ -51,7 +51,7 @@ void SessionQueryDef::setName(const std::string& name) {
 
 int SessionQueryDef::Type() const {
   requireOpen();
-  return static_cast<int>(storedId_ ? object().kind() : sql::takeApart(sql_).kind);
+  return static_cast<int>(storedId_ ? object().kind() : sql::decodeQuery(sql_).kind);
 }
 
 runtime::Variant SessionQueryDef::DateCreated() const {

@@ -131,11 +131,11 @@ sql::StoredQuery readQuery(image::Image& image, const QueryObject& object) {
 }
 
 std::string queryText(image::Image& image, const QueryObject& object) {
-  return sql::putTogether(readQuery(image, object));
+  return sql::queryText(readQuery(image, object));
 }
 
 std::uint32_t createQuery(image::Image& image, const std::string& name, const std::string& newText) {
-  const auto query = sql::takeApart(newText);
+  const auto query = sql::decodeQuery(newText);
   image::Transaction whole(image);
   const auto id = image.createObject(name, file::ObjectType::Query, static_cast<std::uint32_t>(query.kind));
   image.changeSystemTable(file::QueriesTable);
@@ -147,7 +147,7 @@ std::uint32_t createQuery(image::Image& image, const std::string& name, const st
 void rewriteQuery(image::Image& image, const QueryObject& object, const std::string& newText) {
   const auto query = object.kind() == sql::QueryKind::PassThrough
                          ? passThrough(readQuery(image, object), newText)
-                         : sql::takeApart(newText);
+                         : sql::decodeQuery(newText);
   image::Transaction whole(image);
   const auto kind = static_cast<std::uint32_t>(query.kind);
   image.changeObject(object.id, object.name, (object.flags & ~sql::QueryKindBits) | kind);

@@ -16,7 +16,6 @@ using BytesView = std::span<const std::byte>;
 using runtime::appendUtf8;
 
 constexpr std::byte Zero{0};
-constexpr char32_t Replacement = 0xFFFD;
 constexpr char16_t Mark = 0xFEFF;  // stored FF FE, what compressed text begins with
 constexpr std::size_t ShortestCompressed = 3;
 
@@ -126,25 +125,6 @@ void appendCodePage(BytesView field, std::uint16_t codePage, std::string& out) {
   }
 }
 
-/// One code point of UTF-8 at `at`, which moves behind it.
-char32_t nextCharacter(std::string_view utf8, std::size_t& at) {
-  const auto lead = static_cast<unsigned char>(utf8[at++]);
-  if (lead < 0x80) return lead;
-  const int more = lead >= 0xF0 && lead < 0xF5   ? 3
-                   : lead >= 0xE0 && lead < 0xF0 ? 2
-                   : lead >= 0xC2 && lead < 0xE0 ? 1
-                                                 : 0;
-  if (more == 0) return Replacement;
-  char32_t value = lead & (0x3Fu >> more);
-  for (int i = 0; i < more; ++i) {
-    if (at == utf8.size() || (utf8[at] & 0xC0) != 0x80) return Replacement;
-    value = value << 6 | (static_cast<unsigned char>(utf8[at++]) & 0x3Fu);
-  }
-  constexpr char32_t Least[] = {0, 0x80, 0x800, 0x10000};
-  const bool wrong = value < Least[more] || value > 0x10FFFF;
-  return wrong ? Replacement : value;
-}
-
 void putUnit(char16_t unit, std::vector<std::byte>& out) {
   out.push_back(static_cast<std::byte>(unit & 0xFF));
   out.push_back(static_cast<std::byte>(unit >> 8));
@@ -155,14 +135,13 @@ void putUnit(char16_t unit, std::vector<std::byte>& out) {
 bool appendNarrow(std::string_view utf8, std::vector<std::byte>& out) {
   const std::size_t begin = out.size();
   putUnit(Mark, out);
-  const BytesView bytes = std::as_bytes(std::span(utf8));
-  for (std::size_t at = 0; at < utf8.size();) {
-    const std::size_t ascii = asciiRun(bytes.subspan(at));
-    out.insert(out.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at),
-               bytes.begin() + static_cast<std::ptrdiff_t>(at + ascii));
-    at += ascii;
-    if (at == utf8.size()) break;
-    const char32_t character = nextCharacter(utf8, at);
+  while (!utf8.empty()) {
+    const BytesView bytes = std::as_bytes(std::span(utf8));
+    const std::size_t ascii = asciiRun(bytes);
+    out.insert(out.end(), bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(ascii));
+    utf8.remove_prefix(ascii);
+    if (utf8.empty()) break;
+    const char32_t character = runtime::takeValidCharacter(utf8);
     if (character == 0 || character > 0xFF) {
       out.resize(begin);
       return false;
@@ -209,15 +188,15 @@ void encodeText(std::string_view utf8, bool compress, std::vector<std::byte>& ou
 
 std::size_t utf16Length(std::string_view utf8) {
   std::size_t length = 0;
-  for (std::size_t at = 0; at < utf8.size();) length += nextCharacter(utf8, at) >= 0x10000 ? 2 : 1;
+  while (!utf8.empty()) length += runtime::takeValidCharacter(utf8) >= 0x10000 ? 2 : 1;
   return length;
 }
 
 std::u16string toUtf16(std::string_view utf8) {
   std::u16string out;
   out.reserve(utf8.size());
-  for (std::size_t at = 0; at < utf8.size();) {
-    const char32_t value = nextCharacter(utf8, at);
+  while (!utf8.empty()) {
+    const char32_t value = runtime::takeValidCharacter(utf8);
     if (value >= 0x10000) {
       out.push_back(static_cast<char16_t>(0xD800 + ((value - 0x10000) >> 10)));
       out.push_back(static_cast<char16_t>(0xDC00 + ((value - 0x10000) & 0x3FF)));

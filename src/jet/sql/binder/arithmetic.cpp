@@ -1,3 +1,4 @@
+// Types of arithmetic, and what is really a joining of texts.
 #include "jet/sql/binder/binder.h"
 
 namespace jet::sql {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -27,10 +28,11 @@ struct Literal {
   bool operator==(const Literal&) const = default;
 };
 
-/// Column `name` (of the image or of a query) of source number `source`.
+/// A column of source number `source`.
 struct Column {
   unsigned source = 0;
-  std::string name;
+  std::size_t number = 0;  // of a table: file::Column::number; of a query: its place in the list, from 1
+  bool ofQuery = false;
   bool collated = false;  // SQLite knows the order of its texts or digits
   bool operator==(const Column&) const = default;
 };

@@ -1,3 +1,4 @@
+// Calls: aggregates, functions whose arguments are more than values, and all the others.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"
@@ -40,7 +41,7 @@ struct AggregateName {
   AggregateKind kind;
 };
 
-constexpr AggregateName aggregates[] = {
+constexpr AggregateName AggregateNames[] = {
     {"COUNT", AggregateKind::Count}, {"SUM", AggregateKind::Sum},     {"AVG", AggregateKind::Avg},
     {"MIN", AggregateKind::Min},     {"MAX", AggregateKind::Max},     {"FIRST", AggregateKind::First},
     {"LAST", AggregateKind::Last},   {"STDEV", AggregateKind::StDev}, {"STDEVP", AggregateKind::StDevP},
@@ -49,8 +50,8 @@ constexpr AggregateName aggregates[] = {
 
 const AggregateName* findAggregate(const std::string& name) {
   const auto* found = std::ranges::find_if(
-      aggregates, [&](const AggregateName& known) { return sameWord(name, known.name); });
-  return found == std::end(aggregates) ? nullptr : found;
+      AggregateNames, [&](const AggregateName& known) { return sameWord(name, known.name); });
+  return found == std::end(AggregateNames) ? nullptr : found;
 }
 
 /// Type that an aggregate works in and returns, from its argument's.

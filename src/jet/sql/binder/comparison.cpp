@@ -1,3 +1,4 @@
+// Comparisons: both sides get the type in which they can be compared.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"

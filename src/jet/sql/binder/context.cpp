@@ -1,12 +1,11 @@
+// What a statement's parts share while they are bound.
 #include "jet/sql/binder/context.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/binder/type_name.h"
 #include "jet/sql/syntax_error.h"
-#include "jet/sql/translation/translator.h"
 #include "jet/sql/tree/print.h"
 
 namespace jet::sql {
@@ -42,8 +41,7 @@ unsigned Context::addSource(const file::TableDefinition* table, const std::strin
 void Context::noteCompared(const bound::Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
   if (!column || !tableOfSource_[column->source]) return;
-  std::uint16_t number = 0;
-  std::from_chars(column->name.data() + 1, column->name.data() + column->name.size(), number);
+  const auto number = static_cast<std::uint16_t>(column->number);
   auto& compared = tables_[*tableOfSource_[column->source]].compared;
   if (std::ranges::find(compared, number) == compared.end()) compared.push_back(number);
 }
@@ -65,7 +63,7 @@ Context::Values Context::values(const tree::Query& list) {
 }
 
 Context::Values Context::readValues(const tree::Query& list) const {
-  Context inner(schema_, answers_);
+  Context inner(schema_, translate_, answers_);
   inner.values_ = values_;
   inner.parameters_ = parameters_;
   inner.arguments_ = arguments_;
@@ -77,7 +75,7 @@ Context::Values Context::readValues(const tree::Query& list) const {
   const auto& value = std::get<tree::Expression>(list.parts.front().items.front().value);
   if (unknown != inner.parameters_.end()) throw SyntaxError(UnknownName, unknown->name, value.place.position);
   RowStatement statement;
-  statement.sql = Translator().query(query, false);
+  statement.sql = translate_(query);
   statement.parameters = inner.parameters();
   statement.tables = inner.tables_;
   statement.columns.push_back({"", query.parts.front().items.front().value.type, "", "", {}});

@@ -16,8 +16,13 @@ namespace jet::sql {
 /// What the binding of one statement gathers, its sub-queries included.
 class Context {
  public:
-  explicit Context(const Schema& schema, Answers answers = {})
-      : schema_(schema), answers_(std::move(answers)) {}
+  /// SQLite SQL of a query that is to be run while the statement is still being bound.
+  using Translate = std::string (*)(const bound::Query& query);
+
+  Context(const Schema& schema, Translate translate, Answers answers = {})
+      : schema_(schema), translate_(translate), answers_(std::move(answers)) {}
+  /// For an expression that stands by itself: nothing of this statement is known in it.
+  Context apart() const { return {schema_, translate_}; }
 
   const Schema& schema() const { return schema_; }
 
@@ -76,6 +81,7 @@ class Context {
   Values readValues(const tree::Query& list) const;
 
   const Schema& schema_;
+  Translate translate_;
   Answers answers_;
   // By the text of the list; for all contexts of the statement, since crosstabs may stand on crosstabs.
   std::shared_ptr<std::map<std::string, Values>> values_ = std::make_shared<std::map<std::string, Values>>();

@@ -1,3 +1,4 @@
+// Which type two types meet in, and expressions turned into a type.
 #include "jet/sql/binder/conversion.h"
 
 #include <algorithm>

@@ -1,10 +1,11 @@
+// TRANSFORM written out as a SELECT: every column is the value's tree again, over fewer rows.
 #include "jet/sql/binder/crosstab.h"
 
 #include <algorithm>
 #include <charconv>
 
 #include "jet/sql/binder/function.h"
-#include "jet/sql/parser/parser.h"
+#include "jet/sql/parser/token.h"
 #include "jet/sql/syntax_error.h"
 #include "jet/sql/tree/print.h"
 #include "runtime/format.h"
@@ -14,45 +15,32 @@ namespace jet::sql {
 
 namespace {
 
-using namespace tree;
-
-struct Column {
+/// A column that a value of the pivot makes.
+struct PivotColumn {
   std::string name;
-  Expression value;  // of the pivot
+  tree::Expression value;
 };
 
-/// A tree belongs to one place: another one of the same text.
-Expression copyOf(const Expression& expression) {
-  return parseExpression(print(expression));
+bool isNullLiteral(const tree::Expression& expression) {
+  const auto* literal = std::get_if<tree::Literal>(&expression.node);
+  return literal && literal->kind == tree::Literal::Kind::Null;
 }
 
-Expression call(const char* name, Expression first, Expression second, Expression third) {
-  Call made{name, false, {}, {}};
-  made.arguments.push_back(std::move(first));
-  made.arguments.push_back(std::move(second));
-  made.arguments.push_back(std::move(third));
-  return {std::move(made), {}};
-}
-
-Expression null() {
-  return {Literal{}, {}};
-}
-
-Expression number(std::string digits) {
-  return {Literal{Literal::Kind::Number, std::move(digits)}, {}};
+tree::Expression numberLiteral(std::string digits, const tree::Place& place) {
+  return {tree::Literal{tree::Literal::Kind::Number, std::move(digits)}, place};
 }
 
 /// Makes the aggregates within an expression see only the rows for which `condition` holds.
 class Restriction {
  public:
-  explicit Restriction(const Expression& condition) : condition_(condition) {}
+  explicit Restriction(const tree::Expression& condition) : condition_(condition) {}
 
-  void apply(Expression& expression) const {
-    std::visit(runtime::Overloaded{[&](Call& node) { restrict(node, expression); },
-                                   [&](Negation& node) { apply(*node.operand); },
-                                   [&](Arithmetic& node) { applyBoth(node); },
-                                   [&](Concatenation& node) { applyBoth(node); },
-                                   [&](Comparison& node) { applyBoth(node); }, [](auto&) {}},
+  void apply(tree::Expression& expression) const {
+    std::visit(runtime::Overloaded{[&](tree::Call& node) { restrict(node, expression); },
+                                   [&](tree::Negation& node) { apply(*node.operand); },
+                                   [&](tree::Arithmetic& node) { applyBoth(node); },
+                                   [&](tree::Concatenation& node) { applyBoth(node); },
+                                   [&](tree::Comparison& node) { applyBoth(node); }, [](auto&) {}},
                expression.node);
   }
 
@@ -63,22 +51,25 @@ class Restriction {
     apply(*node.right);
   }
 
-  void restrict(Call& node, Expression& expression) const {
+  void restrict(tree::Call& node, tree::Expression& expression) const {
     if (!isAggregate(node.name)) {
-      for (Expression& argument : node.arguments) apply(argument);
+      for (tree::Expression& argument : node.arguments) apply(argument);
       return;
     }
-    const bool counts = sameWord(node.name, "COUNT");
-    Expression again = copyOf(expression);
-    node.filter.push_back(copyOf(condition_));
-    if (!counts) return;
-    // Where there is no row there is nothing, not zero rows.
-    std::get<Call>(again.node).filter.push_back(copyOf(condition_));
-    Expression none{Comparison{ComparisonOperator::Equal, std::move(again), number("0")}, {}};
-    expression = call("IIf", std::move(none), null(), Expression(std::move(expression)));
+    node.filter.push_back(condition_);
+    if (sameWord(node.name, "COUNT")) expression = nullForZero(std::move(expression));
   }
 
-  const Expression& condition_;
+  /// Where there is no row there is nothing, not zero rows.
+  static tree::Expression nullForZero(tree::Expression count) {
+    const tree::Place place = count.place;
+    tree::Comparison zero{ComparisonOperator::Equal, tree::Expression(count), numberLiteral("0", place)};
+    return {
+        tree::Call{"IIf", false, {{std::move(zero), place}, {tree::Literal{}, place}, std::move(count)}, {}},
+        place};
+  }
+
+  const tree::Expression& condition_;
 };
 
 std::string digitsOf(double value) {
@@ -95,72 +86,73 @@ std::string headingOf(const runtime::Variant& value) {
   return text;
 }
 
-std::string columnName(const Expression& value) {
-  const auto* literal = std::get_if<Literal>(&value.node);
-  if (!literal) return print(value);
-  return literal->kind == Literal::Kind::Null ? "<>" : literal->text;
+std::string headingOf(const tree::Expression& value) {
+  if (isNullLiteral(value)) return "<>";
+  const auto* literal = std::get_if<tree::Literal>(&value.node);
+  return literal ? literal->text : print(value);
 }
 
-Expression literalOf(const runtime::Variant& value, std::size_t position) {
+tree::Expression literalOf(const runtime::Variant& value, const tree::Place& place) {
   using Kind = runtime::VariantKind;
+  using tree::Literal;
   switch (value.kind()) {
     case Kind::Null:
-      return null();
+      return {Literal{}, place};
     case Kind::Text:
-      return {Literal{Literal::Kind::Text, value.toText()}, {}};
+      return {Literal{Literal::Kind::Text, value.toText()}, place};
     case Kind::Date:
-      return {Literal{Literal::Kind::Date, runtime::format(value, "yyyy-mm-dd hh:nn:ss")}, {}};
+      return {Literal{Literal::Kind::Date, runtime::format(value, "yyyy-mm-dd hh:nn:ss")}, place};
     case Kind::Bytes:
-      throw SyntaxError(TypesDiffer, "PIVOT", position);
+      throw SyntaxError(TypesDiffer, "PIVOT", place.position);
     default:
-      return number(digitsOf(value.toDouble()));
+      return numberLiteral(digitsOf(value.toDouble()), place);
   }
 }
 
 /// The values of the pivot in the rows that the query reads, as many as there are, in their order.
-std::vector<Column> columnsOfRows(Context& context, const Transform& transform) {
+std::vector<PivotColumn> columnsOfRows(Context& context, const tree::Transform& transform) {
   constexpr std::size_t maximumFields = 255;
-  const std::size_t position = transform.pivot.place.position;
-  Query list = parseQuery(print(transform.query));
-  Select& rows = list.parts.front();
+  const tree::Place& place = transform.pivot.place;
+  tree::Query list = transform.query;
+  tree::Select& rows = list.parts.front();
   rows.distinct = true;
-  rows.items.clear();
-  rows.items.push_back({copyOf(transform.pivot), "", {position}});
+  rows.items.assign(1, {transform.pivot, "", place});
   rows.groupBy.clear();
   rows.having.reset();
-  list.orderBy.clear();
-  list.orderBy.push_back({number("1"), false});
+  list.orderBy.assign(1, {numberLiteral("1", place), false});
   const auto values = context.values(list);
   if (!values) return {};
   if (values->size() >= maximumFields)
-    throw SyntaxError(TooManyFields, std::to_string(values->size()), position);
-  std::vector<Column> columns;
-  for (const auto& value : *values) columns.push_back({headingOf(value), literalOf(value, position)});
+    throw SyntaxError(TooManyFields, std::to_string(values->size()), place.position);
+  std::vector<PivotColumn> columns;
+  for (const auto& value : *values) columns.push_back({headingOf(value), literalOf(value, place)});
   return columns;
 }
 
-std::vector<Column> columnsOf(Context& context, Transform& transform) {
+std::vector<PivotColumn> columnsOf(Context& context, const tree::Transform& transform) {
   if (transform.columns.empty()) return columnsOfRows(context, transform);
-  std::vector<Column> columns;
-  for (Expression& value : transform.columns) columns.push_back({columnName(value), std::move(value)});
+  std::vector<PivotColumn> columns;
+  for (const tree::Expression& value : transform.columns) columns.push_back({headingOf(value), value});
   return columns;
+}
+
+/// Holds for the rows of a column. What is wrong with comparing them is the value's fault.
+tree::Expression conditionOf(const tree::Expression& pivot, const tree::Expression& value) {
+  if (isNullLiteral(value)) return {tree::IsNull{false, tree::Expression(pivot)}, value.place};
+  return {tree::Comparison{ComparisonOperator::Equal, tree::Expression(pivot), tree::Expression(value)},
+          value.place};
 }
 
 }  // namespace
 
-Query crosstab(Context& context, Transform transform) {
+tree::Query crosstab(Context& context, tree::Transform transform) {
   if (transform.query.parts.size() != 1)
     throw SyntaxError(TransformSyntax, "UNION", transform.pivot.place.position);
-  for (Column& column : columnsOf(context, transform)) {
-    const auto* literal = std::get_if<Literal>(&column.value.node);
-    const bool isNull = literal && literal->kind == Literal::Kind::Null;
-    Expression pivot = copyOf(transform.pivot);
-    Expression condition{IsNull{false, copyOf(transform.pivot)}, {}};
-    if (!isNull)
-      condition.node = Comparison{ComparisonOperator::Equal, std::move(pivot), std::move(column.value)};
-    Expression value = copyOf(transform.value);
-    Restriction(condition).apply(value);
-    transform.query.parts.front().items.push_back({std::move(value), std::move(column.name), {}});
+  for (PivotColumn& column : columnsOf(context, transform)) {
+    tree::Expression value = transform.value;
+    Restriction(conditionOf(transform.pivot, column.value)).apply(value);
+    transform.query.parts.front().items.push_back(
+        {std::move(value), std::move(column.name), transform.value.place});
   }
   return std::move(transform.query);
 }

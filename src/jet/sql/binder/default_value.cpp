@@ -1,3 +1,4 @@
+// Default values of the columns that an INSERT leaves out.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"
@@ -28,8 +29,7 @@ std::optional<bound::Expression> Binder::defaultValue(const file::TableDefinitio
   if (text.empty()) return std::nullopt;
   const std::string name = table.name + "." + column.name + " = " + kept;
   try {
-    // By itself: the names of the statement mean nothing in it.
-    Context alone(context_.schema());
+    Context alone = context_.apart();  // the names of the statement mean nothing in it
     bound::Expression value = Binder(alone, nullptr).expression(parseExpression(text));
     if (!alone.parameters().empty() || !alone.tables().empty()) {
       throw SyntaxError(UnknownReference, name, position);

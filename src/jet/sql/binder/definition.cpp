@@ -1,3 +1,4 @@
+// CREATE, ALTER and DROP as the plain structs that compile.h offers.
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/binder/type_name.h"
 #include "jet/sql/syntax_error.h"

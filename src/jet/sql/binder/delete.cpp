@@ -1,3 +1,4 @@
+// DELETE: the table that it empties among those of FROM.
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/syntax_error.h"
 

@@ -1,3 +1,4 @@
+// DLookup and its kin, as sub-queries where their texts are constant.
 #include "jet/sql/domain.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ struct DomainName {
   const char* aggregate;  // empty: the value of any row
 };
 
-constexpr DomainName domainNames[] = {
+constexpr DomainName DomainNames[] = {
     {"DLOOKUP", ""},     {"DCOUNT", "Count"},   {"DSUM", "Sum"},     {"DAVG", "Avg"},
     {"DMIN", "Min"},     {"DMAX", "Max"},       {"DFIRST", "First"}, {"DLAST", "Last"},
     {"DSTDEV", "StDev"}, {"DSTDEVP", "StDevP"}, {"DVAR", "Var"},     {"DVARP", "VarP"},
@@ -75,9 +76,9 @@ auto at(const tree::Place& place, Work work) {
 /// Where the texts are known the query is bound in place; otherwise it is compiled for each row.
 std::optional<Expression> Binder::domain(const tree::Call& node, const Place& place) {
   const auto* found = std::ranges::find_if(
-      domainNames, [&](const DomainName& name) { return sameWord(node.name, name.name); });
+      DomainNames, [&](const DomainName& name) { return sameWord(node.name, name.name); });
   const std::size_t count = node.arguments.size();
-  if (found == std::end(domainNames) || count < 2 || count > 3) return std::nullopt;
+  if (found == std::end(DomainNames) || count < 2 || count > 3) return std::nullopt;
 
   const auto expressionText = constantText(node.arguments[0]), source = constantText(node.arguments[1]),
              criteria = count == 3 ? constantText(node.arguments[2]) : std::string();
@@ -119,7 +120,7 @@ void Binder::expectCriteria(const bound::Select& select, const std::string& piec
     if (!table) continue;
     for (const file::Column& column : table->columns) {
       if (!file::sameName(column.name, word)) continue;
-      context_.noteCompared({Type::Null, bound::Column{source->source, "c" + std::to_string(column.number)}});
+      context_.noteCompared({Type::Null, bound::Column{source->source, column.number}});
     }
   }
 }

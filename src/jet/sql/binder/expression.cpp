@@ -1,3 +1,4 @@
+// Expressions: dispatch to the noun, and conditions.
 #include "jet/sql/binder/binder.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// The table of functions: what they take, what they give, how SQLite writes them.
 #include "jet/sql/binder/function.h"
 
 #include <algorithm>
@@ -12,29 +13,29 @@ using F = Function;
 constexpr auto Any = F::Any, Number = F::Number, Boolean = F::Boolean, Long = F::Long, Double = F::Double,
                Date = F::Date, Text = F::Text;
 // What a Null makes an error.
-constexpr std::uint8_t anAny = Any | F::NotNull, aNumber = Number | F::NotNull,
+constexpr std::uint8_t AnAny = Any | F::NotNull, aNumber = Number | F::NotNull,
                        aBoolean = Boolean | F::NotNull, aLong = Long | F::NotNull,
                        aDouble = Double | F::NotNull, aDate = Date | F::NotNull, aText = Text | F::NotNull;
 constexpr auto Fixed = F::Result::Fixed, LikeFirst = F::Result::LikeFirst;
 
 /// A conversion is all that its argument's type asks for: the expression is the argument itself.
-constexpr Function functions[] = {
+constexpr Function Functions[] = {
     {"ABS", 1, {Number}, LikeFirst, Type::Null, "jet_abs($t, $1)"},
     {"ASC", 1, {aText}, Fixed, Type::Long, "jet_asc($1)"},
     {"ASCW", 1, {aText}, Fixed, Type::Long, "jet_asc_w($1)"},
     {"ATN", 1, {aDouble}, Fixed, Type::Double, "jet_atn($1)"},
     {"CBOOL", 1, {aBoolean}, Fixed, Type::Boolean, "$1"},
-    {"CBYTE", 1, {anAny}, Fixed, Type::Byte, "$1"},
-    {"CCUR", 1, {anAny}, Fixed, Type::Currency, "$1"},
+    {"CBYTE", 1, {AnAny}, Fixed, Type::Byte, "$1"},
+    {"CCUR", 1, {AnAny}, Fixed, Type::Currency, "$1"},
     {"CDATE", 1, {aDate}, Fixed, Type::Date, "$1"},
     {"CDBL", 1, {aDouble}, Fixed, Type::Double, "$1"},
-    {"CDEC", 1, {anAny}, Fixed, Type::Decimal, "$1"},
+    {"CDEC", 1, {AnAny}, Fixed, Type::Decimal, "$1"},
     {"CHR", 1, {aLong}, Fixed, Type::Text, "jet_chr($1)"},
     {"CHRW", 1, {aLong}, Fixed, Type::Text, "jet_chr_w($1)"},
-    {"CINT", 1, {anAny}, Fixed, Type::Integer, "$1"},
+    {"CINT", 1, {AnAny}, Fixed, Type::Integer, "$1"},
     {"CLNG", 1, {aLong}, Fixed, Type::Long, "$1"},
     {"COS", 1, {aDouble}, Fixed, Type::Double, "jet_cos($1)"},
-    {"CSNG", 1, {anAny}, Fixed, Type::Single, "$1"},
+    {"CSNG", 1, {AnAny}, Fixed, Type::Single, "$1"},
     {"CSTR", 1, {aText}, Fixed, Type::Text, "$1"},
     {"CVAR", 1, {Any}, LikeFirst, Type::Null, "$1"},
     {"CVDATE", 1, {Date}, Fixed, Type::Date, "$1"},
@@ -112,9 +113,9 @@ constexpr Function functions[] = {
     {"YEAR", 1, {Date}, Fixed, Type::Integer, "jet_year($1)"},
 };
 
-constexpr Function choose{"CHOOSE", 2, {aLong}, Fixed, Type::Null, "jet_choose($*)"};
-constexpr Function identity{"@@IDENTITY", 0, {}, Fixed, Type::Long, "jet_identity()"};
-constexpr Function domain{"DLOOKUP",       4, {Any, Any, aText, aText, Text}, Fixed, Type::Variant,
+constexpr Function Choose{"CHOOSE", 2, {aLong}, Fixed, Type::Null, "jet_choose($*)"};
+constexpr Function Identity{"@@IDENTITY", 0, {}, Fixed, Type::Long, "jet_identity()"};
+constexpr Function Domain{"DLOOKUP",       4, {Any, Any, aText, aText, Text}, Fixed, Type::Variant,
                           "jet_domain($*)"};
 
 }  // namespace
@@ -126,24 +127,24 @@ std::size_t Function::most() const {
 const Function* findFunction(const std::string& name, std::size_t arguments) {
   const bool dollar = name.ends_with('$');
   const std::string_view bare = std::string_view(name).substr(0, name.size() - dollar);
-  const auto* found = std::ranges::find_if(functions, [&](const Function& candidate) {
+  const auto* found = std::ranges::find_if(Functions, [&](const Function& candidate) {
     const bool named = sameWord(name, candidate.name) || (dollar && sameWord(bare, candidate.name));
     return named && arguments >= candidate.least && arguments <= candidate.most() &&
            (!dollar || candidate.type == Type::Text);
   });
-  return found == std::end(functions) ? nullptr : found;
+  return found == std::end(Functions) ? nullptr : found;
 }
 
 const Function& chooseFunction() {
-  return choose;
+  return Choose;
 }
 
 const Function& identityFunction() {
-  return identity;
+  return Identity;
 }
 
 const Function& domainFunction() {
-  return domain;
+  return Domain;
 }
 
 }  // namespace jet::sql

@@ -1,3 +1,4 @@
+// INSERT: which column gets which value.
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/syntax_error.h"
 

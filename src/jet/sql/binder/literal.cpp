@@ -1,3 +1,4 @@
+// Literals, in the form that the image keeps their type in.
 #include <algorithm>
 #include <charconv>
 #include <cmath>

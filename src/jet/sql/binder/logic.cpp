@@ -1,3 +1,4 @@
+// AND, OR and their kin: operands are conditions.
 #include "jet/sql/binder/binder.h"
 
 namespace jet::sql {

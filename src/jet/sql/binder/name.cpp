@@ -1,3 +1,4 @@
+// Names: a column, an alias, a column of a level around, or else a parameter.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"
@@ -22,12 +23,12 @@ Expression Binder::bind(const tree::Name& node, const Place& place) {
   return parameter(node.table.empty() ? node.column : node.table + "." + node.column, place.position);
 }
 
-/// A parameter that EXECUTE gives a value is that value; bound anew, since a tree belongs to one place.
+/// A parameter that EXECUTE gives a value is that value, in which the names of the statement mean nothing.
 Expression Binder::parameter(const std::string& name, std::size_t position) {
   Expression parameter = context_.parameter(name);
   const auto* given = context_.argument(std::get<bound::Parameter>(parameter.node).index);
   if (!given) return parameter;
-  Context constant(context_.schema());
+  Context constant = context_.apart();
   Expression value = Binder(constant, nullptr).expression(*given);
   if (!constant.parameters().empty() || !constant.tables().empty())
     throw SyntaxError(ExpressionSyntax, tree::print(*given), position);

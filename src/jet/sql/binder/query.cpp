@@ -1,3 +1,4 @@
+// Queries: their parts, the types that a UNION's columns have in common, and the order.
 #include <algorithm>
 #include <charconv>
 

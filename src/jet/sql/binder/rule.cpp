@@ -1,3 +1,4 @@
+// Validation rules, bound against one row.
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/syntax_error.h"
 

@@ -1,3 +1,4 @@
+// Names of FROM and of their columns.
 #include "jet/sql/binder/scope.h"
 
 #include <algorithm>
@@ -6,22 +7,12 @@
 
 namespace jet::sql {
 
-namespace {
-
-/// A second reference to the same column.
-VisibleColumn copyOf(const VisibleColumn& column) {
-  const bound::Expression& value = column.value;
-  return {column.name,
-          {value.type, std::get<bound::Column>(value.node)},
-          column.sourceTable,
-          column.sourceColumn};
-}
-
-}  // namespace
-
 VisibleColumn VisibleSource::columnOf(const file::Column& column) const {
-  bound::Column value{source, "c" + std::to_string(column.number), isCollated(typeOf(column.type))};
-  return {column.name, {typeOf(column.type), std::move(value)}, table->name, column.name};
+  const Type type = typeOf(column.type);
+  return {column.name,
+          {type, bound::Column{source, column.number, false, isCollated(type)}},
+          table->name,
+          column.name};
 }
 
 std::optional<VisibleColumn> VisibleSource::find(const std::string& columnName) const {
@@ -30,7 +21,7 @@ std::optional<VisibleColumn> VisibleSource::find(const std::string& columnName) 
     return index ? std::optional(columnOf(table->columns[*index])) : std::nullopt;
   }
   for (const VisibleColumn& column : queryColumns) {
-    if (file::sameName(column.name, columnName)) return copyOf(column);
+    if (file::sameName(column.name, columnName)) return column;
   }
   return std::nullopt;
 }
@@ -40,7 +31,7 @@ std::vector<VisibleColumn> VisibleSource::columns() const {
   if (table) {
     for (const std::size_t index : table->displayOrder()) all.push_back(columnOf(table->columns[index]));
   }
-  for (const VisibleColumn& column : queryColumns) all.push_back(copyOf(column));
+  all.insert(all.end(), queryColumns.begin(), queryColumns.end());
   return all;
 }
 

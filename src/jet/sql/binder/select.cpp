@@ -1,3 +1,4 @@
+// SELECT: the list, grouping, and what may stand outside of an aggregate.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"
@@ -36,11 +37,7 @@ void Binder::groupBy(const tree::Select& tree, Select& result) {
     result.groupBy.push_back(expression(key));
     context_.noteCompared(result.groupBy.back());
   }
-  // Only now: a key is no part of another one. Bound once more, since a tree belongs to one place.
-  for (const tree::Expression& key : tree.groupBy) {
-    bound::Expression copy = expression(key);
-    groupKeys_.push_back(std::move(copy));
-  }
+  groupKeys_ = result.groupBy;  // only now: a key is no part of another one
   ungrouped_.clear();
 }
 

@@ -1,3 +1,4 @@
+// FROM: tables, stored queries, queries and their joins.
 #include <algorithm>
 
 #include "jet/file/errors.h"
@@ -97,7 +98,7 @@ Source Binder::storedQuery(const std::string& text, const tree::TableSource& tab
   tree::Statement statement = parse(text);
   for (const tree::ParameterDeclaration& parameter : statement.parameters) context_.declare(parameter);
   if (auto* transform = std::get_if<tree::Transform>(&statement.body))
-    statement.body = crosstab(context_, tree::Transform(std::move(*transform)));
+    statement.body = crosstab(context_, std::move(*transform));
   const auto* query = std::get_if<tree::Query>(&statement.body);
   if (!query) throw SyntaxError(UnknownTable, table.name, position);
   const std::string& name = table.alias.empty() ? table.name : table.alias;
@@ -110,7 +111,7 @@ Source Binder::declareQuery(bound::Query query, const std::string& name) {
   VisibleSource visible{context_.addSource(nullptr, name), name, nullptr, {}};
   const auto& items = query.parts.front().items;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    const bound::Column value{visible.source, "x" + std::to_string(i + 1), false};
+    const bound::Column value{visible.source, i + 1, true, false};
     visible.queryColumns.push_back(
         {items[i].name, {items[i].value.type, value}, items[i].sourceTable, items[i].sourceColumn});
   }

@@ -1,3 +1,4 @@
+// Sub-queries as values, lists and tests.
 #include "jet/sql/binder/binder.h"
 #include "jet/sql/syntax_error.h"
 

@@ -1,3 +1,4 @@
+// The names that SQL has for types.
 #include "jet/sql/binder/type_name.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ namespace {
 
 using file::ColumnType;
 
-constexpr NamedType types[] = {
+constexpr NamedType NamedTypes[] = {
     {"BIT", ColumnType::Boolean},
     {"BOOLEAN", ColumnType::Boolean},
     {"LOGICAL", ColumnType::Boolean},
@@ -84,9 +85,9 @@ constexpr NamedType types[] = {
 }  // namespace
 
 const NamedType* findType(const std::string& name) {
-  const auto* found =
-      std::ranges::find_if(types, [&](const NamedType& candidate) { return sameWord(name, candidate.name); });
-  return found == std::end(types) ? nullptr : found;
+  const auto* found = std::ranges::find_if(
+      NamedTypes, [&](const NamedType& candidate) { return sameWord(name, candidate.name); });
+  return found == std::end(NamedTypes) ? nullptr : found;
 }
 
 Type parameterType(const tree::TypeName& type) {

@@ -1,3 +1,4 @@
+// UPDATE: which table each assignment changes.
 #include <algorithm>
 
 #include "jet/sql/binder/binder.h"

@@ -1,3 +1,4 @@
+// CONSTRAINT and REFERENCES.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

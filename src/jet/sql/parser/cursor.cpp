@@ -1,3 +1,4 @@
+// Tokens taken one after the other, and what is wrong with the next.
 #include "jet/sql/parser/cursor.h"
 
 #include <algorithm>

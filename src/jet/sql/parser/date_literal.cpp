@@ -1,3 +1,4 @@
+// What stands between # and #.
 #include <algorithm>
 #include <array>
 #include <cctype>

@@ -1,3 +1,4 @@
+// DELETE.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// Expressions by the strength of their operators.
 #include <algorithm>
 
 #include "jet/sql/parser/parser.h"
@@ -33,7 +34,7 @@ struct Operator {
   std::variant<ArithmeticOperator, ComparisonOperator, LogicOperator, std::monostate> op;  // monostate: &
 };
 
-constexpr Operator operators[] = {
+constexpr Operator Operators[] = {
     {"IMP", ImpLevel, LogicOperator::Imp},
     {"EQV", EqvLevel, LogicOperator::Eqv},
     {"XOR", XorLevel, LogicOperator::Xor},
@@ -57,10 +58,10 @@ constexpr Operator operators[] = {
 
 const Operator* findOperator(const Token& token) {
   if (token.kind != Token::Kind::Word && token.kind != Token::Kind::Symbol) return nullptr;
-  const auto* found = std::ranges::find_if(operators, [&](const Operator& candidate) {
+  const auto* found = std::ranges::find_if(Operators, [&](const Operator& candidate) {
     return token.kind == Token::Kind::Word ? token.isWord(candidate.token) : token.text == candidate.token;
   });
-  return found == std::end(operators) ? nullptr : found;
+  return found == std::end(Operators) ? nullptr : found;
 }
 
 struct MakeNode {

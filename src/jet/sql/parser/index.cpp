@@ -1,3 +1,4 @@
+// CREATE INDEX.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

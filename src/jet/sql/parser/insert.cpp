@@ -1,3 +1,4 @@
+// INSERT INTO.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// The characters of a statement as tokens.
 #include "jet/sql/parser/token.h"
 #include "jet/sql/syntax_error.h"
 #include "runtime/letters.h"
@@ -6,7 +7,7 @@ namespace jet::sql {
 
 namespace {
 
-constexpr std::string_view identity = "@@IDENTITY";
+constexpr std::string_view IdentityWord = "@@IDENTITY";
 
 char upper(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -51,7 +52,7 @@ class Lexer {
   std::string_view take(std::size_t bytes) {
     const std::string_view taken = rest_.substr(0, bytes);
     rest_.remove_prefix(bytes);
-    for (char c : taken) position_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    for (char c : taken) position_ += !runtime::continuesCharacter(c);
     return taken;
   }
 
@@ -68,9 +69,10 @@ class Lexer {
     }
     switch (first) {
       case '@':
-        if (sameWord(rest_.substr(0, identity.size()), identity) && !continuesWord(at(identity.size()))) {
+        if (sameWord(rest_.substr(0, IdentityWord.size()), IdentityWord) &&
+            !continuesWord(at(IdentityWord.size()))) {
           token.kind = Token::Kind::Word;
-          token.text = take(identity.size());
+          token.text = take(IdentityWord.size());
           return;
         }
         return readSymbol(token);

@@ -1,3 +1,4 @@
+// What an operator joins: literals, names, calls, what stands in parentheses.
 #include <algorithm>
 
 #include "jet/file/errors.h"

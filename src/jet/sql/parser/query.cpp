@@ -1,3 +1,4 @@
+// Queries: UNION and ORDER BY around the parts.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// SELECT and TRANSFORM.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// FROM.
 #include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 

@@ -1,3 +1,4 @@
+// Which statement begins here, its parameters, and how deep one may nest.
 #include "jet/file/errors.h"
 #include "jet/sql/parser/parser.h"
 
@@ -5,19 +6,19 @@ namespace jet::sql {
 
 namespace {
 
-constexpr unsigned maximumLevels = 100;  // of grammar rules within one another
-constexpr unsigned maximumDepth = 400;   // of operators in a chain
+constexpr unsigned MaximumLevels = 100;  // of grammar rules within one another
+constexpr unsigned MaximumDepth = 400;   // of operators in a chain
 
 }  // namespace
 
 Parser::Level::Level(Parser& parser) : parser_(parser) {
-  if (++parser_.levels_ <= maximumLevels) return;
+  if (++parser_.levels_ <= MaximumLevels) return;
   --parser_.levels_;
   parser_.cursor_.fail(TooComplex);
 }
 
 void Parser::checkDepth(unsigned depth, std::size_t position) const {
-  if (depth > maximumDepth) throw SyntaxError(TooComplex, "", position);
+  if (depth > MaximumDepth) throw SyntaxError(TooComplex, "", position);
 }
 
 tree::Statement Parser::statement() {

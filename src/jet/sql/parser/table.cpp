@@ -1,3 +1,4 @@
+// CREATE TABLE and ALTER TABLE.
 #include <algorithm>
 
 #include "jet/file/errors.h"

@@ -1,3 +1,4 @@
+// UPDATE.
 #include "jet/sql/parser/parser.h"
 
 namespace jet::sql {

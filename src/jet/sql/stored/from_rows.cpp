@@ -1,3 +1,4 @@
+// FROM of a query's text as rows of sources and joins.
 #include "jet/sql/stored/from_rows.h"
 
 #include <algorithm>

@@ -16,7 +16,7 @@ struct OtherDatabase {
 /// `IN 'path' [type]` in a clause; nothing where there is none.
 std::optional<OtherDatabase> otherDatabase(const StatementText& text, Span clause);
 
-/// Takes the sources of FROM apart: a row for each table or sub-query in order of appearance, a row for each
+/// Decodes the sources of FROM: a row for each table or sub-query in order of appearance, a row for each
 /// condition between two of them, inner joins before the outer ones.
 class FromRows {
  public:

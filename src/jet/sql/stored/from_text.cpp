@@ -1,3 +1,4 @@
+// FROM written from rows of sources and joins: a tree grows, join by join.
 #include "jet/sql/stored/from_text.h"
 
 #include <algorithm>
@@ -9,6 +10,8 @@
 #include "jet/sql/stored/row_values.h"
 #include "jet/sql/syntax_error.h"
 #include "jet/sql/tree/print.h"
+#include "runtime/join.h"
+#include "runtime/text.h"
 
 namespace jet::sql::stored {
 
@@ -109,9 +112,7 @@ class Joining {
   }
 
   std::string result() const {
-    std::string list;
-    for (const auto& node : nodes_) list += (list.empty() ? "" : ", ") + text(*node);
-    return list;
+    return runtime::join(nodes_, ", ", [](const NodePtr& node) { return text(*node); });
   }
 
  private:
@@ -134,7 +135,7 @@ class Joining {
 std::string otherDatabaseText(const std::optional<std::string>& path,
                               const std::optional<std::string>& type) {
   if (!path && !type) return {};
-  return " IN " + tree::quotedText(path.value_or("")) + (type ? " " + tree::quotedName(*type) : "");
+  return " IN " + runtime::quoted(path.value_or("")) + (type ? " " + tree::quotedName(*type) : "");
 }
 
 std::string fromText(std::span<const QueryRow> sources, std::span<const QueryRow> joins) {

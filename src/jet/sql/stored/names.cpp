@@ -1,3 +1,4 @@
+// Names as the engine shows them.
 #include "jet/sql/stored/names.h"
 
 #include <algorithm>

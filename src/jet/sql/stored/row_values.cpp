@@ -1,3 +1,4 @@
+// The numbers and names in the rows of stored queries.
 #include "jet/sql/stored/row_values.h"
 
 #include "jet/sql/binder/type_name.h"

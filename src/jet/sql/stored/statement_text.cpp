@@ -1,6 +1,10 @@
+// A statement by its tokens, each with its place in the text.
 #include "jet/sql/stored/statement_text.h"
 
 #include <algorithm>
+
+#include "runtime/letters.h"
+#include "runtime/text.h"
 
 namespace jet::sql::stored {
 
@@ -10,7 +14,7 @@ StatementText::StatementText(std::string_view text) : text_(text), tokens_(token
   for (const Token& token : tokens_) {
     for (; character < token.position; ++character) do
         ++byte;
-      while (byte < text.size() && (static_cast<unsigned char>(text[byte]) & 0xC0) == 0x80);
+      while (byte < text.size() && runtime::continuesCharacter(text[byte]));
     offsets_.push_back(byte);
   }
   whole_.end = tokens_.size() - 1;
@@ -30,7 +34,7 @@ std::string StatementText::text(Span span) const {
   if (span.empty()) return {};
   const std::size_t from = offsets_[span.begin], to = offsets_[std::min(span.end, offsets_.size() - 1)];
   const std::string_view written = text_.substr(from, to - from);
-  return std::string(written.substr(0, written.find_last_not_of(" \t\r\n") + 1));
+  return std::string(written.substr(0, written.find_last_not_of(runtime::Blanks) + 1));
 }
 
 std::string StatementText::names(Span span) const {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-/// A stored query as the rows of the system table MSysQueries keep it: its clauses taken apart. The texts of
-/// expressions are kept as they were written.
+/// A stored query as the rows of the system table MSysQueries keep it: a row for each piece of its clauses.
+/// The texts of expressions are kept as they were written.
 namespace jet::sql {
 
 /// Kinds of query: bits of the catalogue's Flags, and the type numbers of the data access objects.
@@ -54,13 +54,13 @@ struct StoredQuery {
   std::vector<QueryRow> rows;
 };
 
-/// Takes the text of a query apart. Error 3075 and kin for syntax; 3129 for what rows can't keep: INSERT of a
-/// UNION or of a query in parentheses.
-StoredQuery takeApart(std::string_view sql);
+/// Decodes the text of a query into its rows. Error 3075 and kin for syntax; 3129 for what rows can't keep:
+/// INSERT of a UNION or of a query in parentheses.
+StoredQuery decodeQuery(std::string_view sql);
 
 /// The text of a query: each clause on a line of its own, a closing semicolon, CR LF at the ends of lines.
 /// A pass-through query and a definition come as they were written. Rows of any order; what is missing is
 /// left out, so that damaged rows give a text that doesn't parse. Error 3129 for an unknown kind.
-std::string putTogether(const StoredQuery& query);
+std::string queryText(const StoredQuery& query);
 
 }  // namespace jet::sql

@@ -1,4 +1,6 @@
+// Arithmetic and joined texts in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
+#include "runtime/join.h"
 
 namespace jet::sql {
 
@@ -11,7 +13,7 @@ bool isNative(ArithmeticOperator op) {
          op == ArithmeticOperator::Multiply;
 }
 
-/// SQLite's own operators reckon with 64 bits or with Doubles; one check around a chain of them finds a
+/// SQLite's own operators compute with 64 bits or with Doubles; one check around a chain of them finds a
 /// result that its type can't hold. Whole numbers have none: beyond a Long they go on as Doubles, as those of
 /// a Variant do ("* Operator" in the language reference of Visual Basic for Applications,
 /// learn.microsoft.com/office/vba/language/reference/user-interface-help/operator: a result that "is a Long,
@@ -103,14 +105,13 @@ Sql Translator::translate(const bound::Concatenation& node, Type) {
   }
   // Where no part is certain not to be Null, all may be, and so is the result.
   if (node.nullIsEmpty && !anyText) return {"jet_join(" + list(node.parts) + ")"};
-  std::string text;
-  for (const Expression& part : node.parts) {
+  const auto operand = [&](const Expression& part) {
     Sql piece = value(part);
     const bool literal = std::holds_alternative<bound::Literal>(part.node);
     if (node.nullIsEmpty && (!literal || piece.text == "NULL")) piece = {"ifnull(" + piece.text + ", '')"};
-    text += (text.empty() ? "" : " || ") + within(std::move(piece), Strength::Join);
-  }
-  return {std::move(text), Strength::Join};
+    return within(std::move(piece), Strength::Join);
+  };
+  return {runtime::join(node.parts, " || ", operand), Strength::Join};
 }
 
 }  // namespace jet::sql

@@ -1,3 +1,4 @@
+// Functions, choices and aggregates in SQLite's SQL.
 #include "jet/sql/binder/function.h"
 #include "jet/sql/translation/translator.h"
 

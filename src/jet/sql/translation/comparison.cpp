@@ -1,3 +1,4 @@
+// Comparisons in SQLite's SQL, with the order of the type on the left.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {

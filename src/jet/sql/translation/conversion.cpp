@@ -1,3 +1,4 @@
+// Conversions in SQLite's SQL.
 #include <algorithm>
 
 #include "jet/sql/translation/translator.h"

@@ -1,3 +1,4 @@
+// DELETE in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {
@@ -10,7 +11,7 @@ Translator::Change Translator::deletion(const bound::Delete& deletion) {
   if (source.tables.size() == 1) {
     const std::string rest = " FROM " + source.text + where(deletion.where);
     change.sql = "DELETE" + rest;
-    change.steps.gather = "SELECT " + key + " AS k1" + rest;
+    change.steps.spool = "SELECT " + key + " AS k1" + rest;
     return change;
   }
   // An outer join may find no row of the table.
@@ -19,7 +20,7 @@ Translator::Change Translator::deletion(const bound::Delete& deletion) {
       " FROM " + source.text + " WHERE " +
       (deletion.where ? within(condition(*deletion.where), Strength::And) + " AND " + found : found);
   change.sql = table + " WHERE rowid IN (SELECT " + key + rest + ")";
-  change.steps.gather = "SELECT DISTINCT " + key + " AS k1" + rest;
+  change.steps.spool = "SELECT DISTINCT " + key + " AS k1" + rest;
   return change;
 }
 

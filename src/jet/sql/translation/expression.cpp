@@ -1,6 +1,9 @@
+// Expressions in SQLite's SQL: dispatch to the noun, columns, literals.
 #include <cstdio>
 
 #include "jet/sql/translation/translator.h"
+#include "runtime/join.h"
+#include "runtime/text.h"
 
 namespace jet::sql {
 
@@ -27,18 +30,13 @@ std::string within(Sql sql, Strength least) {
   return sql.strength < least ? "(" + sql.text + ")" : std::move(sql.text);
 }
 
-std::string quoted(std::string_view text) {
-  std::string result = "'";
-  for (char c : text) {
-    if (c == '\'') result += c;
-    result += c;
-  }
-  return result + "'";
-}
-
 bool isStored(const Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
-  return std::holds_alternative<bound::Literal>(expression.node) || (column && column->name.starts_with('c'));
+  return std::holds_alternative<bound::Literal>(expression.node) || (column && !column->ofQuery);
+}
+
+std::string columnName(const bound::Column& column) {
+  return (column.ofQuery ? "x" : "c") + std::to_string(column.number);
 }
 
 Sql booleanValue(Sql condition) {
@@ -68,7 +66,7 @@ Sql Translator::asLong(const Expression& expression) {
 
 Sql Translator::ordered(const Expression& expression) {
   const auto* column = std::get_if<bound::Column>(&expression.node);
-  const bool lost = gathering_ && column && column->source != gathering_->target;
+  const bool lost = spool_ && column && column->source != spool_->target;
   Sql sql = value(expression);
   // Alone, a whole number would be the place of a column.
   if (sql.text.find_first_not_of("0123456789-() ") == std::string::npos)
@@ -84,14 +82,12 @@ std::string Translator::rule(const Expression& rule) {
 }
 
 std::string Translator::list(const std::vector<Expression>& expressions) {
-  std::string text;
-  for (const Expression& expression : expressions)
-    text += (text.empty() ? "" : ", ") + value(expression).text;
-  return text;
+  return runtime::join(expressions, ", ",
+                       [&](const Expression& expression) { return value(expression).text; });
 }
 
 Sql Translator::translate(const bound::Literal& node, Type) {
-  if (const auto* text = std::get_if<std::string>(&node.value)) return {quoted(*text)};
+  if (const auto* text = std::get_if<std::string>(&node.value)) return {runtime::quoted(*text)};
   if (const auto* whole = std::get_if<std::int64_t>(&node.value)) {
     return {std::to_string(*whole), *whole < 0 ? Strength::Sign : Strength::Whole};
   }
@@ -105,9 +101,9 @@ Sql Translator::translate(const bound::Literal& node, Type) {
 }
 
 Sql Translator::translate(const bound::Column& node, Type) {
-  if (gathering_) return {gathered(node)};
-  if (newRow_) return {"NEW." + node.name};
-  return {"a" + std::to_string(node.source) + "." + node.name};
+  if (spool_) return {spooled(node)};
+  if (newRow_) return {"NEW." + columnName(node)};
+  return {"a" + std::to_string(node.source) + "." + columnName(node)};
 }
 
 Sql Translator::translate(const bound::Parameter& node, Type) {

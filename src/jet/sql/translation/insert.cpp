@@ -1,3 +1,4 @@
+// INSERT in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {
@@ -21,12 +22,12 @@ Translator::Change Translator::insert(const bound::Insert& insert) {
            std::to_string(insert.rows->source);
   }
   Change change{insertInto(insert.page, insert.assignments, insert.defaults) + rows, {}};
-  Gathering gathering;
-  gathering_ = &gathering;
+  Spool spool;
+  spool_ = &spool;
   change.steps.apply.push_back(insertInto(insert.page, insert.assignments, insert.defaults) +
                                " FROM temp.jet_rows AS u");
-  gathering_ = nullptr;
-  change.steps.gather = "SELECT " + gatheredList({}, gathering) + rows;
+  spool_ = nullptr;
+  change.steps.spool = "SELECT " + spooledList({}, spool) + rows;
   return change;
 }
 

@@ -1,3 +1,4 @@
+// AND, OR and their kin in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// Queries in SQLite's SQL: UNION, the engine's order, TOP.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// SELECT in SQLite's SQL.
 #include <algorithm>
 
 #include "jet/sql/translation/translator.h"

@@ -1,3 +1,4 @@
+// FROM in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {

@@ -1,3 +1,4 @@
+// Sub-queries in SQLite's SQL.
 #include "jet/sql/translation/translator.h"
 
 namespace jet::sql {
@@ -15,7 +16,7 @@ bool givesOneRow(const bound::Query& query) {
 }  // namespace
 
 Sql Translator::translate(const bound::InQuery& node, Type) {
-  return gathered([&]() -> Sql {
+  return spooled([&]() -> Sql {
     return {within(ordered(*node.value), Strength::Sum) + (node.negated ? " NOT IN (" : " IN (") +
                 query(*node.query, Shape{}) + ")",
             Strength::Equality};
@@ -25,7 +26,7 @@ Sql Translator::translate(const bound::InQuery& node, Type) {
 /// True if it holds for one row, Null if it is Null for one.
 Sql Translator::translate(const bound::AnyOf& node, Type) {
   const char *whenTrue = node.negated ? "0" : "1", *whenFalse = node.negated ? "1" : "0";
-  return gathered([&]() -> Sql {
+  return spooled([&]() -> Sql {
     return {std::string("(SELECT CASE WHEN max(c) THEN ") + whenTrue +
             " WHEN count(*) > count(c) THEN NULL ELSE " + whenFalse + " END FROM (SELECT " +
             within(ordered(*node.value), Strength::Sum) + " " + symbol(node.op) + " x1 AS c FROM (" +
@@ -34,11 +35,11 @@ Sql Translator::translate(const bound::AnyOf& node, Type) {
 }
 
 Sql Translator::translate(const bound::Exists& node, Type) {
-  return gathered([&]() -> Sql { return {"EXISTS (" + query(*node.query, Shape{}) + ")"}; });
+  return spooled([&]() -> Sql { return {"EXISTS (" + query(*node.query, Shape{}) + ")"}; });
 }
 
 Sql Translator::translate(const bound::Subquery& node, Type) {
-  return gathered([&]() -> Sql {
+  return spooled([&]() -> Sql {
     if (givesOneRow(*node.query)) return {"(" + query(*node.query, Shape{}) + ")"};
     return {"(SELECT jet_single(count(*), max(x1)) FROM (" + query(*node.query, Shape{true}) + "))"};
   });

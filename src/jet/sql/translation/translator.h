@@ -115,39 +115,39 @@ class Translator {
                          const std::vector<bound::Assignment>& defaults);
 
   /// While an expression is translated for a row that is applied on its own: a column of the row that it
-  /// changes is read from its table, as it is by then; every other column, and a sub-query, was gathered.
-  struct Gathering {
+  /// changes is read from its table, as it is by then; every other column, and a sub-query, was spooled.
+  struct Spool {
     std::optional<unsigned> target;
     std::uint32_t page = 0;
     std::vector<std::string> columns;  // in SQL; v1, v2, ... of temp.jet_rows
     bool readsTarget = false;
   };
-  // gathering.cpp
-  std::string gathered(const bound::Column& column);
-  /// A sub-query, which is evaluated when the rows are gathered.
-  Sql gathered(const std::function<Sql()>& subquery);
-  static std::string gatheredAs(Gathering& gathering, std::string text);
-  /// The keys of targets as k1, k2, ... and what else was gathered, for the list of a SELECT.
-  std::string gatheredList(const std::vector<unsigned>& targets, const Gathering& gathering) const;
+  // spool.cpp
+  std::string spooled(const bound::Column& column);
+  /// A sub-query, which is evaluated when the rows are spooled.
+  Sql spooled(const std::function<Sql()>& subquery);
+  static std::string spooledAs(Spool& spool, std::string text);
+  /// The keys of targets as k1, k2, ... and what else was spooled, for the list of a SELECT.
+  std::string spooledList(const std::vector<unsigned>& targets, const Spool& spool) const;
 
   std::size_t rowKeys_ = 0;
   /// Tables of FROM that stand in parentheses, by source number.
   std::vector<bool> enclosed_;
-  Gathering* gathering_ = nullptr;
+  Spool* spool_ = nullptr;
   bool newRow_ = false;  // columns are read from NEW
   /// Rowid that tells the order of the rows of the SELECT being translated, or "0".
   std::string firstKey_ = "0";
 };
 
-/// True for a column of the image and for a literal, whose values are within their type. What is reckoned of
-/// Longs can lie beyond.
+/// True for a column of the image and for a literal, whose values are within their type. What is computed
+/// from Longs can lie beyond.
 bool isStored(const bound::Expression& expression);
+
+/// The column under the name that it has in the image, c<number>, or in the query, x<number>.
+std::string columnName(const bound::Column& column);
 
 /// `-` before a condition: -1 or 0, as the image keeps a Boolean.
 Sql booleanValue(Sql condition);
-
-/// A text as SQLite writes it.
-std::string quoted(std::string_view text);
 
 /// SQL with the order in which values of `type` are compared.
 Sql withCollation(Sql sql, Type type);

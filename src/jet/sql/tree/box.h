@@ -5,11 +5,18 @@
 
 namespace jet::sql {
 
-/// Owner of one node of a tree. Never empty until moved from; two boxes are equal when their nodes are.
+/// Owner of one node of a tree; a copy has a node of its own, with all that hangs on it. Never empty until
+/// moved from; two boxes are equal when their nodes are.
 template <class Node>
 class Box {
  public:
   Box(Node&& node) : node_(std::make_unique<Node>(std::move(node))) {}
+  Box(const Box& other) : node_(std::make_unique<Node>(*other.node_)) {}
+  Box(Box&& other) noexcept = default;
+  Box& operator=(const Box& other) { return *this = Box(other); }
+  Box& operator=(Box&& other) noexcept = default;
+  ~Box() = default;
+
   Node& operator*() { return *node_; }
   const Node& operator*() const { return *node_; }
   Node* operator->() { return node_.get(); }

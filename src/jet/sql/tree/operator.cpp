@@ -1,3 +1,4 @@
+// The signs of operators.
 #include "jet/sql/tree/operator.h"
 
 #include <cstddef>

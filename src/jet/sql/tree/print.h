@@ -26,8 +26,7 @@ std::string print(const CreateIndex& create);
 std::string print(const DropTable& drop);
 std::string print(const DropIndex& drop);
 
-/// `text` as a name in brackets (in back quotes where it holds a bracket) and as a text in apostrophes.
+/// `text` as a name in brackets (in back quotes where it holds a bracket).
 std::string quotedName(std::string_view text);
-std::string quotedText(std::string_view text);
 
 }  // namespace jet::sql::tree

@@ -1,13 +1,14 @@
+// Definitions printed back as Jet SQL.
 #include "jet/sql/tree/print.h"
-#include "jet/sql/tree/print_list.h"
 #include "jet/sql/tree/statement.h"
+#include "runtime/join.h"
 
 namespace jet::sql::tree {
 
 namespace {
 
 std::string printNames(const std::vector<std::string>& names) {
-  return names.empty() ? "" : " (" + printAll(names, quotedName) + ")";
+  return names.empty() ? "" : " (" + runtime::join(names, ", ", quotedName) + ")";
 }
 
 std::string printReferences(const References& references) {
@@ -70,9 +71,10 @@ std::string print(const TypeName& type) {
 }
 
 std::string print(const CreateTable& create) {
-  const std::string constraints = printAll(create.constraints, printConstraint);
-  return "CREATE TABLE " + quotedName(create.table) + " (" + printAll(create.columns, printColumn) +
-         (constraints.empty() ? "" : ", " + constraints) + ")";
+  const std::string constraints = runtime::join(create.constraints, ", ", printConstraint);
+  return "CREATE TABLE " + quotedName(create.table) + " (" +
+         runtime::join(create.columns, ", ", printColumn) + (constraints.empty() ? "" : ", " + constraints) +
+         ")";
 }
 
 std::string print(const AlterTable& alter) {
@@ -86,7 +88,7 @@ std::string print(const CreateIndex& create) {
     return quotedName(item.name) + (item.descending ? " DESC" : "");
   };
   return std::string("CREATE ") + (create.unique ? "UNIQUE " : "") + "INDEX " + quotedName(create.name) +
-         " ON " + quotedName(create.table) + " (" + printAll(create.columns, column) + ")" +
+         " ON " + quotedName(create.table) + " (" + runtime::join(create.columns, ", ", column) + ")" +
          options[static_cast<std::size_t>(create.option)];
 }
 

@@ -1,5 +1,8 @@
+// Expressions printed back as Jet SQL.
 #include "jet/sql/tree/print.h"
 #include "jet/sql/tree/query.h"
+#include "runtime/join.h"
+#include "runtime/text.h"
 
 namespace jet::sql::tree {
 
@@ -7,15 +10,6 @@ std::string quotedName(std::string_view text) {
   const bool bracket = text.find(']') != std::string_view::npos;
   const char* quotes = bracket ? "``" : "[]";
   return quotes[0] + std::string(text) + quotes[1];
-}
-
-std::string quotedText(std::string_view text) {
-  std::string quoted = "'";
-  for (char c : text) {
-    if (c == '\'') quoted += c;
-    quoted += c;
-  }
-  return quoted + "'";
 }
 
 namespace {
@@ -40,9 +34,7 @@ std::string printOperation(const Operation& operation) {
 }
 
 std::string printList(const std::vector<Expression>& items) {
-  std::string list;
-  for (const Expression& item : items) list += (list.empty() ? "" : ", ") + print(item);
-  return "(" + list + ")";
+  return "(" + runtime::join(items, ", ", [](const Expression& item) { return print(item); }) + ")";
 }
 
 const char* notIf(bool negated) {
@@ -54,7 +46,7 @@ std::string printNode(const Literal& literal) {
     case Literal::Kind::Null:
       return "NULL";
     case Literal::Kind::Text:
-      return quotedText(literal.text);
+      return runtime::quoted(literal.text);
     case Literal::Kind::Date:
       return "#" + literal.text + "#";
     default:

@@ -1,6 +1,8 @@
+// Statements and queries printed back as Jet SQL.
 #include "jet/sql/tree/print.h"
-#include "jet/sql/tree/print_list.h"
 #include "jet/sql/tree/statement.h"
+#include "runtime/join.h"
+#include "runtime/text.h"
 
 namespace jet::sql::tree {
 
@@ -38,7 +40,7 @@ std::string printSource(const Source& source) {
 }
 
 std::string printFrom(const std::vector<Source>& from) {
-  return printAll(from, printSource);
+  return runtime::join(from, ", ", printSource);
 }
 
 std::string printClause(const char* word, const std::optional<Expression>& condition) {
@@ -61,12 +63,12 @@ std::string printSelect(const Select& select, const std::string& into) {
   if (select.distinctRow) text += "DISTINCTROW ";
   if (select.top)
     text += "TOP " + std::to_string(select.top->count) + (select.top->percent ? " PERCENT " : " ");
-  text += printAll(select.items, printItem) + into;
+  text += runtime::join(select.items, ", ", printItem) + into;
   if (!select.from.empty()) text += " FROM " + printFrom(select.from);
-  if (!select.in.empty()) text += " IN " + quotedText(select.in);
+  if (!select.in.empty()) text += " IN " + runtime::quoted(select.in);
   text += printClause(" WHERE ", select.where);
   if (!select.groupBy.empty()) {
-    text += " GROUP BY " + printAll(select.groupBy, printExpression);
+    text += " GROUP BY " + runtime::join(select.groupBy, ", ", printExpression);
   }
   return text + printClause(" HAVING ", select.having);
 }
@@ -80,7 +82,7 @@ std::string printQuery(const Query& query, const std::string& into) {
   const auto order = [](const OrderItem& item) {
     return print(item.value) + (item.descending ? " DESC" : "");
   };
-  return text + (query.orderBy.empty() ? "" : " ORDER BY " + printAll(query.orderBy, order));
+  return text + (query.orderBy.empty() ? "" : " ORDER BY " + runtime::join(query.orderBy, ", ", order));
 }
 
 std::string printBody(const Query& query) {
@@ -92,7 +94,7 @@ std::string printBody(const Update& update) {
     const std::string table = item.column.table.empty() ? "" : quotedName(item.column.table) + ".";
     return table + quotedName(item.column.column) + " = " + print(item.value);
   };
-  return "UPDATE " + printFrom(update.from) + " SET " + printAll(update.assignments, assignment) +
+  return "UPDATE " + printFrom(update.from) + " SET " + runtime::join(update.assignments, ", ", assignment) +
          printClause(" WHERE ", update.where);
 }
 
@@ -103,27 +105,31 @@ std::string printBody(const Delete& statement) {
 
 std::string printBody(const Insert& insert) {
   const auto name = [](const PlacedName& column) { return quotedName(column.text); };
-  const std::string columns = insert.columns.empty() ? "" : " (" + printAll(insert.columns, name) + ")";
-  const std::string in = insert.in.empty() ? "" : " IN " + quotedText(insert.in);
+  const std::string columns =
+      insert.columns.empty() ? "" : " (" + runtime::join(insert.columns, ", ", name) + ")";
+  const std::string in = insert.in.empty() ? "" : " IN " + runtime::quoted(insert.in);
   const std::string head = "INSERT INTO " + quotedName(insert.table.text) + columns + in + " ";
   if (const Query* query = std::get_if<Query>(&insert.rows)) return head + print(*query);
-  return head + "VALUES (" + printAll(std::get<std::vector<Expression>>(insert.rows), printExpression) + ")";
+  return head + "VALUES (" +
+         runtime::join(std::get<std::vector<Expression>>(insert.rows), ", ", printExpression) + ")";
 }
 
 std::string printBody(const SelectInto& statement) {
-  const std::string in = statement.in.empty() ? "" : " IN " + quotedText(statement.in);
+  const std::string in = statement.in.empty() ? "" : " IN " + runtime::quoted(statement.in);
   return printQuery(statement.query, " INTO " + quotedName(statement.table.text) + in);
 }
 
 std::string printBody(const Transform& transform) {
   return "TRANSFORM " + print(transform.value) + " " + print(transform.query) + " PIVOT " +
          print(transform.pivot) +
-         (transform.columns.empty() ? "" : " IN (" + printAll(transform.columns, printExpression) + ")");
+         (transform.columns.empty()
+              ? ""
+              : " IN (" + runtime::join(transform.columns, ", ", printExpression) + ")");
 }
 
 std::string printBody(const Execute& execute) {
   return "EXECUTE " + quotedName(execute.query.text) +
-         (execute.arguments.empty() ? "" : " " + printAll(execute.arguments, printExpression));
+         (execute.arguments.empty() ? "" : " " + runtime::join(execute.arguments, ", ", printExpression));
 }
 
 template <class Definition>
@@ -141,8 +147,9 @@ std::string print(const Statement& statement) {
   const auto parameter = [](const ParameterDeclaration& declaration) {
     return quotedName(declaration.name) + " " + print(declaration.type);
   };
-  const std::string head =
-      statement.parameters.empty() ? "" : "PARAMETERS " + printAll(statement.parameters, parameter) + "; ";
+  const std::string head = statement.parameters.empty()
+                               ? ""
+                               : "PARAMETERS " + runtime::join(statement.parameters, ", ", parameter) + "; ";
   return head + std::visit([](const auto& body) { return printBody(body); }, statement.body) +
          (statement.ownerAccess ? " WITH OWNERACCESS OPTION;" : ";");
 }

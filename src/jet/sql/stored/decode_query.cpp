@@ -1,3 +1,4 @@
+// A query's text as the rows that a file keeps of it, divided at the words that begin clauses.
 #include <algorithm>
 #include <cstdlib>
 #include <map>
@@ -54,9 +55,9 @@ std::map<Clause, Span> divide(const StatementText& text, Span span, std::initial
   }
 }
 
-class TakingApart {
+class QueryDecoder {
  public:
-  explicit TakingApart(std::string_view sql) : text_(sql), sql_(sql) {}
+  explicit QueryDecoder(std::string_view sql) : text_(sql), sql_(sql) {}
 
   StoredQuery run();
 
@@ -91,7 +92,7 @@ class TakingApart {
   QueryRow kindRow_;
 };
 
-StoredQuery TakingApart::run() {
+StoredQuery QueryDecoder::run() {
   rows_.add(QueryRow::Start).flag = std::int16_t{0};
   Span statement = text_.whole();
   if (text_.isWord(0, "PARAMETERS")) {
@@ -112,7 +113,7 @@ StoredQuery TakingApart::run() {
   return {kind, rows_.take()};
 }
 
-QueryKind TakingApart::body(Span statement) {
+QueryKind QueryDecoder::body(Span statement) {
   const std::size_t first = statement.begin;
   const bool isTable = text_.isWord(first, "TABLE");
   if (isTable || text_.isWord(first, "SELECT") || text_.at(first).isSymbol("(")) return query(statement);
@@ -124,12 +125,12 @@ QueryKind TakingApart::body(Span statement) {
   return QueryKind::DataDefinition;
 }
 
-void TakingApart::parameters(Span list) {
+void QueryDecoder::parameters(Span list) {
   for (const Span declaration : text_.list(list)) parameter(declaration);
 }
 
 /// name type, or name type(size)
-void TakingApart::parameter(Span declaration) {
+void QueryDecoder::parameter(Span declaration) {
   const std::size_t size = text_.findSymbol(declaration, "(");
   const std::size_t type = size - 1;
   QueryRow& row = rows_.add(QueryRow::Parameter);
@@ -138,21 +139,21 @@ void TakingApart::parameter(Span declaration) {
   if (size < declaration.end) row.size = std::atoi(text_.at(size + 1).text.c_str());
 }
 
-[[noreturn]] void TakingApart::cannotKeep(const char* what, std::size_t token) const {
+[[noreturn]] void QueryDecoder::cannotKeep(const char* what, std::size_t token) const {
   throw SyntaxError(InvalidStatement, std::string("non si può memorizzare ") + what,
                     text_.at(token).position);
 }
 
 /// The name of a column that gets a value. In the rows a dot or exclamation mark would divide it; no column
 /// has one.
-std::string TakingApart::columnName(std::size_t token) const {
+std::string QueryDecoder::columnName(std::size_t token) const {
   const std::string& name = text_.at(token).text;
   if (name.find_first_of(".!") != std::string::npos) cannotKeep("un campo con un punto nel nome", token);
   return name;
 }
 
 /// SELECT or TABLE
-QueryKind TakingApart::single(Span statement) {
+QueryKind QueryDecoder::single(Span statement) {
   if (text_.at(statement.begin).isSymbol("(")) cannotKeep("una SELECT tra parentesi", statement.begin);
   if (!text_.isWord(statement.begin, "TABLE")) return select(statement, {});
   options_ = AllColumns;
@@ -160,7 +161,7 @@ QueryKind TakingApart::single(Span statement) {
   return QueryKind::Select;
 }
 
-QueryKind TakingApart::query(Span statement) {
+QueryKind QueryDecoder::query(Span statement) {
   std::size_t last = statement.end;
   for (Span rest = statement; rest.begin < rest.end; ++rest.begin) {
     rest.begin = text_.findWord(rest, "UNION");
@@ -173,7 +174,7 @@ QueryKind TakingApart::query(Span statement) {
 }
 
 /// Everything in front of the last UNION is the first half.
-void TakingApart::unionHalves(Span statement, std::size_t last) {
+void QueryDecoder::unionHalves(Span statement, std::size_t last) {
   const bool all = text_.isWord(last + 1, "ALL");
   options_ = all ? AllColumns : AllColumns | Distinct;
   const Span second{last + (all ? 1 : 0), statement.end};
@@ -185,7 +186,7 @@ void TakingApart::unionHalves(Span statement, std::size_t last) {
   orderBy(clauses[Clause::OrderBy]);
 }
 
-QueryKind TakingApart::select(Span statement, const std::vector<std::string>& targets) {
+QueryKind QueryDecoder::select(Span statement, const std::vector<std::string>& targets) {
   auto clauses = divide(text_, statement,
                         {Clause::Into, Clause::From, Clause::Where, Clause::GroupBy, Clause::Having,
                          Clause::OrderBy, Clause::OwnerAccess});
@@ -199,7 +200,7 @@ QueryKind TakingApart::select(Span statement, const std::vector<std::string>& ta
 }
 
 /// What most statements have in the same place.
-void TakingApart::conditions(const std::map<Clause, Span>& clauses) {
+void QueryDecoder::conditions(const std::map<Clause, Span>& clauses) {
   const auto of = [&](Clause clause) { return clauses.contains(clause) ? clauses.at(clause) : Span{}; };
   FromRows(text_, rows_).add(of(Clause::From));
   if (!of(Clause::Where).empty()) rows_.add(QueryRow::Where, text_.text(of(Clause::Where)));
@@ -208,7 +209,7 @@ void TakingApart::conditions(const std::map<Clause, Span>& clauses) {
   if (clauses.contains(Clause::OwnerAccess)) options_ |= OwnerAccess;
 }
 
-void TakingApart::predicate(Span& head) {
+void QueryDecoder::predicate(Span& head) {
   struct Word {
     std::string_view text;
     std::int16_t option;
@@ -231,7 +232,7 @@ void TakingApart::predicate(Span& head) {
 
 /// A star at the end of the list is an option of the query. Rows without an expression keep target columns
 /// that a star fills.
-void TakingApart::outputs(Span list, const std::vector<std::string>& targets) {
+void QueryDecoder::outputs(Span list, const std::vector<std::string>& targets) {
   const auto items = text_.list(list);
   std::size_t next = 0;
   for (const Span item : items) {
@@ -246,7 +247,7 @@ void TakingApart::outputs(Span list, const std::vector<std::string>& targets) {
   while (next < targets.size()) rows_.add(QueryRow::Output).name2 = targets[next++];
 }
 
-QueryRow& TakingApart::output(Span item) {
+QueryRow& QueryDecoder::output(Span item) {
   std::optional<std::string> alias;
   if (item.end - item.begin > 2 && text_.isWord(item.end - 2, "AS")) {
     alias = text_.at(item.end - 1).text;
@@ -258,11 +259,11 @@ QueryRow& TakingApart::output(Span item) {
   return row;
 }
 
-void TakingApart::expressions(QueryRow::Attribute attribute, Span list, std::optional<std::int16_t> flag) {
+void QueryDecoder::expressions(QueryRow::Attribute attribute, Span list, std::optional<std::int16_t> flag) {
   for (const Span item : text_.list(list)) rows_.add(attribute, text_.text(item)).flag = flag;
 }
 
-void TakingApart::orderBy(Span list) {
+void QueryDecoder::orderBy(Span list) {
   for (Span item : text_.list(list)) {
     const bool descending = text_.isWord(item.end - 1, "DESC");
     if (descending || text_.isWord(item.end - 1, "ASC")) --item.end;
@@ -272,7 +273,7 @@ void TakingApart::orderBy(Span list) {
 }
 
 /// The table that an append or make-table query writes to.
-void TakingApart::intoTable(Span target) {
+void QueryDecoder::intoTable(Span target) {
   kindRow_.name1 = text_.at(target.begin).text;
   const auto other = otherDatabase(text_, target);
   if (!other) return;
@@ -280,7 +281,7 @@ void TakingApart::intoTable(Span target) {
   if (!other->type.empty()) kindRow_.expression = other->type;
 }
 
-QueryKind TakingApart::crosstab(Span statement) {
+QueryKind QueryDecoder::crosstab(Span statement) {
   auto clauses = divide(text_, statement,
                         {Clause::Select, Clause::From, Clause::Where, Clause::GroupBy, Clause::Having,
                          Clause::OrderBy, Clause::Pivot, Clause::OwnerAccess});
@@ -301,7 +302,7 @@ QueryKind TakingApart::crosstab(Span statement) {
 }
 
 /// INSERT INTO table [IN database] [(columns)] and VALUES (...) or a query.
-QueryKind TakingApart::append(Span statement) {
+QueryKind QueryDecoder::append(Span statement) {
   constexpr std::size_t words = 2;  // INSERT INTO
   const std::size_t rows = text_.find(
       statement, [&](std::size_t i) { return text_.isWord(i, "VALUES") || text_.isWord(i, "SELECT"); });
@@ -330,7 +331,7 @@ QueryKind TakingApart::append(Span statement) {
   return QueryKind::Append;
 }
 
-QueryKind TakingApart::update(Span statement) {
+QueryKind QueryDecoder::update(Span statement) {
   auto clauses = divide(text_, statement, {Clause::Set, Clause::Where, Clause::OwnerAccess});
   predicate(clauses[Clause::Head]);
   clauses[Clause::From] = clauses[Clause::Head];
@@ -345,7 +346,7 @@ QueryKind TakingApart::update(Span statement) {
   return QueryKind::Update;
 }
 
-QueryKind TakingApart::deletion(Span statement) {
+QueryKind QueryDecoder::deletion(Span statement) {
   auto clauses = divide(text_, statement, {Clause::From, Clause::Where, Clause::OwnerAccess});
   predicate(clauses[Clause::Head]);
   if (clauses[Clause::Head].empty())
@@ -358,9 +359,9 @@ QueryKind TakingApart::deletion(Span statement) {
 
 }  // namespace
 
-StoredQuery takeApart(std::string_view sql) {
+StoredQuery decodeQuery(std::string_view sql) {
   parse(sql);
-  return TakingApart(sql).run();
+  return QueryDecoder(sql).run();
 }
 
 }  // namespace jet::sql

@@ -1,3 +1,4 @@
+// A query's text written from its rows, clause by clause.
 #include <algorithm>
 #include <array>
 #include <span>
@@ -27,9 +28,9 @@ class List {
   std::string text_;
 };
 
-class PuttingTogether {
+class QueryText {
  public:
-  explicit PuttingTogether(const StoredQuery& query);
+  explicit QueryText(const StoredQuery& query);
 
   std::string text() const;
 
@@ -63,13 +64,13 @@ class PuttingTogether {
   std::int16_t options_ = 0;
 };
 
-PuttingTogether::PuttingTogether(const StoredQuery& query) : kind_(query.kind), rows_(query.rows) {
+QueryText::QueryText(const StoredQuery& query) : kind_(query.kind), rows_(query.rows) {
   std::ranges::stable_sort(rows_, {},
                            [](const QueryRow& row) { return std::pair(row.attribute, row.order); });
   if (const auto* row = first(Attribute::Options)) options_ = row->flag.value_or(0);
 }
 
-std::span<const QueryRow> PuttingTogether::all(Attribute attribute) const {
+std::span<const QueryRow> QueryText::all(Attribute attribute) const {
   struct ByAttribute {
     bool operator()(const QueryRow& row, Attribute wanted) const { return row.attribute < wanted; }
     bool operator()(Attribute wanted, const QueryRow& row) const { return wanted < row.attribute; }
@@ -78,17 +79,17 @@ std::span<const QueryRow> PuttingTogether::all(Attribute attribute) const {
   return {begin, end};
 }
 
-const QueryRow* PuttingTogether::first(Attribute attribute) const {
+const QueryRow* QueryText::first(Attribute attribute) const {
   const auto rows = all(attribute);
   return rows.empty() ? nullptr : &rows.front();
 }
 
-std::string PuttingTogether::clause(const char* word, Attribute attribute) const {
+std::string QueryText::clause(const char* word, Attribute attribute) const {
   const auto* row = first(attribute);
   return row && row->expression ? NewLine + (word + *row->expression) : "";
 }
 
-std::string PuttingTogether::text() const {
+std::string QueryText::text() const {
   kindFlag(kind_);
   if (kind_ == QueryKind::DataDefinition || kind_ == QueryKind::PassThrough) return asWritten();
   std::string text = parameters() + body();
@@ -96,7 +97,7 @@ std::string PuttingTogether::text() const {
   return text + ";" + NewLine;
 }
 
-std::string PuttingTogether::body() const {
+std::string QueryText::body() const {
   switch (kind_) {
     case QueryKind::MakeTable:
       return select(" INTO " + target());
@@ -116,13 +117,13 @@ std::string PuttingTogether::body() const {
 }
 
 /// The text ends with a NUL in the row.
-std::string PuttingTogether::asWritten() const {
+std::string QueryText::asWritten() const {
   const auto* row = first(Attribute::Kind);
   const std::string text = row ? row->expression.value_or("") : "";
   return text.substr(0, text.find('\0'));
 }
 
-std::string PuttingTogether::parameters() const {
+std::string QueryText::parameters() const {
   List list;
   for (const auto& row : all(Attribute::Parameter)) {
     const std::string size = row.size ? " ( " + std::to_string(*row.size) + " )" : "";
@@ -132,7 +133,7 @@ std::string PuttingTogether::parameters() const {
   return list.empty() ? "" : "PARAMETERS " + list.text() + ";" + NewLine;
 }
 
-std::string PuttingTogether::predicate() const {
+std::string QueryText::predicate() const {
   std::string text;
   if (option(Distinct)) text += "DISTINCT ";
   if (option(DistinctRow)) text += "DISTINCTROW ";
@@ -141,7 +142,7 @@ std::string PuttingTogether::predicate() const {
   return text + (option(TopPercent) ? " PERCENT " : " ");
 }
 
-std::string PuttingTogether::columns() const {
+std::string QueryText::columns() const {
   List list;
   for (const auto& row : all(Attribute::Output))
     if (row.expression) list.add(*row.expression + (row.name1 ? " AS " + shownName(*row.name1) : ""));
@@ -149,7 +150,7 @@ std::string PuttingTogether::columns() const {
   return list.text();
 }
 
-std::string PuttingTogether::from(const char* word) const {
+std::string QueryText::from(const char* word) const {
   const std::string sources = fromText(all(Attribute::Source), all(Attribute::Join));
   if (sources.empty()) return {};
   const auto* other = first(Attribute::OtherDatabase);
@@ -157,7 +158,7 @@ std::string PuttingTogether::from(const char* word) const {
 }
 
 /// A crosstab query groups by the heading of its columns without saying so.
-std::string PuttingTogether::grouping() const {
+std::string QueryText::grouping() const {
   List list;
   for (const auto& row : all(Attribute::GroupBy))
     if (kind_ != QueryKind::Crosstab || row.flag.value_or(0) == RowHeading)
@@ -165,25 +166,25 @@ std::string PuttingTogether::grouping() const {
   return list.clause("GROUP BY ");
 }
 
-std::string PuttingTogether::sorting() const {
+std::string QueryText::sorting() const {
   List list;
   for (const auto& row : all(Attribute::OrderBy))
     list.add(row.expression.value_or("") + (row.name1 == Descending ? " DESC" : ""));
   return list.clause("ORDER BY ");
 }
 
-std::string PuttingTogether::target() const {
+std::string QueryText::target() const {
   const auto* row = first(Attribute::Kind);
   if (!row) return {};
   return shownName(row->name1.value_or("")) + otherDatabaseText(row->name2, row->expression);
 }
 
-std::string PuttingTogether::select(const std::string& into) const {
+std::string QueryText::select(const std::string& into) const {
   return "SELECT " + predicate() + columns() + into + from("\r\nFROM ") + clause("WHERE ", Attribute::Where) +
          grouping() + clause("HAVING ", Attribute::Having) + sorting();
 }
 
-std::string PuttingTogether::crosstab() const {
+std::string QueryText::crosstab() const {
   List values, headings, pivots;
   for (const auto& row : all(Attribute::Output)) {
     const std::string value = row.expression.value_or("");
@@ -204,7 +205,7 @@ std::string PuttingTogether::crosstab() const {
          clause("HAVING ", Attribute::Having) + sorting() + pivots.clause("PIVOT ");
 }
 
-std::string PuttingTogether::append() const {
+std::string QueryText::append() const {
   List columns, values;
   for (const auto& row : all(Attribute::Output)) {
     if (row.name2) columns.add(shownPath(*row.name2));
@@ -216,7 +217,7 @@ std::string PuttingTogether::append() const {
   return text + (values.empty() ? select("") : "VALUES (" + values.text() + ")");
 }
 
-std::string PuttingTogether::update() const {
+std::string QueryText::update() const {
   List assignments;
   for (const auto& row : all(Attribute::Output))
     assignments.add(shownPath(row.name2.value_or("")) + " = " + row.expression.value_or(""));
@@ -224,11 +225,11 @@ std::string PuttingTogether::update() const {
          clause("WHERE ", Attribute::Where);
 }
 
-std::string PuttingTogether::deletion() const {
+std::string QueryText::deletion() const {
   return "DELETE " + predicate() + columns() + from("\r\nFROM ") + clause("WHERE ", Attribute::Where);
 }
 
-std::string PuttingTogether::unionOfHalves() const {
+std::string QueryText::unionOfHalves() const {
   std::array<std::string, 2> halves;
   for (const auto& row : all(Attribute::Source))
     for (std::size_t i = 0; i < halves.size(); ++i)
@@ -240,8 +241,8 @@ std::string PuttingTogether::unionOfHalves() const {
 
 }  // namespace
 
-std::string putTogether(const StoredQuery& query) {
-  return PuttingTogether(query).text();
+std::string queryText(const StoredQuery& query) {
+  return QueryText(query).text();
 }
 
 }  // namespace jet::sql
