@@ -15,7 +15,7 @@ struct TypeRow {
 };
 
 /// In the order of Type; from Boolean on each has a column type of its own.
-constexpr std::array<TypeRow, typeCount> Types = {{
+constexpr std::array<TypeRow, TypeCount> Types = {{
     {Type::Variant, "Variant", file::ColumnType::Text},
     {Type::Null, "Null", file::ColumnType::Text},
     {Type::Boolean, "Boolean", file::ColumnType::Boolean},
@@ -35,7 +35,7 @@ constexpr std::array<TypeRow, typeCount> Types = {{
 }};
 
 constexpr bool isInOrder() {
-  for (unsigned i = 0; i < typeCount; ++i)
+  for (unsigned i = 0; i < TypeCount; ++i)
     if (Types[i].type != static_cast<Type>(i)) return false;
   return true;
 }
