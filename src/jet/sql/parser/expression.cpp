@@ -99,10 +99,6 @@ Expression parseExpression(std::string_view text) {
   return Parser(text).wholeExpression();
 }
 
-Query parseQuery(std::string_view text) {
-  return Parser(text).wholeQuery(0);
-}
-
 Expression Parser::expression(int minimum) {
   const Level level(*this);
   Expression left = operand(minimum);

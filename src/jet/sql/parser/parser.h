@@ -134,6 +134,5 @@ class Parser {
 tree::Statement parse(std::string_view text);
 tree::Expression parseExpression(std::string_view text);
 tree::Expression parseRule(std::string_view text, const std::string& column);
-tree::Query parseQuery(std::string_view text);
 
 }  // namespace jet::sql
