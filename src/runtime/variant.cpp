@@ -51,6 +51,7 @@ std::string plainOrMismatch(const std::string& text) {
 }
 
 /// Beyond 53 bits the product itself would be rounded: there the whole part is multiplied as a whole number.
+/// The Double next to the lowest amount lies below it, and its rounded product is that amount.
 std::int64_t scaledDouble(double number, std::int64_t factor) {
   constexpr double exact = 9007199254740992.0;  // 2^53
   const double product = number * static_cast<double>(factor);
@@ -60,7 +61,7 @@ std::int64_t scaledDouble(double number, std::int64_t factor) {
   std::int64_t result = 0;
   if (__builtin_mul_overflow(roundHalfEven(whole), factor, &result) ||
       __builtin_add_overflow(result, fraction, &result))
-    throw languageError(Overflow);
+    return roundHalfEven(product);
   return result;
 }
 

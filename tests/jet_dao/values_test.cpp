@@ -72,8 +72,9 @@ class Column {
     take("parameter of its kind", [&] { insert(kind_->parameter); });
     take("parameter of the column's type", [&] { insert(type_.substr(0, type_.find('('))); });
     if (!literal_.empty())
-      take("literal", [&] { db_->Execute("INSERT INTO " + table_ + " VALUES (" + row() + ", " + literal_ + ")",
-                                         dbFailOnError); });
+      take("literal", [&] {
+        db_->Execute("INSERT INTO " + table_ + " VALUES (" + row() + ", " + literal_ + ")", dbFailOnError);
+      });
     db_->Close();
     db_ = workspace_.OpenDatabase(path_, false, true);
     look("in the file", *db_->OpenRecordset(table_, dbOpenTable));

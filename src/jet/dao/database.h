@@ -15,7 +15,8 @@
 namespace jet::dao {
 
 /// An open database. Closing it without a transaction saves its changes; inside one, CommitTrans of the
-/// workspace does, also after the close. Error 3420 after Close.
+/// workspace does, also after the close. Error 3420 after Close. An interface with one class behind it, as
+/// QueryDef is: who uses the objects includes nothing of the engine below them.
 class Database {
  public:
   virtual ~Database() = default;

@@ -25,9 +25,8 @@ void namingErrors(const std::string& name, Encode encode) {
 template <typename Target>
 void encodeField(Target&& target, const runtime::Variant& value, const file::Column& column,
                  const std::string& table) {
-  namingErrors(table + "." + column.name, [&] {
-    sql::encodeAssigned(std::forward<Target>(target), value, sql::ruleOf(column));
-  });
+  namingErrors(table + "." + column.name,
+               [&] { sql::encodeAssigned(std::forward<Target>(target), value, sql::ruleOf(column)); });
 }
 
 }  // namespace

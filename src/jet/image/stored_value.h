@@ -76,7 +76,9 @@ class StoredValue {
   /// What is no number becomes a Null, as in SQLite.
   void real(double value);
   void text(std::string_view value) { value_ = std::string(value); }
-  void bytes(std::span<const std::byte> value) { value_ = std::vector<std::byte>(value.begin(), value.end()); }
+  void bytes(std::span<const std::byte> value) {
+    value_ = std::vector<std::byte>(value.begin(), value.end());
+  }
 
  private:
   std::variant<std::monostate, std::int64_t, double, std::string, std::vector<std::byte>> value_;

@@ -45,8 +45,9 @@ void guard(sqlite3_context* context, const Pair& pair, int mismatch, Convert con
 void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
   const auto& pair = *static_cast<const Pair*>(sqlite3_user_data(context));
   if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return sqlite3_result_null(context);
-  guard(context, pair, TypesDiffer,
-        [&] { encodeValue(image::Result{context}, decodeValue(image::Argument{arguments[0]}, pair.from), pair.to); });
+  guard(context, pair, TypesDiffer, [&] {
+    encodeValue(image::Result{context}, decodeValue(image::Argument{arguments[0]}, pair.from), pair.to);
+  });
 }
 
 /// jet_<from>_into_<to>(value[, size | precision, scale]): what a column keeps of an assigned value.
@@ -58,7 +59,8 @@ void store(sqlite3_context* context, int count, sqlite3_value** arguments) {
   }
   ColumnRule rule{pair.to};
   if (count == 2) rule.size = static_cast<std::size_t>(sqlite3_value_int(arguments[1]));
-  if (count == 3) rule.precision = sqlite3_value_int(arguments[1]), rule.scale = sqlite3_value_int(arguments[2]);
+  if (count == 3)
+    rule.precision = sqlite3_value_int(arguments[1]), rule.scale = sqlite3_value_int(arguments[2]);
   // A text never has more characters than bytes: most need not be read, however many rows there are.
   if (isText(pair.from) && isText(pair.to) && count == 2 &&
       sqlite3_value_bytes(arguments[0]) <= sqlite3_value_int(arguments[1])) {

@@ -27,8 +27,8 @@ runtime::Variant decodeValue(const Source& source, Type type);
 template <typename Target>
 void encodeValue(Target&& target, const runtime::Variant& value, Type type);
 
-/// The same for what a column keeps of an assigned value: a Boolean is never Null, a text and bytes fit in its
-/// size (error 3163), a Decimal is rounded to its scale and fits in its precision (error 6).
+/// The same for what a column keeps of an assigned value: a Boolean is never Null, a text and bytes fit in
+/// its size (error 3163), a Decimal is rounded to its scale and fits in its precision (error 6).
 template <typename Target>
 void encodeAssigned(Target&& target, const runtime::Variant& value, const ColumnRule& rule);
 

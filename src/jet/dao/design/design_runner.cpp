@@ -1,3 +1,4 @@
+// Changes of design that statements ask for.
 #include "jet/dao/design/design_runner.h"
 
 #include <algorithm>

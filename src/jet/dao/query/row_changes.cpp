@@ -1,3 +1,4 @@
+// Statements that change rows: as a whole, or row by row where some may be refused.
 #include "jet/dao/query/row_changes.h"
 
 #include <algorithm>
@@ -61,9 +62,9 @@ image::RowChange rowChange(const sql::TouchedTable& table) {
 }
 
 /// The rows that a statement changes, one after the other as the only row of temp.jet_rows.
-class GatheredRows {
+class SpooledRows {
  public:
-  GatheredRows(const image::Connection& connection, const sql::RowStatement& plan, const Answers& answers)
+  SpooledRows(const image::Connection& connection, const sql::RowStatement& plan, const Answers& answers)
       : connection_(connection) {
     auto spool = connection.prepare("CREATE TEMP TABLE jet_spool AS " + plan.steps->spool);
     bindAnswers(spool, plan, answers);
@@ -168,7 +169,7 @@ std::int64_t RowChanges::runRowByRow(const Answers& answers, bool failOnError) {
   const auto& connection = image_.connection();
   image::Transaction whole(image_);
   makeReady(image_, plan_);  // inside: a transaction taken back may have let tables go
-  GatheredRows rows(connection, plan_, answers);
+  SpooledRows rows(connection, plan_, answers);
   std::vector<image::Statement> steps;
   for (const auto& sql : plan_.steps->apply) {
     steps.push_back(connection.prepare(sql));

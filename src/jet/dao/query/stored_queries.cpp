@@ -7,8 +7,8 @@ namespace jet::dao {
 
 namespace {
 
-// Columns of MSysQueries (t4): c0 ObjectId, c1 Attribute, c2 Order, c3 Name1, c4 Name2, c5 Expression, c6 Flag,
-// c7 LvExtra, which the older format doesn't have.
+// Columns of MSysQueries (t4): c0 ObjectId, c1 Attribute, c2 Order, c3 Name1, c4 Name2, c5 Expression, c6
+// Flag, c7 LvExtra, which the older format doesn't have.
 constexpr char RowsOf[] = "SELECT c1, c2, c3, c4, c5, c6 FROM t4 WHERE c0 = ?1";
 constexpr char RowsWithSizes[] = "SELECT c1, c2, c3, c4, c5, c6, c7 FROM t4 WHERE c0 = ?1";
 constexpr char InsertRow[] =

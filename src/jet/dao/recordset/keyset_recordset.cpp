@@ -1,3 +1,4 @@
+// Dynasets: keys of records, and rows read and changed by them.
 #include "jet/dao/recordset/keyset_recordset.h"
 
 #include <algorithm>
@@ -24,25 +25,20 @@ bool hasExpressions(const std::vector<FieldInfo>& fields) {
 
 KeysetRecordset::KeysetRecordset(std::shared_ptr<Session> session, Origin origin, sql::RowStatement plan,
                                  Answers answers, bool readOnly)
-    : PositionedRecordset(session, std::move(origin), resultFields(plan, session->runner())),
+    : EditableRecordset(session, std::move(origin), resultFields(plan, session->runner()), keyPages(plan),
+                        readOnly),
       plan_(std::move(plan)),
-      answers_(std::move(answers)),
-      readOnly_(readOnly || session->readOnly()),
-      reader_(session, keyPages(plan_), fields_),
-      editor_(session, keyPages(plan_), fields_) {
+      answers_(std::move(answers)) {
   if (hasExpressions(fields_)) reader_.takeExpressions(plan_, answers_);
   fill();
 }
 
-KeysetRecordset::KeysetRecordset(const KeysetRecordset& other, std::vector<Narrowing> narrowings)
-    : PositionedRecordset(other.session_, other.origin_, other.fields_),
+KeysetRecordset::KeysetRecordset(const KeysetRecordset& other, std::vector<RowFilter> rowFilters)
+    : EditableRecordset(other.session_, other.origin_, other.fields_, keyPages(other.plan_), other.readOnly_),
       plan_(other.plan_),
-      answers_(other.answers_),
-      readOnly_(other.readOnly_),
-      reader_(session_, keyPages(plan_), fields_),
-      editor_(session_, keyPages(plan_), fields_) {
+      answers_(other.answers_) {
   if (hasExpressions(fields_)) reader_.takeExpressions(plan_, answers_);
-  narrowings_ = std::move(narrowings);
+  rowFilters_ = std::move(rowFilters);
 }
 
 void KeysetRecordset::fill() {
@@ -55,80 +51,30 @@ void KeysetRecordset::fill() {
   rows = {};
   keys_ = std::move(keys);
   restart();
-  for (const auto& narrowing : narrowings_) {
+  for (const auto& rowFilter : rowFilters_) {
     auto kept = std::make_shared<Keys>();
     kept->parts = keys_->parts;
-    for (const auto place : narrowed(narrowing))
+    for (const auto place : filteredBy(rowFilter))
       kept->rowids.insert(kept->rowids.end(), keys_->of(place), keys_->of(place) + keys_->parts);
     keys_ = std::move(kept);
     restart();
   }
 }
 
-void KeysetRecordset::moved() {
-  fetched_ = false;
-  reader_.release();
-  if (editor_.mode() != dbEditNone) editor_.cancel();
+bool KeysetRecordset::readRecord(std::int64_t record) const {
+  return filled(record) && reader_.read(keys_->of(record));
 }
 
-void KeysetRecordset::fetch() const {
+void KeysetRecordset::insertRecord() {
+  const auto [part, rowid] = editor_.insert();
+  append(part, rowid);
+  touched(count() - 1);
+}
+
+void KeysetRecordset::changeRecord() {
   const auto place = requireRecord();
-  if (!fetched_ && (!filled(place) || !reader_.read(keys_->of(place)))) recordDeleted();
-  fetched_ = true;
-}
-
-runtime::Variant KeysetRecordset::fieldValue(std::size_t index) const {
-  requireOpen();
-  if (const auto* value = editor_.value(index)) return *value;
-  if (editor_.mode() == dbEditAdd) return runtime::Null{};
-  fetch();
-  return reader_.value(index);
-}
-
-void KeysetRecordset::setFieldValue(std::size_t index, const runtime::Variant& value) {
-  requireOpen();
-  editor_.set(index, value);
-}
-
-void KeysetRecordset::requireChangeable() const {
-  requireOpen();
-  if (readOnly_) readOnlyRecordset();
-}
-
-void KeysetRecordset::Edit() {
-  requireChangeable();
-  fetch();
-  editor_.edit();
-}
-
-void KeysetRecordset::AddNew() {
-  requireChangeable();
-  editor_.add();
-}
-
-void KeysetRecordset::CancelUpdate() {
-  requireChangeable();
-  editor_.cancel();
-}
-
-void KeysetRecordset::Update() {
-  requireChangeable();
-  reader_.release();
-  fetched_ = false;
-  switch (editor_.mode()) {
-    case dbEditAdd: {
-      const auto [part, rowid] = editor_.insert();
-      append(part, rowid);
-      return touched(count() - 1);
-    }
-    case dbEditInProgress: {
-      const auto place = requireRecord();
-      editor_.change(keys_->of(place));
-      return touched(place);
-    }
-    default:
-      editor_.cancel();  // tells that there is nothing to update
-  }
+  editor_.change(keys_->of(place));
+  touched(place);
 }
 
 void KeysetRecordset::append(std::size_t part, std::int64_t rowid) {
@@ -214,14 +160,14 @@ void KeysetRecordset::extendSearch(RecordSearch& search) {
 
 RecordsetPtr KeysetRecordset::OpenRecordset() {
   requireOpen();
-  auto opened = std::shared_ptr<KeysetRecordset>(new KeysetRecordset(*this, narrowings()));
+  auto opened = std::shared_ptr<KeysetRecordset>(new KeysetRecordset(*this, rowFilters()));
   opened->fill();
   return opened;
 }
 
 RecordsetPtr KeysetRecordset::Clone() {
   requireOpen();
-  auto clone = std::shared_ptr<KeysetRecordset>(new KeysetRecordset(*this, narrowings_));
+  auto clone = std::shared_ptr<KeysetRecordset>(new KeysetRecordset(*this, rowFilters_));
   clone->keys_ = keys_;
   clone->becomeCloneOf(*this);
   return clone;

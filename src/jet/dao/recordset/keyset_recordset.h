@@ -3,27 +3,18 @@
 #include <memory>
 #include <vector>
 
+#include "jet/dao/recordset/editable_recordset.h"
 #include "jet/dao/recordset/positioned_recordset.h"
-#include "jet/dao/recordset/row_editor.h"
-#include "jet/dao/recordset/row_reader.h"
 
 namespace jet::dao {
 
 /// A dynaset: the keys of its records, collected when it is filled. Each record is read when the cursor comes
 /// to it, and each field is changed in the table that it is a column of.
-class KeysetRecordset : public PositionedRecordset {
+class KeysetRecordset : public EditableRecordset<PositionedRecordset> {
  public:
   /// `plan` was compiled with row keys and has some.
   KeysetRecordset(std::shared_ptr<Session> session, Origin origin, sql::RowStatement plan, Answers answers,
                   bool readOnly);
-  runtime::Variant fieldValue(std::size_t index) const override;
-  void setFieldValue(std::size_t index, const runtime::Variant& value) override;
-  bool Updatable() const override { return requireOpen(), !readOnly_; }
-  EditModeType EditMode() const override { return requireOpen(), editor_.mode(); }
-  void Edit() override;
-  void AddNew() override;
-  void Update() override;
-  void CancelUpdate() override;
   void Delete() override;
   RecordsetPtr OpenRecordset() override;
   RecordsetPtr Clone() override;
@@ -41,28 +32,25 @@ class KeysetRecordset : public PositionedRecordset {
     std::int64_t* of(std::int64_t place) { return rowids.data() + static_cast<std::size_t>(place) * parts; }
   };
 
-  KeysetRecordset(const KeysetRecordset& other, std::vector<Narrowing> narrowings);
+  KeysetRecordset(const KeysetRecordset& other, std::vector<RowFilter> rowFilters);
 
   std::int64_t count() const override { return keys_ ? keys_->count() : 0; }
   bool filled(std::int64_t place) const override { return *keys_->of(place) != Keys::Gone; }
   std::int64_t holes() const override { return keys_ ? keys_->gone : 0; }
-  void moved() override;
+  void moved() override { leaveEdited(); }
   std::unique_ptr<RecordSearch> makeSearch() override;
   void extendSearch(RecordSearch&) override;
   void fill();
-  /// Reads the current record; error 3167 if it was deleted, 3021 if there is none.
-  void fetch() const;
-  void requireChangeable() const;
+  std::int64_t currentRecord() const override { return requireRecord(); }
+  bool readRecord(std::int64_t record) const override;
+  void insertRecord() override;
+  void changeRecord() override;
   /// The key of the record that a new row of `part` makes.
   void append(std::size_t part, std::int64_t rowid);
 
   sql::RowStatement plan_;
   Answers answers_;
-  bool readOnly_;
   std::shared_ptr<Keys> keys_;
-  mutable RowReader reader_;
-  mutable bool fetched_ = false;
-  RowEditor editor_;
   std::int64_t searchCount_ = 0;  // records whose keys the search knows
 };
 

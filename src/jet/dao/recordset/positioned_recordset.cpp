@@ -1,3 +1,4 @@
+// Cursors over numbered records.
 #include "jet/dao/recordset/positioned_recordset.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ void PositionedRecordset::becomeCloneOf(const PositionedRecordset& other) {
   family_ = other.family_;
   opened_ = other.opened_;
   visited_ = opened_ > 0 ? 1 : 0;
-  narrowings_ = other.narrowings_;
+  rowFilters_ = other.rowFilters_;
   leave(liveCount() > 0 ? Cursor::Before : Cursor::None);
 }
 
@@ -198,12 +199,12 @@ void PositionedRecordset::find(const std::string& criteria, std::int64_t from, b
   if (found) goTo(*found);
 }
 
-std::vector<std::int64_t> PositionedRecordset::narrowed(const Narrowing& narrowing) {
-  return search().all(narrowing.filter, narrowing.sort);
+std::vector<std::int64_t> PositionedRecordset::filteredBy(const RowFilter& rowFilter) {
+  return search().all(rowFilter.filter, rowFilter.sort);
 }
 
-std::vector<PositionedRecordset::Narrowing> PositionedRecordset::narrowings() const {
-  auto result = narrowings_;
+std::vector<PositionedRecordset::RowFilter> PositionedRecordset::rowFilters() const {
+  auto result = rowFilters_;
   if (!filter_.empty() || !sort_.empty()) result.push_back({filter_, sort_});
   return result;
 }

@@ -40,7 +40,7 @@ class PositionedRecordset : public RecordsetBase {
 
  protected:
   /// A Filter and a Sort that an OpenRecordset on a recordset has put on top of the query.
-  struct Narrowing {
+  struct RowFilter {
     std::string filter, sort;
   };
 
@@ -61,13 +61,13 @@ class PositionedRecordset : public RecordsetBase {
   void deleted();  // the current record was
   void touched(std::int64_t place) { lastModified_ = place; }
   /// The places that remain, in their order, of a newly filled recordset.
-  std::vector<std::int64_t> narrowed(const Narrowing& narrowing);
-  std::vector<Narrowing> narrowings() const;
+  std::vector<std::int64_t> filteredBy(const RowFilter& rowFilter);
+  std::vector<RowFilter> rowFilters() const;
   void closeSearch() { search_.reset(); }
   /// A clone finds the same records by the same bookmarks, and stands on none.
   void becomeCloneOf(const PositionedRecordset& other);
 
-  std::vector<Narrowing> narrowings_;
+  std::vector<RowFilter> rowFilters_;
 
  private:
   enum class Cursor { None, Before, On, Deleted, Behind };

@@ -1,3 +1,4 @@
+// Find, Filter and Sort: the records as a table that statements can name.
 #include "jet/dao/recordset/record_search.h"
 
 #include "jet/image/row_codec.h"

@@ -1,3 +1,4 @@
+// Edit, AddNew and Update: the values given so far, and the statements that write them.
 #include "jet/dao/recordset/row_editor.h"
 
 #include <algorithm>
@@ -82,8 +83,12 @@ std::vector<RowEditor::Default> RowEditor::findDefaults() {
   return found;
 }
 
-void RowEditor::cancel() {
+void RowEditor::requireEditing() const {
   if (mode_ == dbEditNone) notInEdit();
+}
+
+void RowEditor::cancel() {
+  requireEditing();
   mode_ = dbEditNone;
 }
 
@@ -97,7 +102,7 @@ runtime::Variant RowEditor::converted(std::size_t field, const runtime::Variant&
 }
 
 void RowEditor::set(std::size_t field, const runtime::Variant& value) {
-  if (mode_ == dbEditNone) notInEdit();
+  requireEditing();
   const auto& info = fields_[field];
   const bool counter = info.attributes & dbAutoIncrField;
   if (!info.part || (counter && mode_ == dbEditInProgress))

@@ -21,6 +21,8 @@ class RowEditor {
   /// Gives the fields their default values and auto-numbers.
   void add();
   void cancel();
+  /// Error 3020 outside edit and add.
+  void requireEditing() const;
   /// What the field has been given; nullptr if nothing.
   const runtime::Variant* value(std::size_t field) const;
   /// Converts the value to the field's type. Error 3020 outside edit and add, 3421, 3163, 3164.

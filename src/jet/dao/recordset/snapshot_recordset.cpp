@@ -1,3 +1,4 @@
+// Snapshots: rows copied into a table of the image.
 #include "jet/dao/recordset/snapshot_recordset.h"
 
 #include "jet/dao/values.h"
@@ -37,11 +38,11 @@ SnapshotRecordset::SnapshotRecordset(std::shared_ptr<Session> session, Origin or
   fill();
 }
 
-SnapshotRecordset::SnapshotRecordset(const SnapshotRecordset& other, std::vector<Narrowing> narrowings)
+SnapshotRecordset::SnapshotRecordset(const SnapshotRecordset& other, std::vector<RowFilter> rowFilters)
     : PositionedRecordset(other.session_, other.origin_, other.fields_),
       plan_(other.plan_),
       answers_(other.answers_) {
-  narrowings_ = std::move(narrowings);
+  rowFilters_ = std::move(rowFilters);
 }
 
 std::shared_ptr<SnapshotRecordset::Rows> SnapshotRecordset::newRows() {
@@ -61,14 +62,14 @@ void SnapshotRecordset::fill() {
   auto rows = newRows();
   session_->runner().prepareInto("INSERT INTO " + rows->table + " ", plan_, answers_).run();
   use(std::move(rows));
-  for (const auto& narrowing : narrowings_) narrow(narrowing);
+  for (const auto& rowFilter : rowFilters_) filterRows(rowFilter);
 }
 
-void SnapshotRecordset::narrow(const Narrowing& narrowing) {
+void SnapshotRecordset::filterRows(const RowFilter& rowFilter) {
   auto rows = newRows();
   auto copy = session_->image().connection().prepare("INSERT INTO " + rows->table + " SELECT * FROM " +
                                                      rows_->table + " WHERE rowid = ?1");
-  for (const auto place : narrowed(narrowing)) {
+  for (const auto place : filteredBy(rowFilter)) {
     copy.bind(1, place + 1);
     copy.run();
   }
@@ -102,14 +103,14 @@ runtime::Variant SnapshotRecordset::fieldValue(std::size_t index) const {
 
 RecordsetPtr SnapshotRecordset::OpenRecordset() {
   requireOpen();
-  auto opened = std::shared_ptr<SnapshotRecordset>(new SnapshotRecordset(*this, narrowings()));
+  auto opened = std::shared_ptr<SnapshotRecordset>(new SnapshotRecordset(*this, rowFilters()));
   opened->fill();
   return opened;
 }
 
 RecordsetPtr SnapshotRecordset::Clone() {
   requireOpen();
-  auto clone = std::shared_ptr<SnapshotRecordset>(new SnapshotRecordset(*this, narrowings_));
+  auto clone = std::shared_ptr<SnapshotRecordset>(new SnapshotRecordset(*this, rowFilters_));
   clone->use(rows_);
   clone->becomeCloneOf(*this);
   return clone;

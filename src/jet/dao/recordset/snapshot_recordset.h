@@ -39,13 +39,13 @@ class SnapshotRecordset : public PositionedRecordset {
     std::int64_t size = 0;
   };
 
-  SnapshotRecordset(const SnapshotRecordset& other, std::vector<Narrowing> narrowings);
+  SnapshotRecordset(const SnapshotRecordset& other, std::vector<RowFilter> rowFilters);
 
   std::int64_t count() const override { return rows_ ? rows_->size : 0; }
   void moved() override;
   std::unique_ptr<RecordSearch> makeSearch() override;
   void fill();
-  void narrow(const Narrowing& narrowing);
+  void filterRows(const RowFilter& rowFilter);
   std::shared_ptr<Rows> newRows();
   void use(std::shared_ptr<Rows> rows);
   [[noreturn]] void refuse() const;

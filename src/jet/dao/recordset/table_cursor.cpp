@@ -1,3 +1,4 @@
+// A cursor over a table of the image that remembers no more than where it stands.
 #include "jet/dao/recordset/table_cursor.h"
 
 #include "jet/dao/values.h"

@@ -1,3 +1,5 @@
+// Tables as recordsets: in the order of an index or of their rows, read straight from the file where they
+// can.
 #include "jet/dao/recordset/table_recordset.h"
 
 #include <cstring>
@@ -19,12 +21,10 @@ runtime::Bytes bookmarkOf(std::int64_t rowid) {
 
 TableRecordset::TableRecordset(std::shared_ptr<Session> session, Origin origin, std::uint32_t page,
                                bool readOnly)
-    : RecordsetBase(session, std::move(origin), tableFields(session->image().definition(page))),
+    : EditableRecordset(session, std::move(origin), tableFields(session->image().definition(page)), {page},
+                        readOnly),
       page_(page),
-      readOnly_(readOnly || session->readOnly()),
-      cursor_(session->image(), page),
-      reader_(session, {page}, fields_),
-      editor_(session, {page}, fields_) {
+      cursor_(session->image(), page) {
   start();
 }
 
@@ -51,9 +51,7 @@ void TableRecordset::goTo(std::optional<std::int64_t> rowid, Place otherwise) {
     rowid_ = *rowid;
     cursor_.standOn(rowid_);
   }
-  fetched_ = false;
-  reader_.release();
-  if (editor_.mode() != dbEditNone) editor_.cancel();
+  leaveEdited();
 }
 
 std::int64_t TableRecordset::requireRecord() const {
@@ -163,61 +161,13 @@ void TableRecordset::Seek(std::string_view comparison, std::span<const runtime::
   goTo(found, RecordCount() > 0 ? Place::Behind : Place::None);
 }
 
-void TableRecordset::fetch() const {
-  const auto rowid = requireRecord();
-  if (!fetched_ && !reader_.read(&rowid)) recordDeleted();
-  fetched_ = true;
+runtime::Variant TableRecordset::storedValue(std::size_t index) const {
+  return file_ ? (requireRecord(), file_->value(index)) : EditableRecordset::storedValue(index);
 }
 
-runtime::Variant TableRecordset::fieldValue(std::size_t index) const {
-  requireOpen();
-  if (const auto* value = editor_.value(index)) return *value;
-  if (editor_.mode() == dbEditAdd) return runtime::Null{};
-  if (file_) return requireRecord(), file_->value(index);
-  fetch();
-  return reader_.value(index);
-}
-
-void TableRecordset::setFieldValue(std::size_t index, const runtime::Variant& value) {
-  requireOpen();
-  editor_.set(index, value);
-}
-
-void TableRecordset::requireChangeable() const {
-  requireOpen();
-  if (readOnly_) readOnlyRecordset();
-}
-
-void TableRecordset::Edit() {
-  requireChangeable();
-  fetch();
-  editor_.edit();
-}
-
-void TableRecordset::AddNew() {
-  requireChangeable();
-  editor_.add();
-}
-
-void TableRecordset::CancelUpdate() {
-  requireChangeable();
-  editor_.cancel();
-}
-
-void TableRecordset::Update() {
-  requireChangeable();
-  reader_.release();
-  fetched_ = false;
-  switch (editor_.mode()) {
-    case dbEditAdd:
-      lastModified_ = editor_.insert().second;
-      return;
-    case dbEditInProgress:
-      lastModified_ = requireRecord();
-      return editor_.change(&rowid_);
-    default:
-      editor_.cancel();  // tells that there is nothing to update
-  }
+void TableRecordset::changeRecord() {
+  lastModified_ = requireRecord();
+  editor_.change(&rowid_);
 }
 
 void TableRecordset::Delete() {

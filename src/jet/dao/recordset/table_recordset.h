@@ -3,16 +3,14 @@
 #include <optional>
 #include <string>
 
+#include "jet/dao/recordset/editable_recordset.h"
 #include "jet/dao/recordset/file_rows.h"
-#include "jet/dao/recordset/recordset_base.h"
-#include "jet/dao/recordset/row_editor.h"
-#include "jet/dao/recordset/row_reader.h"
 #include "jet/dao/recordset/table_cursor.h"
 
 namespace jet::dao {
 
 /// A table itself. While a read-only one is only read onward, its rows come straight from the file.
-class TableRecordset : public RecordsetBase {
+class TableRecordset : public EditableRecordset<RecordsetBase> {
  public:
   TableRecordset(std::shared_ptr<Session> session, Origin origin, std::uint32_t page, bool readOnly);
 
@@ -35,14 +33,6 @@ class TableRecordset : public RecordsetBase {
   RecordsetPtr OpenRecordset() override;
   RecordsetPtr Clone() override;
 
-  runtime::Variant fieldValue(std::size_t index) const override;
-  void setFieldValue(std::size_t index, const runtime::Variant& value) override;
-  bool Updatable() const override { return requireOpen(), !readOnly_; }
-  EditModeType EditMode() const override { return requireOpen(), editor_.mode(); }
-  void Edit() override;
-  void AddNew() override;
-  void Update() override;
-  void CancelUpdate() override;
   void Delete() override;
   void Requery() override;
   void Close() override;
@@ -53,23 +43,22 @@ class TableRecordset : public RecordsetBase {
   /// Goes to the row, or to `otherwise`.
   void goTo(std::optional<std::int64_t> rowid, Place otherwise);
   std::int64_t requireRecord() const;
-  void requireChangeable() const;
-  void fetch() const;
+  std::int64_t currentRecord() const override { return requireRecord(); }
+  bool readRecord(std::int64_t record) const override { return reader_.read(&record); }
+  runtime::Variant storedValue(std::size_t index) const override;
+  void insertRecord() override { lastModified_ = editor_.insert().second; }
+  void changeRecord() override;
   /// From the file's rows to the image's.
   void leaveFile();
   void start();
 
   std::uint32_t page_;
-  bool readOnly_;
   std::optional<FileRows> file_;
   TableCursor cursor_;
   std::string index_;
   Place place_ = Place::None;
   std::int64_t rowid_ = 0;  // on a record, or on a deleted one
   std::optional<std::int64_t> lastModified_;
-  mutable RowReader reader_;
-  mutable bool fetched_ = false;
-  RowEditor editor_;
   mutable std::int64_t count_ = 0;            // RecordCount,
   mutable std::int64_t countedChanges_ = -1;  // when the image had seen so many changes
 };
