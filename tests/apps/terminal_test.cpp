@@ -90,9 +90,9 @@ TEST_F(JetsqlAtTerminal, KeysEditTheLine) {
   for (int i = 0; i < 3; ++i) terminal.type("\x1B[C");  // to the right, behind 'è'
   terminal.type(Backspace + std::string(Backspace) + "\xC3\xB9'\r");
   EXPECT_THAT(terminal.prompt(Prompt), HasSubstr("y\tx\r\n1\tùbx\r\n"));
-  EXPECT_THAT(terminal.ask(terminal, "SELECT 12 AS n;" + std::string(Left) + Left + Left + Left + Left +
-                                         Left + Backspace + ""),
-              HasSubstr("n\r\n1\r\n"));
+  EXPECT_THAT(
+      terminal.ask("SELECT 12 AS n;" + std::string(Left) + Left + Left + Left + Left + Left + Backspace),
+      HasSubstr("n\r\n1\r\n"));
 }
 
 TEST_F(JetsqlAtTerminal, StatementsAreRememberedAcrossSessions) {
