@@ -49,7 +49,7 @@ class TableCursor {
   std::uint32_t page_;
   std::vector<file::IndexColumn> columns_;
   std::int64_t rowid_ = 0;
-  image::Prepared<> ready_;               // the table
+  image::Prepared<> ready_;              // the table
   std::vector<image::StoredValue> key_;  // of the row where it stands: values of columns_
   std::map<std::string, image::Statement> statements_;
 };
