@@ -68,7 +68,7 @@ MessageAnswer BatchDesktop::showBox(const std::string& text, int style, const st
 std::string BatchDesktop::showInput(const std::string& prompt, const std::string& title,
                                     const std::string& text) {
   const bool givenUp = answer_ == Answer::No || answer_ == Answer::Cancel;
-  const std::string answer = application_ ? *application_ : givenUp ? std::string() : text;
+  std::string answer = application_ ? *application_ : givenUp ? std::string() : text;
   write("richiesta", title, prompt);
   out_ << " -> \"" << oneLine(answer) << '"' << std::endl;
   return answer;

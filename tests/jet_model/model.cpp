@@ -33,7 +33,8 @@ std::size_t Table::column(std::string_view wanted) const {
 std::vector<std::size_t> Table::displayOrder() const {
   std::vector<std::size_t> order(columns.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, {}, [&](std::size_t i) { return columns[i].position; });
+  std::ranges::sort(order, {},
+                    [&](std::size_t i) { return std::pair(columns[i].position, columns[i].number); });
   return order;
 }
 

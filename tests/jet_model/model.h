@@ -17,7 +17,7 @@ struct Column {
   int size = 0;  // characters of a text
   bool autoNumber = false;
   int position = 0;
-  int number = 0;  // in the order of creation
+  int number = 0;  // among those of one position the lower comes first
 };
 
 struct Index {

@@ -95,6 +95,11 @@ void Play::compact() {
   const std::string copy = path_ + ".compact";
   DBEngine::CompactDatabase(path_, copy);
   std::filesystem::rename(platform::toSystemPath(copy), platform::toSystemPath(path_));
+  // The copy numbers its columns as they are shown, without gaps.
+  for (Table& table : model_.tables) {
+    table.created = 0;
+    for (const std::size_t column : table.displayOrder()) table.columns[column].number = table.created++;
+  }
 }
 
 Database Play::readBack() const {
