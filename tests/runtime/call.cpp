@@ -59,65 +59,77 @@ Variant rounded(const Variant& value, std::int64_t decimals) {
 using Function = std::function<Variant(const Arguments&)>;
 
 const std::map<std::string, Function, std::less<>> Functions = {
-    {"AscW", [](const Arguments& a) { return ascW(a.text(0)); }},
-    {"CBool", [](const Arguments& a) { return a[0].toBoolean(); }},
-    {"CByte", [](const Arguments& a) { return a[0].toByte(); }},
-    {"CCur", [](const Arguments& a) { return a[0].toCurrency(); }},
-    {"CDate", [](const Arguments& a) { return a[0].toDate(); }},
-    {"CDbl", [](const Arguments& a) { return a[0].toDouble(); }},
-    {"CInt", [](const Arguments& a) { return a[0].toInteger(); }},
-    {"CLng", [](const Arguments& a) { return a[0].toLong(); }},
-    {"CStr", [](const Arguments& a) { return a.text(0); }},
-    {"ChrW", [](const Arguments& a) { return chrW(a.whole(0)); }},
-    {"DateAdd", [](const Arguments& a) { return dateAdd(a.text(0), a[1].toDouble(), a.date(2)); }},
+    {"AscW", [](const Arguments& a) -> Variant { return ascW(a.text(0)); }},
+    {"CBool", [](const Arguments& a) -> Variant { return a[0].toBoolean(); }},
+    {"CByte", [](const Arguments& a) -> Variant { return a[0].toByte(); }},
+    {"CCur", [](const Arguments& a) -> Variant { return a[0].toCurrency(); }},
+    {"CDate", [](const Arguments& a) -> Variant { return a[0].toDate(); }},
+    {"CDbl", [](const Arguments& a) -> Variant { return a[0].toDouble(); }},
+    {"CInt", [](const Arguments& a) -> Variant { return a[0].toInteger(); }},
+    {"CLng", [](const Arguments& a) -> Variant { return a[0].toLong(); }},
+    {"CStr", [](const Arguments& a) -> Variant { return a.text(0); }},
+    {"ChrW", [](const Arguments& a) -> Variant { return chrW(a.whole(0)); }},
+    {"DateAdd", [](const Arguments& a) -> Variant { return dateAdd(a.text(0), a[1].toDouble(), a.date(2)); }},
     {"DateDiff",
-     [](const Arguments& a) { return dateDiff(a.text(0), a.date(1), a.date(2), a.number(3, 1)); }},
+     [](const Arguments& a) -> Variant { return dateDiff(a.text(0), a.date(1), a.date(2), a.number(3, 1)); }},
     {"DateOf",
-     [](const Arguments& a) {
+     [](const Arguments& a) -> Variant {
        const auto date = dateFromText(a.text(0));
        return date ? Variant(*date) : Variant("");
      }},
     {"DatePart",
-     [](const Arguments& a) { return datePart(a.text(0), a.date(1), a.number(2, 1), a.number(3, 1)); }},
-    {"DateSerial", [](const Arguments& a) { return dateSerial(a.whole(0), a.whole(1), a.whole(2)); }},
-    {"DayOf", [](const Arguments& a) { return dayOf(a.date(0)); }},
-    {"Format", [](const Arguments& a) { return format(a[0], a.text(1), a.number(2, 1), a.number(3, 1)); }},
-    {"Hex", [](const Arguments& a) { return inBase(a[0], [](auto value) { return hex(value); }); }},
+     [](const Arguments& a) -> Variant {
+       return datePart(a.text(0), a.date(1), a.number(2, 1), a.number(3, 1));
+     }},
+    {"DateSerial",
+     [](const Arguments& a) -> Variant { return dateSerial(a.whole(0), a.whole(1), a.whole(2)); }},
+    {"DayOf", [](const Arguments& a) -> Variant { return dayOf(a.date(0)); }},
+    {"Format",
+     [](const Arguments& a) -> Variant { return format(a[0], a.text(1), a.number(2, 1), a.number(3, 1)); }},
+    {"Hex",
+     [](const Arguments& a) -> Variant { return inBase(a[0], [](auto value) { return hex(value); }); }},
     {"InStr",
-     [](const Arguments& a) { return whole(inStr(a.whole(0), a.text(1), a.text(2), a.compare(3))); }},
+     [](const Arguments& a) -> Variant {
+       return whole(inStr(a.whole(0), a.text(1), a.text(2), a.compare(3)));
+     }},
     {"InStrRev",
-     [](const Arguments& a) { return whole(inStrRev(a.text(0), a.text(1), a.whole(2, -1), a.compare(3))); }},
-    {"LTrim", [](const Arguments& a) { return leftTrimmed(a.text(0)); }},
-    {"Left", [](const Arguments& a) { return left(a.text(0), a.whole(1)); }},
-    {"Len", [](const Arguments& a) { return whole(static_cast<std::int64_t>(length(a.text(0)))); }},
-    {"Like", [](const Arguments& a) { return isLike(a.text(0), a.text(1), byLetters); }},
+     [](const Arguments& a) -> Variant {
+       return whole(inStrRev(a.text(0), a.text(1), a.whole(2, -1), a.compare(3)));
+     }},
+    {"LTrim", [](const Arguments& a) -> Variant { return leftTrimmed(a.text(0)); }},
+    {"Left", [](const Arguments& a) -> Variant { return left(a.text(0), a.whole(1)); }},
+    {"Len",
+     [](const Arguments& a) -> Variant { return whole(static_cast<std::int64_t>(length(a.text(0)))); }},
+    {"Like", [](const Arguments& a) -> Variant { return isLike(a.text(0), a.text(1), byLetters); }},
     {"Mid",
-     [](const Arguments& a) {
+     [](const Arguments& a) -> Variant {
        return a.has(2) ? mid(a.text(0), a.whole(1), a.whole(2)) : mid(a.text(0), a.whole(1));
      }},
-    {"Oct", [](const Arguments& a) { return inBase(a[0], [](auto value) { return oct(value); }); }},
+    {"Oct",
+     [](const Arguments& a) -> Variant { return inBase(a[0], [](auto value) { return oct(value); }); }},
     {"Partition",
-     [](const Arguments& a) { return partition(a.whole(0), a.whole(1), a.whole(2), a.whole(3)); }},
+     [](const Arguments& a) -> Variant { return partition(a.whole(0), a.whole(1), a.whole(2), a.whole(3)); }},
     {"Replace",
-     [](const Arguments& a) {
+     [](const Arguments& a) -> Variant {
        return replace(a.text(0), a.text(1), a.text(2), a.whole(3, 1), a.whole(4, -1), a.compare(5));
      }},
-    {"Right", [](const Arguments& a) { return right(a.text(0), a.whole(1)); }},
-    {"Round", [](const Arguments& a) { return rounded(a[0], a.whole(1)); }},
-    {"Space", [](const Arguments& a) { return space(a.whole(0)); }},
+    {"Right", [](const Arguments& a) -> Variant { return right(a.text(0), a.whole(1)); }},
+    {"Round", [](const Arguments& a) -> Variant { return rounded(a[0], a.whole(1)); }},
+    {"Space", [](const Arguments& a) -> Variant { return space(a.whole(0)); }},
     {"Str",
-     [](const Arguments& a) {
+     [](const Arguments& a) -> Variant {
        const auto* number = std::get_if<std::int32_t>(&a[0].value());
        return number ? str(*number) : str(a[0].toDouble());
      }},
-    {"StrComp", [](const Arguments& a) { return strComp(a.text(0), a.text(1), a.compare(2)); }},
-    {"StrConv", [](const Arguments& a) { return strConv(a.text(0), a.whole(1)); }},
-    {"StrReverse", [](const Arguments& a) { return strReverse(a.text(0)); }},
-    {"String", [](const Arguments& a) { return repeated(a.whole(0), a.text(1)); }},
-    {"TimeOf", [](const Arguments& a) { return timeOf(a.date(0)); }},
-    {"TimeSerial", [](const Arguments& a) { return timeSerial(a.whole(0), a.whole(1), a.whole(2)); }},
-    {"Trim", [](const Arguments& a) { return trimmed(a.text(0)); }},
-    {"Val", [](const Arguments& a) { return val(a.text(0)); }},
+    {"StrComp", [](const Arguments& a) -> Variant { return strComp(a.text(0), a.text(1), a.compare(2)); }},
+    {"StrConv", [](const Arguments& a) -> Variant { return strConv(a.text(0), a.whole(1)); }},
+    {"StrReverse", [](const Arguments& a) -> Variant { return strReverse(a.text(0)); }},
+    {"String", [](const Arguments& a) -> Variant { return repeated(a.whole(0), a.text(1)); }},
+    {"TimeOf", [](const Arguments& a) -> Variant { return timeOf(a.date(0)); }},
+    {"TimeSerial",
+     [](const Arguments& a) -> Variant { return timeSerial(a.whole(0), a.whole(1), a.whole(2)); }},
+    {"Trim", [](const Arguments& a) -> Variant { return trimmed(a.text(0)); }},
+    {"Val", [](const Arguments& a) -> Variant { return val(a.text(0)); }},
 };
 
 const std::map<std::string, Variant, std::less<>> Constants = {
